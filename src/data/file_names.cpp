@@ -1,0 +1,94 @@
+#include "data/file_names.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <locale>
+#include <system_error>
+#include <utility>
+
+#include "data/text_file.h"
+
+namespace kickwell {
+namespace {
+
+/// The letter facts of all scripts, where the system has them; else those of ASCII.
+std::locale LetterLocale() {
+  try {
+    return std::locale("C.UTF-8");
+  } catch (const std::runtime_error&) {
+    return std::locale::classic();
+  }
+}
+
+/// Two texts have equal keys exactly when they differ in nothing but letter case.
+std::u32string CaseKey(std::string_view text) {
+  static const std::locale Letters = LetterLocale();
+  const auto& facet = std::use_facet<std::ctype<wchar_t>>(Letters);
+  std::u32string key = ToCodePoints(text);
+  for (char32_t& c : key) {
+    // Up and down again also joins letters with several lower-case forms, such as the final sigma.
+    c = static_cast<char32_t>(facet.tolower(facet.toupper(static_cast<wchar_t>(c))));
+  }
+  return key;
+}
+
+/// CON, NUL and their like, which some systems take for devices whatever extension follows.
+bool IsDeviceName(std::string_view name) {
+  std::string base(name.substr(0, name.find('.')));
+  while (base.ends_with(' ')) base.pop_back();
+  std::transform(base.begin(), base.end(), base.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  constexpr std::array Devices = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
+  if (std::find(Devices.begin(), Devices.end(), base) != Devices.end()) return true;
+  if (!base.starts_with("COM") && !base.starts_with("LPT")) return false;
+  const std::string_view port = std::string_view(base).substr(3);
+  constexpr std::array<std::string_view, 3> Superscripts = {"\u00B9", "\u00B2", "\u00B3"};
+  return (port.size() == 1 && port[0] >= '0' && port[0] <= '9') ||
+         std::find(Superscripts.begin(), Superscripts.end(), port) != Superscripts.end();
+}
+
+}  // namespace
+
+bool IsFileName(std::string_view name) {
+  constexpr std::size_t LongestName = 255;
+  if (name.empty() || name.size() > LongestName || name.ends_with('.') || name.ends_with(' ')) return false;
+  const std::u32string points = ToCodePoints(name);
+  const auto forbidden = [](char32_t c) {
+    return c < 0x20 || (c >= 0x7F && c < 0xA0) ||
+           std::u32string_view(U"/\\:*?\"<>|").find(c) != std::u32string::npos;
+  };
+  return std::none_of(points.begin(), points.end(), forbidden) && !IsDeviceName(name);
+}
+
+std::string FileNameRefusal(std::string_view name) {
+  return std::string(name) + " can't be used as a file name.";
+}
+
+bool StaysInFolder(std::string_view name) {
+  return !name.empty() && name != "." && name != ".." &&
+         name.find_first_of(std::string_view("/\\\0", 3)) == std::string_view::npos;
+}
+
+bool ListedBefore(std::string_view a, std::string_view b) {
+  return std::pair(CaseKey(a), a) < std::pair(CaseKey(b), b);
+}
+
+std::vector<std::string> ListFiles(const std::filesystem::path& folder, std::string_view extension) {
+  std::vector<std::pair<std::u32string, std::string>> found;  // With the case key, made once for each.
+  std::error_code error;
+  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    std::string name = entry->path().filename().string();
+    std::error_code typeError;
+    if (name.ends_with(extension) && entry->is_regular_file(typeError))
+      found.emplace_back(CaseKey(name), std::move(name));
+  }
+  std::sort(found.begin(), found.end());
+  std::vector<std::string> names;
+  names.reserve(found.size());
+  for (auto& [key, name] : found) names.push_back(std::move(name));
+  return names;
+}
+
+}  // namespace kickwell

@@ -1,0 +1,244 @@
+#include "data/text_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+namespace kickwell {
+namespace {
+
+constexpr char32_t Replacement = 0xFFFD;
+
+bool IsHighSurrogate(char32_t c) {
+  return c >= 0xD800 && c <= 0xDBFF;
+}
+bool IsLowSurrogate(char32_t c) {
+  return c >= 0xDC00 && c <= 0xDFFF;
+}
+
+void AppendUtf8(std::string& text, char32_t c) {
+  const auto byte = [&text](char32_t value) { text.push_back(static_cast<char>(value)); };
+  if (c < 0x80) {
+    byte(c);
+  } else if (c < 0x800) {
+    byte(0xC0 | c >> 6);
+    byte(0x80 | (c & 0x3F));
+  } else if (c < 0x10000) {
+    byte(0xE0 | c >> 12);
+    byte(0x80 | (c >> 6 & 0x3F));
+    byte(0x80 | (c & 0x3F));
+  } else {
+    byte(0xF0 | c >> 18);
+    byte(0x80 | (c >> 12 & 0x3F));
+    byte(0x80 | (c >> 6 & 0x3F));
+    byte(0x80 | (c & 0x3F));
+  }
+}
+
+/// The code point that starts at `place`, which moves behind it; a bad byte is passed over alone.
+char32_t NextCodePoint(std::string_view text, std::size_t& place) {
+  const auto at = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+  const unsigned char lead = at(place++);
+  if (lead < 0x80) return lead;
+  const std::size_t more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
+  if (lead < 0xC2 || lead > 0xF4 || text.size() - place < more) return Replacement;
+  char32_t c = lead & (0x3FU >> more);
+  for (std::size_t i = 0; i < more; ++i) {
+    if ((at(place + i) & 0xC0U) != 0x80) return Replacement;
+    c = c << 6 | (at(place + i) & 0x3FU);
+  }
+  constexpr char32_t Shortest[] = {0, 0x80, 0x800, 0x10000};  // Longer forms of a code point are refused.
+  if (c < Shortest[more] || c > 0x10FFFF) return Replacement;
+  place += more;
+  return c;
+}
+
+enum class Encoding { Utf8, Utf16Little, Utf16Big };
+
+/// Without a mark only UTF-16 holds zero bytes: the high bytes of digits and of line ends.
+Encoding GuessEncoding(std::string_view bytes) {
+  std::size_t zeros[2] = {0, 0};
+  for (std::size_t i = 0; i < bytes.size(); ++i) zeros[i % 2] += bytes[i] == '\0' ? 1 : 0;
+  if (zeros[0] == 0 && zeros[1] == 0) return Encoding::Utf8;
+  return zeros[0] > zeros[1] ? Encoding::Utf16Big : Encoding::Utf16Little;
+}
+
+std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
+  std::string text;
+  text.reserve(bytes.size() / 2);
+  const auto unit = [&](std::size_t i) {
+    const auto first = static_cast<unsigned char>(bytes[i]);
+    const auto second = static_cast<unsigned char>(bytes[i + 1]);
+    return static_cast<char32_t>(bigEndian ? first << 8 | second : second << 8 | first);
+  };
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    char32_t c = unit(i);
+    if (IsHighSurrogate(c) && i + 3 < bytes.size() && IsLowSurrogate(unit(i + 2))) {
+      c = 0x10000 + ((c - 0xD800) << 10) + (unit(i + 2) - 0xDC00);
+      i += 2;
+    }
+    AppendUtf8(text, c);
+  }
+  return text;
+}
+
+std::string Decode(std::string_view bytes) {
+  Encoding encoding = Encoding::Utf8;
+  if (bytes.starts_with("\xFF\xFE")) {
+    encoding = Encoding::Utf16Little;
+    bytes.remove_prefix(2);
+  } else if (bytes.starts_with("\xFE\xFF")) {
+    encoding = Encoding::Utf16Big;
+    bytes.remove_prefix(2);
+  } else if (bytes.starts_with("\xEF\xBB\xBF")) {
+    bytes.remove_prefix(3);
+  } else {
+    encoding = GuessEncoding(bytes);
+  }
+  if (encoding != Encoding::Utf8) return DecodeUtf16(bytes, encoding == Encoding::Utf16Big);
+  std::string text;
+  text.reserve(bytes.size());
+  for (std::size_t place = 0; place < bytes.size();) AppendUtf8(text, NextCodePoint(bytes, place));
+  return text;
+}
+
+std::string Encode(const Lines& lines) {
+  std::string bytes = "\xFF\xFE";
+  const auto unit = [&bytes](char32_t value) {
+    bytes.push_back(static_cast<char>(value & 0xFF));
+    bytes.push_back(static_cast<char>(value >> 8));
+  };
+  for (const std::string& line : lines) {
+    for (std::size_t place = 0; place < line.size();) {
+      const char32_t c = NextCodePoint(line, place);
+      if (c >= 0x10000) {
+        unit(0xD800 + ((c - 0x10000) >> 10));
+        unit(0xDC00 + ((c - 0x10000) & 0x3FF));
+      } else {
+        unit(c == '\n' ? ' ' : c);
+      }
+    }
+    unit('\r');
+    unit('\n');
+  }
+  return bytes;
+}
+
+Lines Split(std::string_view text) {
+  Lines lines;
+  while (!text.empty()) {
+    const std::size_t end = text.find('\n');
+    std::string_view line = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    lines.emplace_back(line);
+  }
+  return lines;
+}
+
+/// An errno value, 0 for success.
+using Error = int;
+
+Error WriteWhole(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return errno;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return ::fsync(descriptor) == 0 ? 0 : errno;
+}
+
+Error WriteTemporary(const std::filesystem::path& temporary, const std::filesystem::path& target,
+                     std::string_view bytes) {
+  const int descriptor =
+      ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0666);
+  if (descriptor < 0) return errno;
+  struct stat old {};
+  Error error = 0;
+  if (::stat(target.c_str(), &old) == 0 && ::fchmod(descriptor, old.st_mode & 07777) != 0) error = errno;
+  if (error == 0) error = WriteWhole(descriptor, bytes);
+  if (::close(descriptor) != 0 && error == 0) error = errno;
+  return error;
+}
+
+/// Makes the renaming itself last. A file system that cannot flush a folder has still renamed.
+void FlushFolder(const std::filesystem::path& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  ::fsync(descriptor);
+  ::close(descriptor);
+}
+
+Error ReplaceFrom(const std::filesystem::path& folder, const std::filesystem::path& target,
+                  std::string_view bytes) {
+  const std::filesystem::path temporary = folder / ("~kickwell-" + std::to_string(::getpid()) + ".tmp");
+  Error error = WriteTemporary(temporary, target, bytes);
+  if (error == 0 && ::rename(temporary.c_str(), target.c_str()) != 0) error = errno;
+  if (error != 0) {
+    ::unlink(temporary.c_str());
+  } else {
+    FlushFolder(target.parent_path());
+  }
+  return error;
+}
+
+FileResult Result(const std::filesystem::path& file, const char* what, Error error) {
+  if (error == 0) return {};
+  return {"The file " + file.string() + what + std::generic_category().message(error) + "."};
+}
+
+}  // namespace
+
+std::optional<Lines> ReadLines(const std::filesystem::path& file) {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) return std::nullopt;
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) return std::nullopt;
+  const std::string bytes((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
+  return Split(Decode(bytes));
+}
+
+FileResult WriteLines(const std::filesystem::path& file, const Lines& lines,
+                      const std::filesystem::path& temporaryFolder) {
+  std::error_code ignored;
+  std::filesystem::create_directories(file.parent_path(), ignored);
+  std::filesystem::path target = std::filesystem::canonical(file, ignored);
+  if (target.empty()) target = file;
+  constexpr const char* What = " can't be saved: ";
+  // Renaming would get past the write protection of a file, which its owner meant.
+  if (::access(target.c_str(), F_OK) == 0 && ::access(target.c_str(), W_OK) != 0) {
+    return Result(file, What, errno);
+  }
+  const std::string bytes = Encode(lines);
+  Error error = ReplaceFrom(temporaryFolder, target, bytes);
+  // A folder on another disk cannot be renamed into; beside the file is then the only safe place.
+  if (error == EXDEV) error = ReplaceFrom(target.parent_path(), target, bytes);
+  return Result(file, What, error);
+}
+
+FileResult DeleteFile(const std::filesystem::path& file) {
+  const Error error = ::unlink(file.c_str()) == 0 || errno == ENOENT ? 0 : errno;
+  return Result(file, " can't be deleted: ", error);
+}
+
+bool Report(Desktop& desktop, const FileResult& result) {
+  if (!result.Ok()) desktop.Warn(result.Failure);
+  return result.Ok();
+}
+
+std::u32string ToCodePoints(std::string_view text) {
+  std::u32string points;
+  points.reserve(text.size());
+  for (std::size_t place = 0; place < text.size();) points.push_back(NextCodePoint(text, place));
+  return points;
+}
+
+}  // namespace kickwell

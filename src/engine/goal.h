@@ -1,0 +1,21 @@
+// How goals fall: the draw of a second and the credit for a goal, alike in every kind of simulation.
+#pragma once
+
+#include "base/random.h"
+#include "engine/match_session.h"
+
+namespace kickwell {
+
+/// The range of a team's goal draw in a second, from its strength: 12000 - 100 x strength, so 2100 at
+/// strength 99 and 11900 at strength 1. Strengths of damaged team files count as the nearest of 0..99.
+int GoalRange(int strength);
+
+/// Draws for both sides, side 1 first: a side scores whose draw is the match's goal number, side 1 before
+/// side 2, and nobody when the draws are equal. Gives the side that scored, or nullptr.
+Side* DrawGoal(MatchSession& session, Random& random);
+
+/// Draws the scorer from the attackers of the team on the scoring side and notes him: last scorer and team,
+/// and the goal's summary line with the clock.
+void CreditGoal(MatchSession& session, const Side& side, Random& random);
+
+}  // namespace kickwell

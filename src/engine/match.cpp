@@ -1,0 +1,121 @@
+#include "engine/match.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+#include "base/number.h"
+#include "data/stadium_store.h"
+#include "engine/goal.h"
+#include "engine/report.h"
+
+namespace kickwell {
+namespace {
+
+/// The attendance draw's upper end in percent, by weather.
+constexpr std::array WeatherFactors = {100, 95, 85, 90, 80};
+static_assert(WeatherFactors.size() == WeatherTexts.size());
+
+constexpr int SmallestCrowd = 50;  ///< Percent of the capacity.
+
+constexpr int CommentaryView = 0;
+
+}  // namespace
+
+Match::Match(ProgramFolder folder, Desktop& desktop, Random& random, Recording& recording,
+             const MatchSetup& setup)
+    : folder_(std::move(folder)),
+      desktop_(desktop),
+      random_(random),
+      announcement_(session_, random, recording),
+      instant_(session_, random, announcement_, recording) {
+  Form_Load(setup);
+}
+
+void Match::Form_Load(const MatchSetup& setup) {
+  Reset();
+  MatchSession& s = session_;
+  s.Setup = setup;
+  s.Side1.GoalRange = GoalRange(setup.Team1Strength);
+  s.Side2.GoalRange = GoalRange(setup.Team2Strength);
+  s.Side1.Team = setup.Team1Name;
+  s.Side2.Team = setup.Team2Name;
+  s.Side1.Outfield = setup.Team1Outfield;
+  s.Side2.Outfield = setup.Team2Outfield;
+  bool crowdComes = true;
+  if (setup.Mode == MatchMode::Friendly) {
+    s.ExtraTime = setup.ExtraTime;
+    s.PenaltyShootOut = setup.PenaltyShootOut;
+    s.Venue = setup.Venue;
+    s.Weather = setup.Weather;
+    s.Capacity = setup.Capacity;
+  } else {
+    s.ExtraTime = s.PenaltyShootOut = setup.Mode == MatchMode::KnockOut;
+    crowdComes = LeagueVenue();
+  }
+  if (crowdComes) DrawAttendance(WeatherFactors[static_cast<std::size_t>(*s.Weather)]);
+  s.BallX = CentreSpotX;
+  s.BallY = CentreSpotY;
+  s.GoalNumber = random_.Int(100);
+  if (setup.SimulationType == SimulationKind::InstantResult) {
+    s.Controls.instantVisible = true;
+    s.Controls.halftimeVisible = false;
+    s.Controls.Option1Enabled = false;
+  }
+}
+
+void Match::Reset() {
+  session_ = MatchSession();
+}
+
+bool Match::LeagueVenue() {
+  MatchSession& s = session_;
+  if (!StadiumListExists(folder_)) return false;
+  const std::vector<Stadium> stadiums = LoadStadiums(folder_);
+  for (const Stadium& own : stadiums) {
+    const bool home = own.HomeTeam == s.Side1.Team;
+    const Stadium& chosen =
+        home ? own : stadiums[static_cast<std::size_t>(random_.Int(static_cast<int>(stadiums.size())))];
+    s.Venue = VenueText(chosen.Name, chosen.City);
+    s.Capacity = ToNumber(chosen.Capacity);
+    if (home) break;
+  }
+  s.Weather = static_cast<WeatherCondition>(random_.Int(static_cast<int>(WeatherTexts.size())));
+  return true;
+}
+
+void Match::DrawAttendance(int weatherFactor) {
+  MatchSession& s = session_;
+  do {
+    s.AttendancePercent = random_.Int(weatherFactor);
+  } while (s.AttendancePercent < SmallestCrowd);
+  s.Attendance = static_cast<int>(s.AttendancePercent / 100.0 * std::max(s.Capacity, 0));
+}
+
+void Match::instant_Click() {
+  instant_.instant_Click();
+}
+
+void Match::Option1_Click(int index) {
+  session_.Controls.Option1 = index;
+}
+
+std::string Match::ComSaveCaption() const {
+  return session_.Controls.Option1 == CommentaryView ? "Save Commentary" : "Save Summary";
+}
+
+void Match::ComSave_Click() {
+  const bool commentary = session_.Controls.Option1 == CommentaryView;
+  const std::string proposed =
+      session_.Side1.Team + "_" + session_.Side2.Team + (commentary ? "_Commentary" : "_Summary");
+  const std::optional<std::string> name = desktop_.AskSaveName(proposed);
+  if (!name || name->empty()) return;
+  Report(desktop_, WritePage(PageFile(*name), commentary ? CommentaryPage(session_) : SummaryPage(session_)));
+}
+
+void Match::Command1_Click() {
+  Closed = Closed || desktop_.Ask("Do you really want to exit?");
+}
+
+}  // namespace kickwell

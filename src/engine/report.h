@@ -1,0 +1,31 @@
+// Matches as HTML pages.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "data/text_file.h"
+#include "engine/match_session.h"
+
+namespace kickwell {
+
+/// The page of the match summary, with venue, attendance and match facts, line by line.
+Lines SummaryPage(const MatchSession& session);
+
+/// The page of the match commentary, line by line.
+Lines CommentaryPage(const MatchSession& session);
+
+/// The closing lines that every page of the program shares.
+Lines PageFooter();
+
+/// `text` with every "<" as "&lt;", so that no name can carry markup into a page.
+std::string PageText(const std::string& text);
+
+/// The file that the user meant by `name`: ".htm" is added unless it ends in an extension. Blanks and dots of
+/// club names are told apart from one: an extension is a dot and at most five letters or digits.
+std::filesystem::path PageFile(const std::string& name);
+
+/// Writes the page, over an existing file without a question.
+FileResult WritePage(const std::filesystem::path& file, const Lines& page);
+
+}  // namespace kickwell

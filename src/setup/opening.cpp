@@ -1,0 +1,52 @@
+#include "setup/opening.h"
+
+#include <utility>
+
+#include "base/program.h"
+
+namespace kickwell {
+namespace {
+
+std::string Pointer(const char* file, const char* purpose) {
+  return std::string("Read the file '") + file + "' in your " + std::string(ProgramTitle) + " folder for " +
+         purpose + ".";
+}
+
+}  // namespace
+
+Opening::Opening(Desktop& desktop, OpeningScreens screens)
+    : desktop_(desktop), screens_(std::move(screens)) {}
+
+void Opening::Choose(MatchMode mode) {
+  Mode = mode;
+  ChampionshipName = NoChampionship;
+  StatisticsEnabled = mode != MatchMode::Friendly;
+  if (mode == MatchMode::Friendly) return;
+  LeagueMenuVisible = mode == MatchMode::League;
+  KnockChartVisible = mode == MatchMode::KnockOut;
+}
+
+void Opening::MatchMenu_Click() {
+  Choose(MatchMode::Friendly);
+  screens_.Settings();
+}
+
+void Opening::KnockLoad_Click() {
+  Choose(MatchMode::KnockOut);
+  screens_.KnockSettings();
+}
+
+void Opening::LegLoad_Click() {
+  Choose(MatchMode::League);
+  screens_.LegSettings();
+}
+
+void Opening::ReadMenu_Click() {
+  desktop_.Inform(Pointer("Help.htm", "help"));
+}
+
+void Opening::HistMenu_Click() {
+  desktop_.Inform(Pointer("History.txt", "history"));
+}
+
+}  // namespace kickwell

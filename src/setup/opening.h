@@ -1,0 +1,55 @@
+// The main menu: the program's first screen. It holds the mode and the championship of the whole run.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "base/desktop.h"
+#include "engine/match_setup.h"
+
+namespace kickwell {
+
+/// Opens each screen over the menu and returns when it has closed. A screen that is not wired cannot be
+/// opened.
+struct OpeningScreens {
+  using Open = std::function<void()>;
+  Open Settings, KnockSettings, LegSettings;
+  Open TeamEditor, StadEditor, LegEditor;
+  Open TopScorers, Table, LegResults, KnockCharts;
+};
+
+class Opening {
+ public:
+  Opening(Desktop& desktop, OpeningScreens screens);
+
+  void MatchMenu_Click();
+  void KnockLoad_Click();
+  void LegLoad_Click();
+  void ExitMenu_Click() { Closed = true; }
+  void TeamMenu_Click() { screens_.TeamEditor(); }
+  void StadMenu_Click() { screens_.StadEditor(); }
+  void LegMenu_Click() { screens_.LegEditor(); }
+  void ScorerMenu_Click() { screens_.TopScorers(); }
+  void LeagueMenu_Click() { screens_.Table(); }
+  void LegRes_Click() { screens_.LegResults(); }
+  void KnockChart_Click() { screens_.KnockCharts(); }
+  void ReadMenu_Click();
+  void HistMenu_Click();
+
+  const OpeningScreens& Screens() const { return screens_; }
+
+  MatchMode Mode = MatchMode::Friendly;
+  std::string ChampionshipName{NoChampionship};
+  bool StatisticsEnabled = false;
+  bool LeagueMenuVisible = true;
+  bool KnockChartVisible = true;
+  bool Closed = false;  ///< The program is to end.
+
+ private:
+  void Choose(MatchMode mode);
+
+  Desktop& desktop_;
+  OpeningScreens screens_;
+};
+
+}  // namespace kickwell

@@ -1,0 +1,52 @@
+// The line-up selection: both elevens of a match.
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "base/desktop.h"
+#include "base/program.h"
+#include "engine/match_setup.h"
+#include "setup/line_up.h"
+
+namespace kickwell {
+
+class Selection {
+ public:
+  using OpenMatch = std::function<void(const MatchSetup&)>;  ///< Returns when the match screen has closed.
+
+  /// `setup` names the two teams and holds what the opener has chosen for the match. The squads are loaded by
+  /// the first Timer1_Timer, when the screen has been drawn.
+  Selection(ProgramFolder folder, Desktop& desktop, OpenMatch openMatch, MatchSetup setup);
+
+  /// Loads both squads and puts the first eleven of each file into the slots; a squad of fewer than eleven is
+  /// told and keeps "Continue" disabled for good. Later calls do nothing.
+  void Timer1_Timer();
+
+  /// Puts player `entry` of the squad into slot `slot` (0..10) of side 1 or 2.
+  void Combo1_Click(int slot, int entry) { Side1.Choose(slot, entry); }
+  void Combo2_Click(int slot, int entry) { Side2.Choose(slot, entry); }
+
+  /// Tells the first fault of the line-ups, or hands them to the match screen; closes when that has closed.
+  void Command1_Click();
+
+  void Command2_Click() { Closed = true; }  ///< Cancels: no match is played.
+
+  const MatchSetup& Setup() const { return setup_; }
+
+  LineUp Side1, Side2;
+  bool Command1Enabled = true;
+  bool Closed = false;
+
+ private:
+  void LoadSquad(LineUp& side, const std::string& team);
+
+  ProgramFolder folder_;
+  Desktop& desktop_;
+  OpenMatch openMatch_;
+  MatchSetup setup_;
+  bool loaded_ = false;
+};
+
+}  // namespace kickwell

@@ -1,0 +1,85 @@
+#include "setup/settings.h"
+
+#include <string>
+#include <utility>
+
+#include "base/number.h"
+#include "data/stadium_store.h"
+#include "data/team_store.h"
+
+namespace kickwell {
+namespace {
+
+/// Moves `other` on to its next entry, from the last to the first, when it shows what `picked` shows.
+void KeepApart(const Chooser& picked, Chooser& other) {
+  if (other.Picked != Chooser::None && other.Text() == picked.Text()) {
+    other.Picked = (other.Picked + 1) % other.Count();
+  }
+}
+
+template <typename Texts>
+Chooser OfferTexts(const Texts& texts) {
+  return {{texts.begin(), texts.end()}, 0};
+}
+
+}  // namespace
+
+Settings::Settings(ProgramFolder folder, Desktop& desktop, OpenSelection openSelection)
+    : folder_(std::move(folder)), desktop_(desktop), openSelection_(std::move(openSelection)) {
+  Form_Load();
+}
+
+void Settings::Form_Load() {
+  for (const Stadium& stadium : LoadStadiums(folder_)) {
+    Combo3.Add(stadium.Name);
+    Combo7.Add(stadium.City);
+    Combo6.Add(stadium.Capacity);
+  }
+  Combo1.Entries = Combo2.Entries = ListTeams(folder_);
+  if (Combo1.Count() >= 2) {
+    Combo1_Click(0);
+    Combo2_Click(1);
+  }
+  if (Combo3.Count() > 0) Combo3_Click(0);
+  Combo4 = OfferTexts(SimulationTexts);
+  Combo5 = OfferTexts(WeatherTexts);
+}
+
+void Settings::Combo1_Click(int entry) {
+  Combo1.Picked = entry;
+  KeepApart(Combo1, Combo2);
+}
+
+void Settings::Combo2_Click(int entry) {
+  Combo2.Picked = entry;
+  KeepApart(Combo2, Combo1);
+}
+
+void Settings::Combo3_Click(int entry) {
+  Combo3.Picked = Combo6.Picked = Combo7.Picked = entry;
+}
+
+void Settings::Check1_Click(bool checked) {
+  Check1 = Check2Enabled = checked;
+  if (!checked) Check2 = false;
+}
+
+void Settings::Command1_Click() {
+  if (Combo1.Text().empty() || Combo2.Text().empty() || Combo3.Text().empty()) {
+    desktop_.Inform("Please make all the settings properly");
+    return;
+  }
+  MatchSetup setup;
+  setup.Team1Name = Combo1.Text();
+  setup.Team2Name = Combo2.Text();
+  setup.SimulationType = static_cast<SimulationKind>(Combo4.Picked);
+  setup.ExtraTime = Check1;
+  setup.PenaltyShootOut = Check2;
+  setup.Venue = VenueText(Combo3.Text(), Combo7.Text());
+  setup.Capacity = ToNumber(Combo6.Text());
+  setup.Weather = static_cast<WeatherCondition>(Combo5.Picked);
+  openSelection_(setup);
+  Closed = true;
+}
+
+}  // namespace kickwell

@@ -1,0 +1,52 @@
+// The match settings: teams, venue, weather and deciders of a friendly.
+#pragma once
+
+#include <functional>
+
+#include "base/chooser.h"
+#include "base/desktop.h"
+#include "base/program.h"
+#include "engine/match_setup.h"
+
+namespace kickwell {
+
+class Settings {
+ public:
+  using OpenSelection = std::function<void(const MatchSetup&)>;  ///< Returns when the selection has closed.
+
+  Settings(ProgramFolder folder, Desktop& desktop, OpenSelection openSelection);
+
+  /// Fills the choosers from the stadium list and the team files and shows the first of each.
+  void Form_Load();
+
+  // The actions take the picked entry, from 0. A team picked on one side moves the other side on where both
+  // would be the same.
+  void Combo1_Click(int entry);
+  void Combo2_Click(int entry);
+  void Combo3_Click(int entry);
+  void Combo4_Click(int entry) { Combo4.Picked = entry; }
+  void Combo5_Click(int entry) { Combo5.Picked = entry; }
+  void Check1_Click(bool checked);  ///< The shoot-out is on offer only after extra time.
+  void Check2_Click(bool checked) { Check2 = checked; }
+
+  /// Goes on to the line-up selection with the choices made, and closes when that has closed; asks for the
+  /// choices that are missing instead.
+  void Command1_Click();
+  void Command2_Click() { Closed = true; }
+
+  Chooser Combo1, Combo2;          ///< Own team and opposition.
+  Chooser Combo3, Combo7, Combo6;  ///< Stadiums, their cities and their capacities, entry by entry.
+  Chooser Combo5;                  ///< Weather.
+  Chooser Combo4;                  ///< Simulation type.
+  bool Check1 = false;             ///< Extra time.
+  bool Check2 = false;             ///< Penalty shoot-out.
+  bool Check2Enabled = false;
+  bool Closed = false;
+
+ private:
+  ProgramFolder folder_;
+  Desktop& desktop_;
+  OpenSelection openSelection_;
+};
+
+}  // namespace kickwell

@@ -1,0 +1,41 @@
+// The wiring of all screens.
+#pragma once
+
+#include <QWidget>
+#include <memory>
+
+#include "base/desktop.h"
+#include "base/program.h"
+#include "base/random.h"
+#include "engine/match_setup.h"
+#include "setup/opening.h"
+
+namespace kickwell {
+
+class OpeningWindow;
+
+/// The running program: the main menu and every screen that it leads to. Needs a QApplication; the references
+/// must outlive it.
+class App {
+ public:
+  App(ProgramFolder folder, Desktop& desktop, Random& random);
+  ~App();
+
+  void Start();  ///< Shows the main menu; the program ends when it is closed.
+
+  Opening& Menu() { return opening_; }
+
+ private:
+  OpeningScreens Screens();
+  void OpenSettings();
+  void OpenSelection(const MatchSetup& setup);
+  void OpenMatch(const MatchSetup& setup);
+
+  ProgramFolder folder_;
+  Desktop& desktop_;
+  Random& random_;
+  Opening opening_;
+  std::unique_ptr<OpeningWindow> window_;
+};
+
+}  // namespace kickwell

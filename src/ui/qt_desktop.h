@@ -1,0 +1,23 @@
+// The desktop as the program's user sees it.
+#pragma once
+
+#include "base/desktop.h"
+#include "base/program.h"
+
+namespace kickwell {
+
+/// Boxes and dialogs stand over the window that is in use. Pages are proposed in the program folder.
+class QtDesktop : public Desktop {
+ public:
+  explicit QtDesktop(ProgramFolder folder);
+
+  void Inform(const std::string& text) override;
+  void Warn(const std::string& text) override;
+  bool Ask(const std::string& text) override;
+  std::optional<std::string> AskSaveName(const std::string& proposedName) override;
+
+ private:
+  ProgramFolder folder_;
+};
+
+}  // namespace kickwell

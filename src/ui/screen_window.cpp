@@ -1,0 +1,25 @@
+#include "ui/screen_window.h"
+
+namespace kickwell {
+
+ScreenWindow::ScreenWindow(const char* name, const QString& caption, QWidget* parent) : QDialog(parent) {
+  setObjectName(QLatin1String(name));
+  setWindowTitle(caption);
+  setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+  setSizeGripEnabled(true);
+}
+
+void ScreenWindow::reject() {
+  Act([this] { Leave(); });
+}
+
+void ScreenWindow::Act(const std::function<void()>& action) {
+  action();
+  if (IsClosed()) {
+    done(Accepted);
+  } else {
+    Show();
+  }
+}
+
+}  // namespace kickwell

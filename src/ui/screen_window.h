@@ -1,0 +1,27 @@
+// What every modal screen's window has in common.
+#pragma once
+
+#include <QDialog>
+#include <functional>
+
+namespace kickwell {
+
+/// Shows the whole state anew after each action and closes when the screen's logic says so. Escape and the
+/// window's frame are the screen's own way out.
+class ScreenWindow : public QDialog {
+ public:
+  /// `name` is the screen's name, `caption` its title.
+  ScreenWindow(const char* name, const QString& caption, QWidget* parent);
+
+  void reject() override;
+
+ protected:
+  /// Runs one action of the user and shows what has become of it.
+  void Act(const std::function<void()>& action);
+
+  virtual void Show() = 0;
+  virtual bool IsClosed() const = 0;
+  virtual void Leave() = 0;  ///< The action of the button that leaves the screen.
+};
+
+}  // namespace kickwell

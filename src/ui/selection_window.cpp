@@ -1,0 +1,166 @@
+#include "ui/selection_window.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QStringListModel>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <optional>
+
+#include "ui/widgets.h"
+
+namespace kickwell {
+namespace {
+
+/// A figure beside its caption, in two columns of the grid.
+QLabel* AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& name,
+                  const QString& text) {
+  QLabel* const figure = MakeLabel(name, text, Qt::AlignRight);
+  QFont bold = figure->font();
+  bold.setBold(true);
+  figure->setFont(bold);
+  grid->addWidget(MakeLabel({}, caption), row, column);
+  grid->addWidget(figure, row, column + 1);
+  return figure;
+}
+
+QString FigureText(const std::optional<int>& figure) {
+  return figure ? QString::number(*figure) : QString();
+}
+
+}  // namespace
+
+SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
+    : ScreenWindow("Selection", tr("Kickwell Team Selection"), parent),
+      selection_(selection),
+      command1_(new QPushButton(tr("&Continue >>"))) {
+  const MatchSetup& setup = selection.Setup();
+  auto* const sides = new QHBoxLayout;
+  sides->setSpacing(16);
+  sides->addWidget(BuildSide(side1_, 1, ToQt(setup.Team1Name), &Selection::Combo1_Click));
+  sides->addWidget(BuildSide(side2_, 2, ToQt(setup.Team2Name), &Selection::Combo2_Click));
+
+  QLabel* const num = MakeLabel("num", QString::number(setup.MatchNumber));
+  num->setVisible(false);
+  command1_->setObjectName("Command1");
+  command1_->setDefault(true);
+  auto* const command2 = new QPushButton(tr("Cancel"));
+  command2->setObjectName("Command2");
+  command2->setAutoDefault(false);
+  auto* const buttons = new QHBoxLayout;
+  buttons->addWidget(num);
+  buttons->addStretch();
+  buttons->addWidget(command1_);
+  buttons->addWidget(command2);
+
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(16);
+  layout->addLayout(sides);
+  layout->addStretch();
+  layout->addLayout(buttons);
+
+  connect(command1_, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command1_Click(); }); });
+  connect(command2, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command2_Click(); }); });
+  Show();
+  resize(860, sizeHint().height());
+}
+
+QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& team, Pick pick) {
+  const QString number = QString::number(side);
+  auto* const box = new QWidget;
+  QLabel* const name = MakeLabel("Team" + number, team, Qt::AlignHCenter);
+  QFont font = name->font();
+  font.setBold(true);
+  font.setPointSizeF(font.pointSizeF() * 1.4);
+  name->setFont(font);
+
+  auto* const slots_ = new QGridLayout;
+  slots_->setVerticalSpacing(4);
+  slots_->setHorizontalSpacing(10);
+  slots_->setColumnStretch(0, 1);
+  column.Squad = new QStringListModel(this);
+  const QByteArray combo = ("Combo" + number).toLatin1();
+  const QByteArray post = ("Post" + number).toLatin1();
+  const QByteArray skill = ("Sk" + number).toLatin1();
+  for (int i = 0; i < SlotCount; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    column.Combos[at] = MakeCombo(ArrayName(combo, i));
+    column.Combos[at]->setModel(column.Squad);
+    // Its width is that of a long name, whatever squad comes in.
+    column.Combos[at]->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    column.Combos[at]->setMinimumContentsLength(25);
+    column.Combos[at]->setAccessibleName(tr("%1, player %2").arg(team).arg(i + 1));
+    column.Posts[at] = MakeLabel(ArrayName(post, i), {}, Qt::AlignHCenter);
+    column.Posts[at]->setMinimumWidth(44);
+    column.Skills[at] = MakeLabel(ArrayName(skill, i), {}, Qt::AlignRight);
+    column.Skills[at]->setMinimumWidth(28);
+    slots_->addWidget(column.Combos[at], i, 0);
+    slots_->addWidget(column.Posts[at], i, 1);
+    slots_->addWidget(column.Skills[at], i, 2);
+    connect(column.Combos[at], &QComboBox::activated, this,
+            [this, pick, i](int entry) { Act([&] { (selection_.*pick)(i, entry); }); });
+  }
+
+  auto* const figures = new QGridLayout;
+  figures->setHorizontalSpacing(10);
+  figures->setVerticalSpacing(6);
+  figures->setColumnMinimumWidth(2, 24);
+  figures->setColumnStretch(1, 1);
+  figures->setColumnStretch(4, 1);
+  column.Formation = AddFigure(figures, 0, 0, tr("Formation:"), "Formation" + number, "0-0-0");
+  column.Skill = AddFigure(figures, 1, 0, tr("Overall Skill:"), "Skill" + number, "0");
+  column.OSkill = AddFigure(figures, 2, 0, tr("Reputation:"), "OSkill" + number, "0");
+  const int firstLabel = side == 1 ? 11 : 15;
+  const auto labelName = [firstLabel](int i) { return "Label" + QString::number(firstLabel + i); };
+  column.Attack = AddFigure(figures, 0, 3, tr("Attack:"), labelName(0), {});
+  column.Defence = AddFigure(figures, 1, 3, tr("Defence:"), labelName(1), {});
+  column.Midfield = AddFigure(figures, 2, 3, tr("Mid-Field:"), labelName(2), {});
+  column.Keeping = AddFigure(figures, 3, 3, tr("Keeping:"), labelName(3), {});
+  auto* const figuresBox = new QGroupBox;
+  figuresBox->setLayout(figures);
+
+  auto* const layout = new QVBoxLayout(box);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(10);
+  layout->addWidget(name);
+  layout->addLayout(slots_);
+  layout->addWidget(figuresBox);
+  return box;
+}
+
+void SelectionWindow::showEvent(QShowEvent* event) {
+  ScreenWindow::showEvent(event);
+  // The squads are loaded when the screen has been drawn.
+  QTimer::singleShot(0, this, [this] { Act([this] { selection_.Timer1_Timer(); }); });
+}
+
+void SelectionWindow::Show() {
+  ShowSide(side1_, selection_.Side1);
+  ShowSide(side2_, selection_.Side2);
+  command1_->setEnabled(selection_.Command1Enabled);
+}
+
+void SelectionWindow::ShowSide(const Column& column, const LineUp& lineUp) {
+  if (lineUp.CanPlay() && column.Squad->rowCount() == 0) {
+    QStringList names;
+    for (const Player& player : lineUp.Squad) names.append(ToQt(player.Name));
+    column.Squad->setStringList(names);
+  }
+  for (std::size_t i = 0; i < SlotCount; ++i) {
+    const LineUpSlot& slot = lineUp.Slots[i];
+    column.Combos[i]->setCurrentIndex(slot.Player);
+    column.Posts[i]->setText(ToQt(slot.Position));
+    column.Skills[i]->setText(ToQt(slot.Skill));
+  }
+  column.Formation->setText(ToQt(lineUp.Formation));
+  column.Skill->setText(QString::number(lineUp.OverallSkill));
+  column.OSkill->setText(ToQt(lineUp.Reputation));
+  column.Attack->setText(FigureText(lineUp.Attack));
+  column.Defence->setText(FigureText(lineUp.Defence));
+  column.Midfield->setText(FigureText(lineUp.Midfield));
+  column.Keeping->setText(FigureText(lineUp.Keeping));
+}
+
+}  // namespace kickwell

@@ -1,0 +1,109 @@
+#include "ui/settings_window.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/widgets.h"
+
+namespace kickwell {
+namespace {
+
+/// A caption above its control.
+QVBoxLayout* Captioned(const QString& caption, QComboBox* combo) {
+  auto* const box = new QVBoxLayout;
+  box->setSpacing(4);
+  box->addWidget(MakeCaption(caption, combo));
+  box->addWidget(combo);
+  return box;
+}
+
+}  // namespace
+
+SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
+    : ScreenWindow("Settings", tr("Kickwell Settings"), parent),
+      settings_(settings),
+      combo1_(MakeCombo("Combo1")),
+      combo2_(MakeCombo("Combo2")),
+      combo3_(MakeCombo("Combo3")),
+      combo4_(MakeCombo("Combo4")),
+      combo5_(MakeCombo("Combo5")),
+      check1_(new QCheckBox(tr("Extra Time (Golden Goal)"))),
+      check2_(new QCheckBox(tr("Penalty Shoot Out"))) {
+  check1_->setObjectName("Check1");
+  check2_->setObjectName("Check2");
+  auto* const deciders = new QVBoxLayout;
+  deciders->setSpacing(4);
+  deciders->addWidget(MakeCaption(tr("Match Result Decider:"), check1_));
+  deciders->addWidget(check1_);
+  deciders->addWidget(check2_);
+  check1_->setAccessibleName(check1_->text());
+
+  auto* const command1 = new QPushButton(tr("&Continue >>"));
+  command1->setObjectName("Command1");
+  command1->setDefault(true);
+  auto* const command2 = new QPushButton(tr("Close"));
+  command2->setObjectName("Command2");
+  command2->setAutoDefault(false);
+  auto* const buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(command1);
+  buttons->addWidget(command2);
+
+  auto* const grid = new QGridLayout;
+  grid->setHorizontalSpacing(24);
+  grid->setVerticalSpacing(18);
+  grid->addLayout(Captioned(tr("Select Your Team:"), combo1_), 0, 0);
+  grid->addLayout(Captioned(tr("Select Your Opposition:"), combo2_), 0, 1);
+  grid->addLayout(Captioned(tr("Match Venue (Stadium/Ground):"), combo3_), 1, 0);
+  grid->addLayout(Captioned(tr("Weather Condition:"), combo5_), 1, 1);
+  grid->addLayout(Captioned(tr("Match Simulation Type:"), combo4_), 2, 0, Qt::AlignTop);
+  grid->addLayout(deciders, 2, 1);
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(1, 1);
+
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(24, 20, 24, 20);
+  layout->setSpacing(24);
+  layout->addLayout(grid);
+  layout->addStretch();
+  layout->addLayout(buttons);
+  const QWidget* const order[] = {combo1_, combo2_, combo3_,  combo5_, combo4_,
+                                  check1_, check2_, command1, command2};
+  for (std::size_t i = 1; i < std::size(order); ++i) {
+    setTabOrder(const_cast<QWidget*>(order[i - 1]), const_cast<QWidget*>(order[i]));
+  }
+
+  const auto onPick = [this](QComboBox* combo, void (Settings::*action)(int)) {
+    connect(combo, &QComboBox::activated, this,
+            [this, action](int entry) { Act([&] { (settings_.*action)(entry); }); });
+  };
+  onPick(combo1_, &Settings::Combo1_Click);
+  onPick(combo2_, &Settings::Combo2_Click);
+  onPick(combo3_, &Settings::Combo3_Click);
+  onPick(combo4_, &Settings::Combo4_Click);
+  onPick(combo5_, &Settings::Combo5_Click);
+  connect(check1_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check1_Click(on); }); });
+  connect(check2_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check2_Click(on); }); });
+  connect(command1, &QPushButton::clicked, this, [this] { Act([this] { settings_.Command1_Click(); }); });
+  connect(command2, &QPushButton::clicked, this, [this] { Act([this] { settings_.Command2_Click(); }); });
+  Show();
+  resize(560, sizeHint().height());
+}
+
+void SettingsWindow::Show() {
+  ShowChooser(combo1_, settings_.Combo1);
+  ShowChooser(combo2_, settings_.Combo2);
+  ShowChooser(combo3_, settings_.Combo3);
+  ShowChooser(combo4_, settings_.Combo4);
+  ShowChooser(combo5_, settings_.Combo5);
+  combo3_->setToolTip(ToQt(settings_.Combo3.Picked == Chooser::None
+                               ? std::string()
+                               : settings_.Combo7.Text() + ", " + settings_.Combo6.Text()));
+  check1_->setChecked(settings_.Check1);
+  check2_->setChecked(settings_.Check2);
+  check2_->setEnabled(settings_.Check2Enabled);
+}
+
+}  // namespace kickwell

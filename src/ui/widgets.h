@@ -1,0 +1,40 @@
+// Small helpers that all windows share: text across the window's edge, labels, choosers, lists.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QString>
+#include <string>
+#include <string_view>
+
+#include "base/chooser.h"
+
+namespace kickwell {
+
+inline QString ToQt(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// The object name of member `index` of a control array, for example "Post1(0)".
+QString ArrayName(const char* name, int index);
+
+/// A label whose text is never taken for markup. A text too long for its place is shown whole as a tool tip.
+QLabel* MakeLabel(const QString& objectName, const QString& text, Qt::Alignment alignment = Qt::AlignLeft);
+
+/// A bold caption that names `buddy` to screen readers.
+QLabel* MakeCaption(const QString& text, QWidget* buddy = nullptr);
+
+/// A pick-only drop-down list.
+QComboBox* MakeCombo(const QString& objectName);
+
+/// Makes `combo` show `chooser`. Only a user's own pick emits `activated`.
+void ShowChooser(QComboBox* combo, const Chooser& chooser);
+
+/// Makes `list` show `lines`, which have only grown since the last call, and scrolls to the picked one.
+void ShowLines(QListWidget* list, const Chooser& lines);
+
+/// A length of the screens' own unit, 1/1440 inch, in pixels of `widget`.
+int Twips(const QWidget* widget, int twips);
+
+}  // namespace kickwell

@@ -1,0 +1,147 @@
+// What the program's work costs, each beside its floor in the same run.
+#include <benchmark/benchmark.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <filesystem>
+#include <string>
+
+#include "data/stadium_store.h"
+#include "data/team_store.h"
+#include "engine/goal.h"
+#include "engine/instant.h"
+#include "setup/selection.h"
+#include "setup/settings.h"
+#include "ui/opening_window.h"
+#include "ui/selection_window.h"
+#include "ui/settings_window.h"
+
+namespace kickwell {
+namespace {
+
+class NoRecording : public Recording {
+ public:
+  void StoreScorer(const MatchSession& /*session*/) override {}
+  void StoreResult(const MatchSession& /*session*/) override {}
+  void StoreLeagueResult(const MatchSession& /*session*/) override {}
+};
+
+class SilentDesktop : public Desktop {
+ public:
+  void Inform(const std::string& /*text*/) override {}
+  void Warn(const std::string& /*text*/) override {}
+  bool Ask(const std::string& /*text*/) override { return true; }
+  std::optional<std::string> AskSaveName(const std::string& /*proposedName*/) override { return {}; }
+};
+
+constexpr int Strength = 80;
+constexpr int SecondsOfMatch = 89 * 60;
+
+/// The floor of an instant match: its goal draws and nothing else.
+void BareDraws(benchmark::State& state) {
+  SeededRandom random(1);
+  const int range = GoalRange(Strength);
+  for ([[maybe_unused]] auto iteration : state) {
+    for (int i = 0; i < 2 * SecondsOfMatch; ++i) benchmark::DoNotOptimize(random.Int(range));
+  }
+}
+BENCHMARK(BareDraws)->Unit(benchmark::kMicrosecond);
+
+void InstantMatch(benchmark::State& state) {
+  SeededRandom random(1);
+  NoRecording recording;
+  for ([[maybe_unused]] auto iteration : state) {
+    MatchSession session;
+    session.Setup.Team1Name = session.Side1.Team = "Rovers";
+    session.Setup.Team2Name = session.Side2.Team = "United";
+    session.Setup.Team1Attackers = session.Setup.Team2Attackers = {"A", "B", "C", "D", "E", "F"};
+    session.Side1.GoalRange = session.Side2.GoalRange = GoalRange(Strength);
+    Announcement announcement(session, random, recording);
+    Instant(session, random, announcement, recording).instant_Click();
+    benchmark::DoNotOptimize(session.Summary.Entries.data());
+  }
+}
+BENCHMARK(InstantMatch)->Unit(benchmark::kMicrosecond);
+
+/// A program folder with 1,000 teams, two of them with squads of 1,000 players, and 1,000 stadiums.
+class LargeFolder {
+ public:
+  LargeFolder() : Folder{std::filesystem::temp_directory_path() / ("kickwell-bench-" + std::to_string(getpid()))} {
+    constexpr int Many = 1000;
+    std::filesystem::create_directories(Folder.Teams());
+    std::vector<Stadium> stadiums;
+    for (int i = 0; i < Many; ++i) {
+      Team team{"Team " + std::to_string(i), "70", {}};
+      const int players = i < 2 ? Many : 0;
+      for (int k = 0; k < players; ++k) {
+        team.Players.push_back({"Player " + std::to_string(k), "70", k == 0 ? "GK" : k % 2 == 0 ? "MFC" : "FDL"});
+      }
+      if (!SaveTeam(Folder, team).Ok()) std::abort();
+      stadiums.push_back({team.Name, "Ground " + std::to_string(i), "Town", "5000"});
+    }
+    if (!SaveStadiums(Folder, stadiums).Ok()) std::abort();
+  }
+  LargeFolder(const LargeFolder&) = delete;
+  LargeFolder& operator=(const LargeFolder&) = delete;
+  ~LargeFolder() { std::filesystem::remove_all(Folder.Root); }
+
+  static const ProgramFolder& Get() {
+    static const LargeFolder folder;
+    return folder.Folder;
+  }
+
+  ProgramFolder Folder;
+};
+
+void ListThousandTeams(benchmark::State& state) {
+  const ProgramFolder& folder = LargeFolder::Get();
+  for ([[maybe_unused]] auto iteration : state) benchmark::DoNotOptimize(ListTeams(folder));
+}
+BENCHMARK(ListThousandTeams)->Unit(benchmark::kMillisecond);
+
+/// From the opening of a screen to its picture.
+void OpenSettingsWindow(benchmark::State& state) {
+  SilentDesktop desktop;
+  const ProgramFolder& folder = LargeFolder::Get();
+  for ([[maybe_unused]] auto iteration : state) {
+    Settings settings(folder, desktop, {});
+    SettingsWindow window(settings, nullptr);
+    benchmark::DoNotOptimize(window.grab());
+  }
+}
+BENCHMARK(OpenSettingsWindow)->Unit(benchmark::kMillisecond);
+
+void OpenSelectionWindow(benchmark::State& state) {
+  SilentDesktop desktop;
+  const ProgramFolder& folder = LargeFolder::Get();
+  MatchSetup setup;
+  setup.Team1Name = "Team 0";
+  setup.Team2Name = "Team 1";
+  for ([[maybe_unused]] auto iteration : state) {
+    Selection selection(folder, desktop, {}, setup);
+    selection.Timer1_Timer();
+    SelectionWindow window(selection, nullptr);
+    benchmark::DoNotOptimize(window.grab());
+  }
+}
+BENCHMARK(OpenSelectionWindow)->Unit(benchmark::kMillisecond);
+
+void OpenMainMenu(benchmark::State& state) {
+  SilentDesktop desktop;
+  for ([[maybe_unused]] auto iteration : state) {
+    Opening opening(desktop, {});
+    OpeningWindow window(opening);
+    benchmark::DoNotOptimize(window.grab());
+  }
+}
+BENCHMARK(OpenMainMenu)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace kickwell
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+}

@@ -1,0 +1,43 @@
+#include "data/file_names.h"
+
+#include <gtest/gtest.h>
+
+#include "support/folders.h"
+
+namespace kickwell {
+namespace {
+
+TEST(FileNames, RefusesWhatSomeSystemCannotName) {
+  for (const char* name : {"Rovers", "FC 07", "St. Anne", "Fiji Con", "CONNAUGHT", "Com", "COM10",
+                           "\u00D8stby", "'O'", ".hidden", "Lpt United", "Κόσμος"}) {
+    EXPECT_TRUE(IsFileName(name)) << name;
+  }
+  for (const char* name :
+       {"",    ".",       "..",       "a/b",  "a\\b",   "a:b",       "a*",    "a?",     "\"a\"",
+        "<b>", "a>",      "a|b",      "a\tb", "a\x7F",  "a\u0085",   "F.C.",  "blank ", "CON",
+        "con", "Nul.txt", "aux .leg", "COM1", "lpt9.x", "COM\u00B2", "conin$"}) {
+    EXPECT_FALSE(IsFileName(name)) << name;
+  }
+  EXPECT_TRUE(IsFileName(std::string(255, 'a')));
+  EXPECT_FALSE(IsFileName(std::string(256, 'a')));
+  EXPECT_FALSE(IsFileName(std::string_view("a\0b", 3)));
+  EXPECT_EQ(FileNameRefusal("a:b"), "a:b can't be used as a file name.");
+}
+
+TEST(FileNames, ListsRegularFilesIgnoringCaseInAnyScript) {
+  const TestFolder folder;
+  for (const char* name : {"b", "A", "a", "\u0416", "\u0434", "\u00E9lan", "\u00C9lan", "zebra", "Zulu",
+                           "a.leg", ".dot", "B.LEG"}) {
+    WriteBytes(folder / name, "");
+  }
+  std::filesystem::create_directory(folder / "a folder");
+  std::filesystem::create_symlink("nowhere", folder / "broken link");
+  EXPECT_EQ(ListFiles(folder.Folder.Root),
+            (std::vector<std::string>{".dot", "A", "a", "a.leg", "b", "B.LEG", "zebra", "Zulu", "\u00C9lan",
+                                      "\u00E9lan", "\u0434", "\u0416"}));
+  EXPECT_EQ(ListFiles(folder.Folder.Root, ".leg"), std::vector<std::string>{"a.leg"});
+  EXPECT_TRUE(ListFiles(folder / "missing").empty());
+}
+
+}  // namespace
+}  // namespace kickwell

@@ -1,0 +1,123 @@
+#include "data/text_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <iterator>
+#include <string>
+
+#include "support/fakes.h"
+#include "support/folders.h"
+
+namespace kickwell {
+namespace {
+
+using namespace std::string_literals;
+
+std::size_t FileCount(const std::filesystem::path& folder) {
+  return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
+}
+
+TEST(TextFile, ReadsEveryEncodingAndLineEnd) {
+  const TestFolder folder;
+  const Lines expected = {"A\u00E9", "", "\U0001F3C6"};
+  const std::pair<const char*, std::string> cases[] = {
+      {"utf-16 le", "\xFF\xFE"s + "A\0\xE9\0\r\0\n\0\r\0\n\0\x3C\xD8\xC6\xDF\r\0\n\0"s},
+      {"utf-16 le, no mark, LF, last line without end", "A\0\xE9\0\n\0\n\0\x3C\xD8\xC6\xDF"s},
+      {"utf-16 be", "\xFE\xFF\0A\0\xE9\0\r\0\n\0\r\0\n\xD8\x3C\xDF\xC6\0\r\0\n"s},
+      {"utf-16 be, no mark", "\0A\0\xE9\0\n\0\n\xD8\x3C\xDF\xC6\0\n"s},
+      {"utf-8",
+       "\xEF\xBB\xBF"
+       "A\xC3\xA9\r\n\r\n\xF0\x9F\x8F\x86\r\n"s},
+      {"utf-8, no mark", "A\xC3\xA9\n\r\n\xF0\x9F\x8F\x86"s},
+  };
+  for (const auto& [name, bytes] : cases) {
+    WriteBytes(folder / "file", bytes);
+    EXPECT_EQ(ReadLines(folder / "file"), expected) << name;
+  }
+}
+
+TEST(TextFile, ReadsWhateverBytesThereAre) {
+  const TestFolder folder;
+  const std::pair<std::string, Lines> cases[] = {
+      {"", {}},
+      {"\xFF\xFE", {}},
+      {"\xFF\xFE"
+       "A\0B"s,
+       {"A"}},  // Half a character at the end.
+      {"a\xFF"
+       "b\xC0\x80\xED\xA0",
+       {"a\uFFFDb\uFFFD\uFFFD\uFFFD\uFFFD"}},  // No UTF-8.
+      {"one\rtwo\n", {"one\rtwo"}},            // A lone CR ends no line.
+  };
+  for (const auto& [bytes, lines] : cases) {
+    WriteBytes(folder / "file", bytes);
+    EXPECT_EQ(ReadLines(folder / "file"), lines) << testing::PrintToString(bytes);
+  }
+  EXPECT_EQ(ReadLines(folder / "missing"), std::nullopt);
+  EXPECT_EQ(ReadLines(folder.Folder.Root), std::nullopt);
+}
+
+TEST(TextFile, WritesUtf16WithMarkAndLineEnds) {
+  const TestFolder folder;
+  const std::filesystem::path file = folder / "new folder/file";
+  ASSERT_TRUE(WriteLines(file, {"A\u00E9", "", "two\nlines", "\U0001F3C6"}, folder.Folder.Root).Ok());
+  EXPECT_EQ(ReadBytes(file), "\xFF\xFE"s + "A\0\xE9\0\r\0\n\0\r\0\n\0"s +
+                                 "t\0w\0o\0 \0l\0i\0n\0e\0s\0\r\0\n\0\x3C\xD8\xC6\xDF\r\0\n\0"s);
+  ASSERT_TRUE(WriteLines(file, {}, folder.Folder.Root).Ok());
+  EXPECT_EQ(ReadBytes(file), "\xFF\xFE");
+}
+
+TEST(TextFile, KeepsALoneSurrogate) {
+  const TestFolder folder;
+  const std::string bytes = "\xFF\xFE\x3C\xD8x\0\xC6\xDF\r\0\n\0"s;
+  WriteBytes(folder / "file", bytes);
+  ASSERT_TRUE(WriteLines(folder / "copy", *ReadLines(folder / "file"), folder.Folder.Root).Ok());
+  EXPECT_EQ(ReadBytes(folder / "copy"), bytes);
+}
+
+TEST(TextFile, SavesThroughLinksAndKeepsPermissions) {
+  namespace fs = std::filesystem;
+  const TestFolder folder;
+  WriteBytes(folder / "real", "old");
+  fs::permissions(folder / "real", fs::perms::owner_read | fs::perms::owner_write);
+  fs::create_symlink("real", folder / "link");
+  ASSERT_TRUE(WriteLines(folder / "link", {"new"}, folder.Folder.Root).Ok());
+  EXPECT_TRUE(fs::is_symlink(folder / "link"));
+  EXPECT_EQ(ReadBytes(folder / "real"), AsWritten("new\n"));
+  EXPECT_EQ(fs::status(folder / "real").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(FileCount(folder.Folder.Root), 2U);
+}
+
+TEST(TextFile, SavesOntoAnotherDisk) {
+  const std::filesystem::path other = "/dev/shm";
+  if (!std::filesystem::exists(other)) GTEST_SKIP() << "no other disk here";
+  const TestFolder folder;
+  const std::filesystem::path file = other / folder.Folder.Root.filename();
+  EXPECT_TRUE(WriteLines(file, {"far"}, folder.Folder.Root).Ok());
+  EXPECT_EQ(ReadBytes(file), AsWritten("far\n"));
+  std::filesystem::remove(file);
+}
+
+TEST(TextFile, AFailedSaveLeavesTheOldFileAndIsToldOnce) {
+  const TestFolder folder;
+  WriteBytes(folder / "file", "old");
+  FakeDesktop desktop;
+  EXPECT_FALSE(Report(desktop, WriteLines(folder / "file", {"new"}, folder / "no such folder")));
+  EXPECT_EQ(desktop.Taken(), std::vector{"!: The file " + (folder / "file").string() +
+                                         " can't be saved: No such file or directory."});
+  EXPECT_EQ(ReadBytes(folder / "file"), "old");
+
+  // The target cannot be replaced: the temporary file must not stay behind.
+  std::filesystem::create_directory(folder / "folder");
+  EXPECT_FALSE(WriteLines(folder / "folder", {"new"}, folder.Folder.Root).Ok());
+  EXPECT_EQ(FileCount(folder.Folder.Root), 2U);
+
+  EXPECT_TRUE(Report(desktop, DeleteFile(folder / "file")));
+  EXPECT_TRUE(Report(desktop, DeleteFile(folder / "file")));
+  EXPECT_FALSE(Report(desktop, DeleteFile(folder / "folder")));
+  EXPECT_EQ(desktop.Messages.size(), 1U);
+}
+
+}  // namespace
+}  // namespace kickwell

@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QtTest/QTest>
+
+#include "support/fakes.h"
+#include "support/folders.h"
+#include "support/matches.h"
+#include "support/scripted_random.h"
+#include "ui/match_window.h"
+#include "ui/opening_window.h"
+#include "ui/selection_window.h"
+#include "ui/settings_window.h"
+#include "ui/widgets.h"
+#include "user.h"
+
+namespace kickwell {
+namespace {
+
+/// Every control that takes the focus tells a screen reader what it is for.
+void ExpectNames(QWidget& window) {
+  for (QWidget* const control : window.findChildren<QWidget*>()) {
+    const bool own = !control->objectName().isEmpty() && !control->objectName().startsWith("qt_");
+    if (!own || control->focusPolicy() == Qt::NoFocus) continue;
+    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(control);
+    ASSERT_NE(face, nullptr);
+    EXPECT_FALSE(face->text(QAccessible::Name).isEmpty())
+        << window.objectName().toStdString() << "/" << control->objectName().toStdString();
+  }
+}
+
+class WindowsTest : public testing::Test {
+ protected:
+  TestFolder folder_;
+  FakeDesktop desktop_;
+  FakeRecording recording_;
+};
+
+TEST_F(WindowsTest, TheMenuOffersWhatThereIs) {
+  OpeningScreens screens;
+  bool opened = false;
+  screens.Settings = [&opened] { opened = true; };
+  Opening menu(desktop_, screens);
+  OpeningWindow window(menu);
+  window.show();
+  QStringList items;
+  for (const QAction* const top : window.menuBar()->actions()) {
+    items.append(top->text() + (top->isEnabled() ? "" : " (off)"));
+    for (const QAction* const item : top->menu()->actions()) {
+      if (!item->isSeparator()) items.append("- " + item->text());
+    }
+  }
+  EXPECT_EQ(items, QStringList({"&Play", "- &Single Match", "- &Knock Out", "- &League", "- E&xit",
+                                "&Editors", "- &Team Editor", "- &Stadium Editor", "- &Championship Editor",
+                                "&Statistics (off)", "- &Top Scorers", "- &League Table", "- &Match Results",
+                                "- &Knock Out Table", "&Help", "- &Contents", "- &History"}));
+  EXPECT_FALSE(window.findChild<QAction*>("LegLoad")->isEnabled());  // Not wired.
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  User::Choose(window, Qt::Key_P, Qt::Key_S);
+  EXPECT_TRUE(opened);
+  User::Choose(window, Qt::Key_H, Qt::Key_C);
+  EXPECT_EQ(desktop_.Taken().size(), 1U);
+  EXPECT_EQ(User::TextOf(window, "league"), "N/A");
+  window.close();
+  EXPECT_TRUE(menu.Closed);
+}
+
+TEST_F(WindowsTest, SettingsFollowTheirLogic) {
+  for (const char* name : {"A", "B", "C"}) ASSERT_TRUE(CreateTeam(folder_.Folder, name, "1").Ok());
+  Settings settings(folder_.Folder, desktop_, [](const MatchSetup&) { FAIL(); });
+  SettingsWindow window(settings, nullptr);
+  window.show();
+  ExpectNames(window);
+  auto* const check2 = window.findChild<QCheckBox*>("Check2");
+  EXPECT_FALSE(check2->isEnabled());
+  User::Click(window, "Check1");
+  EXPECT_TRUE(check2->isEnabled());
+  User::Click(window, "Check2");
+  EXPECT_TRUE(settings.Check2);
+  User::Click(window, "Check1");
+  EXPECT_FALSE(check2->isEnabled() || check2->isChecked());
+  User::Pick(window, "Combo2", 0);
+  EXPECT_EQ(window.findChild<QComboBox*>("Combo1")->currentText(), "B");
+  User::Click(window, "Command1");  // There is no stadium.
+  EXPECT_EQ(desktop_.Taken().size(), 1U);
+  QTest::keyClick(&window, Qt::Key_Escape);
+  EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(WindowsTest, ASmallSquadKeepsContinueDisabled) {
+  ASSERT_TRUE(CreateTeam(folder_.Folder, "Rovers", "70").Ok());
+  ASSERT_TRUE(SaveTeam(folder_.Folder, MakeTeam("United", "U")).Ok());
+  Selection selection(
+      folder_.Folder, desktop_, [](const MatchSetup&) { FAIL(); }, MakeSetup());
+  SelectionWindow window(selection, nullptr);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitFor([&window] { return User::TextOf(window, "OSkill2") == "75%"; }));
+  ExpectNames(window);
+  EXPECT_FALSE(window.findChild<QPushButton*>("Command1")->isEnabled());
+  EXPECT_EQ(window.findChild<QComboBox*>("Combo1(0)")->count(), 0);
+  EXPECT_EQ(window.findChild<QComboBox*>("Combo2(10)")->currentText(), "U10");
+  EXPECT_EQ(User::TextOf(window, "Label15") + User::TextOf(window, "Label11"), "80");
+  User::Click(window, "Command2");
+  EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(WindowsTest, TheMatchShowsItsShootOutBesideTheGoals) {
+  MatchSetup setup = MakeSetup();
+  setup.Team1Name = "<i>&Rovers";
+  setup.PenaltyShootOut = true;
+  // Nobody scores in 89 minutes; then three kicks each, side 1's all in.
+  std::vector<Draw> script{{100, 50}, {100, 3}, {4000, 7, 2 * 5340}};
+  for (int k = 0; k < 6; ++k) script.insert(script.end(), {{2, 1 - k % 2}, {k % 2 == 0 ? 6 : 7, 0}});
+  script.insert(script.end(), {{70, 40}, {4, 0, 1}, {0, 0}, {4, 1}, {1, 0}, {5, 1}, {5, 2}, {5, 3}, {5, 4}});
+  ScriptedRandom random(script);
+  Match match(folder_.Folder, desktop_, random, recording_, setup);
+  MatchWindow window(match, nullptr);
+  window.show();
+  ExpectNames(window);
+  const auto* const goals = window.findChild<QLabel*>("Inn1");
+  const auto* const penalties = window.findChild<QLabel*>("Pen1");
+  EXPECT_FALSE(penalties->isVisible());
+  const int before = goals->mapTo(&window, QPoint()).x();
+  User::Click(window, "instant");
+  QTest::qWait(20);
+  EXPECT_TRUE(penalties->isVisible());
+  EXPECT_EQ(before - goals->mapTo(&window, QPoint()).x(), Twips(&window, 360));
+  EXPECT_EQ(User::TextOf(window, "t1"), "<i>&Rovers");
+  EXPECT_EQ(User::TextOf(window, "Pen1") + User::TextOf(window, "Pen2"), "(3)(0)");
+  EXPECT_EQ(User::TextOf(window, "Shots2") + User::TextOf(window, "Corner1"), "41");
+  EXPECT_EQ(window.findChild<QListWidget*>("List1(1)")->currentItem()->text(),
+            "<i>&Rovers beats United 3-0 in PSO");
+  desktop_.Yes = false;
+  window.close();  // The frame asks as the exit button does.
+  EXPECT_TRUE(window.isVisible());
+  desktop_.Yes = true;
+  window.close();
+  EXPECT_FALSE(window.isVisible());
+}
+
+}  // namespace
+}  // namespace kickwell

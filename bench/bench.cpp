@@ -66,7 +66,8 @@ BENCHMARK(InstantMatch)->Unit(benchmark::kMicrosecond);
 /// A program folder with 1,000 teams, two of them with squads of 1,000 players, and 1,000 stadiums.
 class LargeFolder {
  public:
-  LargeFolder() : Folder{std::filesystem::temp_directory_path() / ("kickwell-bench-" + std::to_string(getpid()))} {
+  LargeFolder()
+      : Folder{std::filesystem::temp_directory_path() / ("kickwell-bench-" + std::to_string(getpid()))} {
     constexpr int Many = 1000;
     std::filesystem::create_directories(Folder.Teams());
     std::vector<Stadium> stadiums;
@@ -74,7 +75,10 @@ class LargeFolder {
       Team team{"Team " + std::to_string(i), "70", {}};
       const int players = i < 2 ? Many : 0;
       for (int k = 0; k < players; ++k) {
-        team.Players.push_back({"Player " + std::to_string(k), "70", k == 0 ? "GK" : k % 2 == 0 ? "MFC" : "FDL"});
+        team.Players.push_back({"Player " + std::to_string(k), "70",
+                                k == 0       ? "GK"
+                                : k % 2 == 0 ? "MFC"
+                                             : "FDL"});
       }
       if (!SaveTeam(Folder, team).Ok()) std::abort();
       stadiums.push_back({team.Name, "Ground " + std::to_string(i), "Town", "5000"});

@@ -3,16 +3,12 @@
 #include <utility>
 
 namespace kickwell {
-namespace {
-
-std::string TwoDigits(int number) {
-  return (number < 10 ? "0" : "") + std::to_string(number);
-}
-
-}  // namespace
 
 std::string ClockText(int minute, int second) {
-  return TwoDigits(minute) + ":" + TwoDigits(second);
+  const auto digit = [](int number) { return static_cast<char>('0' + number % 10); };
+  std::string text{digit(minute / 10), digit(minute), ':', digit(second / 10), digit(second)};
+  if (minute >= 100) text.insert(0, std::to_string(minute / 100));
+  return text;
 }
 
 std::string AttendanceText(const MatchSession& session) {

@@ -1,7 +1,7 @@
 # Sourced by the project's commands: what each needs of the machine, and how it gets there.
 
 RUN_PACKAGES="cmake ninja-build g++ qt6-base-dev qt6-wayland fonts-dejavu-core"
-DISPLAY_PACKAGES="xvfb xauth openbox"
+DISPLAY_PACKAGES="xvfb xauth openbox x11-utils"
 TEST_PACKAGES="$RUN_PACKAGES libgtest-dev libbenchmark-dev clang git"
 LINT_PACKAGES="$TEST_PACKAGES clang-format-14 clang-tidy-14"
 

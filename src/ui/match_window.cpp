@@ -1,6 +1,6 @@
 #include "ui/match_window.h"
 
-#include <QGroupBox>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -68,8 +68,8 @@ MatchWindow::MatchWindow(Match& match, QWidget* parent)
   layout->setSpacing(12);
   layout->addWidget(scoreBoard);
   layout->addLayout(place);
-  layout->addLayout(field, 3);
-  layout->addLayout(BuildLists(), 2);
+  layout->addLayout(field, 1);
+  layout->addLayout(BuildLists(), 1);
   layout->addLayout(BuildButtons());
 
   connect(instant_, &QPushButton::clicked, this, [this] { Act([this] { match_.instant_Click(); }); });
@@ -132,7 +132,8 @@ void MatchWindow::BuildScore(SideWidgets& side, int number) {
 
 QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   const QString n = QString::number(number);
-  auto* const box = new QGroupBox;
+  auto* const box = new QFrame;
+  box->setFrameShape(QFrame::StyledPanel);
   auto* const grid = new QGridLayout(box);
   grid->setHorizontalSpacing(14);
   int row = 0;

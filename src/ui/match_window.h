@@ -13,7 +13,7 @@
 
 namespace kickwell {
 
-class MatchWindow : public ScreenWindow {
+class MatchWindow final : public ScreenWindow {
  public:
   MatchWindow(Match& match, QWidget* parent);
 

@@ -42,7 +42,7 @@ QLabel* AddText(QVBoxLayout* layout, const QString& name, const QString& text, q
 
 }  // namespace
 
-OpeningWindow::OpeningWindow(Opening& opening) : opening_(opening), league_(nullptr), mode_(nullptr) {
+OpeningWindow::OpeningWindow(Opening& opening) : opening_(opening) {
   setObjectName("Opening");
   setWindowTitle(tr("Kickwell v4.0"));
   BuildMenus();

@@ -9,7 +9,7 @@
 
 namespace kickwell {
 
-class OpeningWindow : public QMainWindow {
+class OpeningWindow final : public QMainWindow {
  public:
   explicit OpeningWindow(Opening& opening);
 
@@ -24,7 +24,7 @@ class OpeningWindow : public QMainWindow {
   Opening& opening_;
   QMenu* statistics_ = nullptr;
   QAction *leagueMenu_ = nullptr, *knockChart_ = nullptr;
-  QLabel *league_, *mode_;
+  QLabel *league_ = nullptr, *mode_ = nullptr;
 };
 
 }  // namespace kickwell

@@ -1,7 +1,7 @@
 #include "ui/selection_window.h"
 
+#include <QFrame>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QStringListModel>
 #include <QTimer>
@@ -118,7 +118,8 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   column.Defence = AddFigure(figures, 1, 3, tr("Defence:"), labelName(1), {});
   column.Midfield = AddFigure(figures, 2, 3, tr("Mid-Field:"), labelName(2), {});
   column.Keeping = AddFigure(figures, 3, 3, tr("Keeping:"), labelName(3), {});
-  auto* const figuresBox = new QGroupBox;
+  auto* const figuresBox = new QFrame;
+  figuresBox->setFrameShape(QFrame::StyledPanel);
   figuresBox->setLayout(figures);
 
   auto* const layout = new QVBoxLayout(box);

@@ -12,7 +12,7 @@ class QStringListModel;
 
 namespace kickwell {
 
-class SelectionWindow : public ScreenWindow {
+class SelectionWindow final : public ScreenWindow {
  public:
   SelectionWindow(Selection& selection, QWidget* parent);
 

@@ -8,7 +8,7 @@
 
 namespace kickwell {
 
-class SettingsWindow : public ScreenWindow {
+class SettingsWindow final : public ScreenWindow {
  public:
   SettingsWindow(Settings& settings, QWidget* parent);
 

@@ -41,10 +41,10 @@ QString LampColour(Lamp lamp) {
 MatchWindow::MatchWindow(Match& match, QWidget* parent)
     : ScreenWindow("Main", tr("Kickwell Match"), parent),
       match_(match),
-      label1_(MakeLabel("Label1", tr("Attendence"), Qt::AlignRight)),
-      ven_(MakeLabel("ven", tr("Match Venue"))),
-      label2_(MakeLabel("Label2", {})),
-      label3_(MakeLabel("Label3", {}, Qt::AlignHCenter)),
+      label1_(MakeText("Label1", tr("Attendence"), Qt::AlignRight)),
+      ven_(MakeText("ven", tr("Match Venue"))),
+      label2_(MakeCaption({})),
+      label3_(MakeText("Label3", {}, Qt::AlignHCenter)),
       picture2_(new Pitch),
       halftime_(MakeButton("halftime", tr("&Normal Time 1st Half"))),
       instant_(MakeButton("instant", tr("&View Instant Match Results"))),
@@ -76,6 +76,9 @@ MatchWindow::MatchWindow(Match& match, QWidget* parent)
   connect(comSave_, &QPushButton::clicked, this, [this] { Act([this] { match_.ComSave_Click(); }); });
   connect(command1_, &QPushButton::clicked, this, [this] { Act([this] { match_.Command1_Click(); }); });
   Show();
+  QPushButton* const start = instant_->isHidden() ? halftime_ : instant_;
+  start->setDefault(true);
+  start->setFocus();
   resize(920, 660);
 }
 
@@ -88,7 +91,8 @@ QWidget* MatchWindow::BuildScoreBoard() {
       "#ScoreBoard QLabel { color: white; }");
   BuildScore(side1_, 1);
   BuildScore(side2_, 2);
-  QLabel* const label11 = MakeLabel("Label11", tr("Match Timer"), Qt::AlignHCenter);
+  QLabel* const label11 = MakeText("Label11", tr("Match Timer"), Qt::AlignHCenter);
+  label2_->setObjectName("Label2");
   Enlarged(label3_, 1.9);
   label3_->setMinimumWidth(label3_->fontMetrics().horizontalAdvance("000:00") + 24);
   auto* const lamp = new QHBoxLayout(label2_);  // The clock's text stands on the lamp.
@@ -113,9 +117,9 @@ QWidget* MatchWindow::BuildScoreBoard() {
 
 void MatchWindow::BuildScore(SideWidgets& side, int number) {
   const QString n = QString::number(number);
-  side.Team = Enlarged(MakeLabel("t" + n, "Team" + n, number == 1 ? Qt::AlignRight : Qt::AlignLeft), 1.7);
-  side.Goals = Enlarged(MakeLabel("Inn" + n, "0", Qt::AlignRight), 2.6);
-  side.Penalties = Enlarged(MakeLabel("Pen" + n, "(0)"), 1.5);
+  side.Team = Enlarged(MakeText("t" + n, "Team" + n, number == 1 ? Qt::AlignRight : Qt::AlignLeft), 1.7);
+  side.Goals = Enlarged(MakeText("Inn" + n, "0", Qt::AlignRight), 2.6);
+  side.Penalties = Enlarged(MakeText("Pen" + n, "(0)"), 1.5);
   side.Goals->setMinimumWidth(side.Goals->fontMetrics().horizontalAdvance("00"));
   const int penaltyWidth = side.Penalties->fontMetrics().horizontalAdvance("(00)");
   side.Score = new QWidget;
@@ -138,8 +142,8 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   grid->setHorizontalSpacing(14);
   int row = 0;
   const auto fact = [&](const QString& heading, const QString& name, const QString& text) {
-    QLabel* const figure = Enlarged(MakeLabel(name, text, Qt::AlignRight), 1.1);
-    grid->addWidget(MakeLabel({}, heading), row, 0);
+    QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), 1.1);
+    grid->addWidget(MakeCaption(heading), row, 0);
     grid->addWidget(figure, row++, 1);
     return figure;
   };

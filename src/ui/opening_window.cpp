@@ -30,7 +30,7 @@ class Grass : public QWidget {
 };
 
 QLabel* AddText(QVBoxLayout* layout, const QString& name, const QString& text, qreal size, bool bold) {
-  QLabel* const label = MakeLabel(name, text, Qt::AlignHCenter);
+  QLabel* const label = MakeText(name, text, Qt::AlignHCenter);
   QFont font = label->font();
   font.setPointSizeF(font.pointSizeF() * size);
   font.setBold(bold);
@@ -103,7 +103,7 @@ QWidget* OpeningWindow::BuildTitle() {
   layout->addStretch(2);
   AddText(layout, "Label2", tr("Programming and Design"), 0.9, false);
   AddText(layout, "Label3", ToQt(Credits), 1, true);
-  mode_ = MakeLabel("mode", {});
+  mode_ = MakeText("mode", {});
   mode_->setParent(grass);
   mode_->setVisible(false);
   return grass;

@@ -10,9 +10,15 @@
 namespace kickwell {
 namespace {
 
+/// Names from damaged files may be endless; a box must still fit the screen.
+QString Shortened(const QString& text) {
+  constexpr qsizetype Longest = 600;
+  return text.size() <= Longest ? text : text.left(Longest) + "...";
+}
+
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, const std::string& text,
                                  QMessageBox::StandardButtons buttons) {
-  QMessageBox box(icon, ToQt(ProgramTitle), ToQt(text), buttons, QApplication::activeWindow());
+  QMessageBox box(icon, ToQt(ProgramTitle), Shortened(ToQt(text)), buttons, QApplication::activeWindow());
   box.setObjectName("MessageBox");
   box.setTextFormat(Qt::PlainText);
   return static_cast<QMessageBox::StandardButton>(box.exec());

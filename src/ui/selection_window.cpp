@@ -16,11 +16,11 @@ namespace {
 /// A figure beside its caption, in two columns of the grid.
 QLabel* AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& name,
                   const QString& text) {
-  QLabel* const figure = MakeLabel(name, text, Qt::AlignRight);
+  QLabel* const figure = MakeText(name, text, Qt::AlignRight);
   QFont bold = figure->font();
   bold.setBold(true);
   figure->setFont(bold);
-  grid->addWidget(MakeLabel({}, caption), row, column);
+  grid->addWidget(MakeCaption(caption), row, column);
   grid->addWidget(figure, row, column + 1);
   return figure;
 }
@@ -38,10 +38,10 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   const MatchSetup& setup = selection.Setup();
   auto* const sides = new QHBoxLayout;
   sides->setSpacing(16);
-  sides->addWidget(BuildSide(side1_, 1, ToQt(setup.Team1Name), &Selection::Combo1_Click));
-  sides->addWidget(BuildSide(side2_, 2, ToQt(setup.Team2Name), &Selection::Combo2_Click));
+  sides->addWidget(BuildSide(side1_, 1, ToQt(setup.Team1Name), &Selection::Combo1_Click), 1);
+  sides->addWidget(BuildSide(side2_, 2, ToQt(setup.Team2Name), &Selection::Combo2_Click), 1);
 
-  QLabel* const num = MakeLabel("num", QString::number(setup.MatchNumber));
+  QLabel* const num = MakeText("num", QString::number(setup.MatchNumber));
   num->setVisible(false);
   command1_->setObjectName("Command1");
   command1_->setDefault(true);
@@ -70,7 +70,7 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
 QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& team, Pick pick) {
   const QString number = QString::number(side);
   auto* const box = new QWidget;
-  QLabel* const name = MakeLabel("Team" + number, team, Qt::AlignHCenter);
+  QLabel* const name = MakeText("Team" + number, team, Qt::AlignHCenter);
   QFont font = name->font();
   font.setBold(true);
   font.setPointSizeF(font.pointSizeF() * 1.4);
@@ -88,13 +88,10 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
     const auto at = static_cast<std::size_t>(i);
     column.Combos[at] = MakeCombo(ArrayName(combo, i));
     column.Combos[at]->setModel(column.Squad);
-    // Its width is that of a long name, whatever squad comes in.
-    column.Combos[at]->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    column.Combos[at]->setMinimumContentsLength(25);
     column.Combos[at]->setAccessibleName(tr("%1, player %2").arg(team).arg(i + 1));
-    column.Posts[at] = MakeLabel(ArrayName(post, i), {}, Qt::AlignHCenter);
+    column.Posts[at] = MakeText(ArrayName(post, i), {}, Qt::AlignHCenter);
     column.Posts[at]->setMinimumWidth(44);
-    column.Skills[at] = MakeLabel(ArrayName(skill, i), {}, Qt::AlignRight);
+    column.Skills[at] = MakeText(ArrayName(skill, i), {}, Qt::AlignRight);
     column.Skills[at]->setMinimumWidth(28);
     slots_->addWidget(column.Combos[at], i, 0);
     slots_->addWidget(column.Posts[at], i, 1);

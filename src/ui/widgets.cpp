@@ -1,21 +1,26 @@
 #include "ui/widgets.h"
 
+#include "ui/text_label.h"
+
 namespace kickwell {
 
 QString ArrayName(const char* name, int index) {
   return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
 }
 
-QLabel* MakeLabel(const QString& objectName, const QString& text, Qt::Alignment alignment) {
-  auto* const label = new QLabel(text);
+QLabel* MakeText(const QString& objectName, const QString& text, Qt::Alignment alignment) {
+  auto* const label = new TextLabel(text);
   label->setObjectName(objectName);
-  label->setTextFormat(Qt::PlainText);
   label->setAlignment(alignment | Qt::AlignVCenter);
   return label;
 }
 
+QLabel* MakeCaption(const QString& text) {
+  return new QLabel(text);
+}
+
 QLabel* MakeCaption(const QString& text, QWidget* buddy) {
-  QLabel* const caption = MakeLabel({}, text);
+  QLabel* const caption = MakeCaption(text);
   QFont bold = caption->font();
   bold.setBold(true);
   caption->setFont(bold);
@@ -24,9 +29,12 @@ QLabel* MakeCaption(const QString& text, QWidget* buddy) {
 }
 
 QComboBox* MakeCombo(const QString& objectName) {
+  constexpr int UsualName = 22;
   auto* const combo = new QComboBox;
   combo->setObjectName(objectName);
   combo->setMaxVisibleItems(20);
+  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  combo->setMinimumContentsLength(UsualName);
   return combo;
 }
 

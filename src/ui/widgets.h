@@ -19,13 +19,16 @@ inline QString ToQt(std::string_view text) {
 /// The object name of member `index` of a control array, for example "Post1(0)".
 QString ArrayName(const char* name, int index);
 
-/// A label whose text is never taken for markup. A text too long for its place is shown whole as a tool tip.
-QLabel* MakeLabel(const QString& objectName, const QString& text, Qt::Alignment alignment = Qt::AlignLeft);
+/// A label for a figure or for a text from the user's files.
+QLabel* MakeText(const QString& objectName, const QString& text, Qt::Alignment alignment = Qt::AlignLeft);
+
+/// A fixed caption, which is always shown whole.
+QLabel* MakeCaption(const QString& text);
 
 /// A bold caption that names `buddy` to screen readers.
-QLabel* MakeCaption(const QString& text, QWidget* buddy = nullptr);
+QLabel* MakeCaption(const QString& text, QWidget* buddy);
 
-/// A pick-only drop-down list.
+/// A pick-only drop-down list, whose width does not follow its entries.
 QComboBox* MakeCombo(const QString& objectName);
 
 /// Makes `combo` show `chooser`. Only a user's own pick emits `activated`.

@@ -1,0 +1,56 @@
+#include "ui/text_label.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+#include <QToolTip>
+#include <algorithm>
+
+namespace kickwell {
+namespace {
+
+constexpr int UsualLength = 40;    ///< Characters that a label asks room for at most.
+constexpr int SmallestLength = 8;  ///< Characters that it insists on at most.
+constexpr int LongestTip = 2000;
+
+}  // namespace
+
+TextLabel::TextLabel(const QString& text) : QLabel(text) {
+  setTextFormat(Qt::PlainText);
+}
+
+QSize TextLabel::HintUpTo(int characters) const {
+  const QString some = text().left(characters);
+  return {fontMetrics().horizontalAdvance(some) + 2, fontMetrics().height()};
+}
+
+QSize TextLabel::sizeHint() const {
+  return HintUpTo(UsualLength);
+}
+
+QSize TextLabel::minimumSizeHint() const {
+  return HintUpTo(SmallestLength);
+}
+
+QString TextLabel::Elided() const {
+  return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+}
+
+bool TextLabel::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QLabel::event(event);
+  const bool whole = Elided() == text();
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
+                     whole ? QString() : text().left(LongestTip).toHtmlEscaped(), this);
+  return true;
+}
+
+void TextLabel::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  QStyleOption option;
+  option.initFrom(this);
+  style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), option.palette, isEnabled(),
+                        Elided(), foregroundRole());
+}
+
+}  // namespace kickwell

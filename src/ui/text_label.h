@@ -1,0 +1,26 @@
+// A label for texts that come from the user's files.
+#pragma once
+
+#include <QLabel>
+
+namespace kickwell {
+
+/// Shows its text as it stands, never as markup. A text too long for its place ends in an ellipsis and is
+/// told whole in a tool tip; however long it is, it does not stretch the window.
+class TextLabel final : public QLabel {
+ public:
+  explicit TextLabel(const QString& text);
+
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString Elided() const;
+  QSize HintUpTo(int characters) const;
+};
+
+}  // namespace kickwell

@@ -31,7 +31,11 @@ class SilentDesktop : public Desktop {
   void Inform(const std::string& /*text*/) override {}
   void Warn(const std::string& /*text*/) override {}
   bool Ask(const std::string& /*text*/) override { return true; }
-  std::optional<std::string> AskSaveName(const std::string& /*proposedName*/) override { return {}; }
+  std::optional<std::string> AskSaveName(const std::string& /*proposedName*/) override {
+    return std::nullopt;
+  }
+  void LoadSounds() override {}
+  void PlaySound(Sound /*sound*/) override {}
 };
 
 constexpr int Strength = 80;

@@ -1,6 +1,6 @@
-# Sourced by the project's commands: what each needs of the machine, and how it gets there.
+# Sourced by the project's commands: the packages that each needs, and how they get there.
 
-RUN_PACKAGES="cmake ninja-build g++ qt6-base-dev qt6-wayland fonts-dejavu-core"
+RUN_PACKAGES="cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev qt6-wayland fonts-dejavu-core"
 DISPLAY_PACKAGES="xvfb xauth openbox x11-utils"
 TEST_PACKAGES="$RUN_PACKAGES libgtest-dev libbenchmark-dev clang git"
 LINT_PACKAGES="$TEST_PACKAGES clang-format-14 clang-tidy-14"
@@ -8,8 +8,12 @@ LINT_PACKAGES="$TEST_PACKAGES clang-format-14 clang-tidy-14"
 # need PACKAGE...: installs what is missing, or names it and stops.
 need() {
   if ! command -v dpkg-query >/dev/null; then
-    # Not a Debian or Ubuntu: a machine that can configure the project has what it needs.
-    command -v cmake >/dev/null && cmake --preset release >/dev/null 2>&1 && return
+    # No Debian or Ubuntu: go on only where all the commands are there and the project can be configured.
+    local tool
+    for tool in cmake ninja g++ $(case " $* " in *" xvfb "*) echo xvfb-run openbox xprop ;; *" clang "*) echo clang ;; esac); do
+      command -v "$tool" >/dev/null || { echo "Kickwell needs these packages (by their Debian names): $*" >&2; exit 1; }
+    done
+    cmake --preset release >/dev/null 2>&1 && return
     echo "Kickwell needs these packages (by their Debian names): $*" >&2
     exit 1
   fi

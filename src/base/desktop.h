@@ -6,6 +6,8 @@
 
 namespace kickwell {
 
+enum class Sound { Whistle, Goal, Boo };
+
 /// Every box is titled with the program's title and is answered before the call returns. Texts are UTF-8 and
 /// shown as they stand, never as markup.
 class Desktop {
@@ -22,6 +24,9 @@ class Desktop {
   /// Asks where to save an HTML page, proposing `proposedName`; does not ask before an existing file is
   /// overwritten. Nothing when the user cancels.
   virtual std::optional<std::string> AskSaveName(const std::string& proposedName) = 0;
+
+  virtual void LoadSounds() = 0;  ///< Makes all sounds ready, so that PlaySound need not wait for a file.
+  virtual void PlaySound(Sound sound) = 0;  ///< Starts the sound and returns at once.
 };
 
 }  // namespace kickwell

@@ -17,6 +17,7 @@ struct ProgramFolder {
   std::filesystem::path Root;
 
   std::filesystem::path Teams() const { return Root / "Teams"; }            ///< One file per team.
+  std::filesystem::path Sounds() const { return Root / "Sounds"; }          ///< Three wave files.
   std::filesystem::path Stadiums() const { return Root / "stadiums.sim"; }  ///< The stadium list.
   std::filesystem::path Settings() const { return Root / "settings.cfg"; }  ///< Only ever deleted.
 };

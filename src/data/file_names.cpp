@@ -66,12 +66,8 @@ std::string FileNameRefusal(std::string_view name) {
 }
 
 bool StaysInFolder(std::string_view name) {
-  return !name.empty() && name != "." && name != ".." &&
-         name.find_first_of(std::string_view("/\\\0", 3)) == std::string_view::npos;
-}
-
-bool ListedBefore(std::string_view a, std::string_view b) {
-  return std::pair(CaseKey(a), a) < std::pair(CaseKey(b), b);
+  return name != "." && name != ".." && name.find('\0') == std::string_view::npos &&
+         std::filesystem::path(name).has_filename() && std::filesystem::path(name).filename() == name;
 }
 
 std::vector<std::string> ListFiles(const std::filesystem::path& folder, std::string_view extension) {

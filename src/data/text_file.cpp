@@ -190,6 +190,16 @@ Error ReplaceFrom(const std::filesystem::path& folder, const std::filesystem::pa
   return error;
 }
 
+/// The file itself where `file` is a symbolic link, whether it exists or not.
+std::filesystem::path BehindLinks(std::filesystem::path file) {
+  constexpr int LongestChain = 40;
+  std::error_code error;
+  for (int i = 0; i < LongestChain && std::filesystem::is_symlink(file, error); ++i) {
+    file = file.parent_path() / std::filesystem::read_symlink(file, error);
+  }
+  return file;
+}
+
 FileResult Result(const std::filesystem::path& file, const char* what, Error error) {
   if (error == 0) return {};
   return {"The file " + file.string() + what + std::generic_category().message(error) + "."};
@@ -210,8 +220,7 @@ FileResult WriteLines(const std::filesystem::path& file, const Lines& lines,
                       const std::filesystem::path& temporaryFolder) {
   std::error_code ignored;
   std::filesystem::create_directories(file.parent_path(), ignored);
-  std::filesystem::path target = std::filesystem::canonical(file, ignored);
-  if (target.empty()) target = file;
+  const std::filesystem::path target = BehindLinks(file);
   constexpr const char* What = " can't be saved: ";
   // Renaming would get past the write protection of a file, which its owner meant.
   if (::access(target.c_str(), F_OK) == 0 && ::access(target.c_str(), W_OK) != 0) {

@@ -7,7 +7,6 @@
 namespace kickwell {
 namespace {
 
-constexpr int SecondsPerMinute = 60;
 constexpr int InstantKicks = 30;  ///< After these a level shoot-out is over.
 
 /// Whether the shoot-out is decided before kick `k` (from 0) with the two counts `lead` apart.
@@ -29,16 +28,14 @@ void Instant::InstantMain() {
   MatchSession& s = session_;
   for (int minute = 1; minute <= 89; ++minute) {
     for (int second = 0; second < SecondsPerMinute; ++second) {
-      s.ClockText = ClockText(minute, second);
-      InstantScores();
+      InstantScores(minute, second);
     }
   }
   const auto level = [&s] { return s.Side1.Goals == s.Side2.Goals; };
   if (s.ExtraTime && level()) {
     for (int minute = 91; minute <= 119 && level(); ++minute) {
       for (int second = 0; second < SecondsPerMinute && level(); ++second) {
-        s.ClockText = ClockText(minute, second);
-        if (InstantScores()) AddLine(s.Summary, "GOLDEN GOAL!");
+        if (InstantScores(minute, second)) AddLine(s.Summary, "GOLDEN GOAL!");
       }
     }
   }
@@ -53,9 +50,10 @@ void Instant::InstantMain() {
   s.Controls.instantEnabled = false;
 }
 
-bool Instant::InstantScores() {
+bool Instant::InstantScores(int minute, int second) {
   Side* const side = DrawGoal(session_, random_);
   if (side == nullptr) return false;
+  session_.ClockText = ClockText(minute, second);
   ++side->Goals;
   CreditGoal(session_, *side, random_);
   recording_.StoreScorer(session_);
@@ -82,10 +80,7 @@ void Instant::InstantPenalty() {
 void Instant::DrawFacts() {
   Side& side1 = session_.Side1;
   Side& side2 = session_.Side2;
-  do {
-    side1.PossessionPercent = random_.Int(70);
-  } while (side1.PossessionPercent < 30);
-  side2.PossessionPercent = 100 - side1.PossessionPercent;
+  ShowPossession(session_, random_);
   for (Side* side : {&side1, &side2}) {
     side->Fouls = random_.Int(4);
     side->Bookings = random_.Int(side->Fouls);

@@ -19,7 +19,7 @@ class Instant {
 
  private:
   void InstantMain();
-  bool InstantScores();  ///< One second of play; whether a goal fell.
+  bool InstantScores(int minute, int second);  ///< One second of play; whether a goal fell.
   void InstantPenalty();
   void DrawFacts();
 

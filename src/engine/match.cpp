@@ -21,6 +21,18 @@ constexpr int SmallestCrowd = 50;  ///< Percent of the capacity.
 
 constexpr int CommentaryView = 0;
 
+/// Counts an action that waits for the user, for as long as it does.
+class Waiting {
+ public:
+  explicit Waiting(int& count) : count_(count) { ++count_; }
+  Waiting(const Waiting&) = delete;
+  Waiting& operator=(const Waiting&) = delete;
+  ~Waiting() { --count_; }
+
+ private:
+  int& count_;
+};
+
 }  // namespace
 
 Match::Match(ProgramFolder folder, Desktop& desktop, Random& random, Recording& recording,
@@ -29,7 +41,10 @@ Match::Match(ProgramFolder folder, Desktop& desktop, Random& random, Recording& 
       desktop_(desktop),
       random_(random),
       announcement_(session_, random, recording),
-      instant_(session_, random, announcement_, recording) {
+      instant_(session_, random, announcement_, recording),
+      simulation_(session_, random, desktop, recording),
+      clock_(session_, random, desktop, simulation_, announcement_),
+      shootOut_(session_, random, desktop, announcement_) {
   Form_Load(setup);
 }
 
@@ -62,6 +77,8 @@ void Match::Form_Load(const MatchSetup& setup) {
     s.Controls.instantVisible = true;
     s.Controls.halftimeVisible = false;
     s.Controls.Option1Enabled = false;
+  } else {
+    desktop_.LoadSounds();
   }
 }
 
@@ -97,6 +114,24 @@ void Match::instant_Click() {
   instant_.instant_Click();
 }
 
+void Match::halftime_Click() {
+  clock_.halftime_Click();
+}
+
+void Match::kick_Click() {
+  shootOut_.kick_Click();
+}
+
+void Match::nextshot_Click() {
+  shootOut_.nextshot_Click();
+}
+
+void Match::Timer1_Timer(MatchScreen& screen) {
+  if (waiting_ > 0) return;
+  const Waiting tick(waiting_);
+  clock_.Timer1_Timer(screen);
+}
+
 void Match::Option1_Click(int index) {
   session_.Controls.Option1 = index;
 }
@@ -109,13 +144,15 @@ void Match::ComSave_Click() {
   const bool commentary = session_.Controls.Option1 == CommentaryView;
   const std::string proposed =
       session_.Side1.Team + "_" + session_.Side2.Team + (commentary ? "_Commentary" : "_Summary");
+  const Waiting dialog(waiting_);
   const std::optional<std::string> name = desktop_.AskSaveName(proposed);
   if (!name || name->empty()) return;
   Report(desktop_, WritePage(PageFile(*name), commentary ? CommentaryPage(session_) : SummaryPage(session_)));
 }
 
 void Match::Command1_Click() {
-  Closed = Closed || desktop_.Ask("Do you really want to exit?");
+  const Waiting question(waiting_);
+  if (!session_.Left && desktop_.Ask("Do you really want to exit?")) session_.Left = true;
 }
 
 }  // namespace kickwell

@@ -30,16 +30,6 @@ std::string Fact(const char* name, int side1, int side2, const char* unit = "") 
          "<br>";
 }
 
-bool HasExtension(const std::string& name) {
-  const std::size_t dot = name.find_last_of("./");
-  if (dot == std::string::npos || name[dot] != '.') return false;
-  constexpr std::size_t LongestExtension = 5;
-  const std::size_t length = name.size() - dot - 1;
-  return length >= 1 && length <= LongestExtension &&
-         std::all_of(name.end() - static_cast<std::ptrdiff_t>(length), name.end(),
-                     [](unsigned char c) { return std::isalnum(c) != 0; });
-}
-
 }  // namespace
 
 std::string PageText(const std::string& text) {
@@ -92,7 +82,10 @@ Lines CommentaryPage(const MatchSession& session) {
 }
 
 std::filesystem::path PageFile(const std::string& name) {
-  return HasExtension(name) ? name : name + ".htm";
+  std::string end = name.substr(name.size() - std::min<std::size_t>(name.size(), 5));
+  std::transform(end.begin(), end.end(), end.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return end.ends_with(".htm") || end == ".html" ? name : name + ".htm";
 }
 
 FileResult WritePage(const std::filesystem::path& file, const Lines& page) {

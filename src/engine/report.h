@@ -21,8 +21,7 @@ Lines PageFooter();
 /// `text` with every "<" as "&lt;", so that no name can carry markup into a page.
 std::string PageText(const std::string& text);
 
-/// The file that the user meant by `name`: ".htm" is added unless it ends in an extension. Blanks and dots of
-/// club names are told apart from one: an extension is a dot and at most five letters or digits.
+/// The file that the user meant by `name`: ".htm" is added unless the name ends in it or in ".html".
 std::filesystem::path PageFile(const std::string& name);
 
 /// Writes the page, over an existing file without a question.

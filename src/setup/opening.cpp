@@ -26,19 +26,24 @@ void Opening::Choose(MatchMode mode) {
   KnockChartVisible = mode == MatchMode::KnockOut;
 }
 
+void Opening::Show(const OpeningScreens::Open& screen) const {
+  Changed();
+  if (screen) screen();
+}
+
 void Opening::MatchMenu_Click() {
   Choose(MatchMode::Friendly);
-  screens_.Settings();
+  Show(screens_.Settings);
 }
 
 void Opening::KnockLoad_Click() {
   Choose(MatchMode::KnockOut);
-  screens_.KnockSettings();
+  Show(screens_.KnockSettings);
 }
 
 void Opening::LegLoad_Click() {
   Choose(MatchMode::League);
-  screens_.LegSettings();
+  Show(screens_.LegSettings);
 }
 
 void Opening::ReadMenu_Click() {

@@ -26,13 +26,13 @@ class Opening {
   void KnockLoad_Click();
   void LegLoad_Click();
   void ExitMenu_Click() { Closed = true; }
-  void TeamMenu_Click() { screens_.TeamEditor(); }
-  void StadMenu_Click() { screens_.StadEditor(); }
-  void LegMenu_Click() { screens_.LegEditor(); }
-  void ScorerMenu_Click() { screens_.TopScorers(); }
-  void LeagueMenu_Click() { screens_.Table(); }
-  void LegRes_Click() { screens_.LegResults(); }
-  void KnockChart_Click() { screens_.KnockCharts(); }
+  void TeamMenu_Click() { Show(screens_.TeamEditor); }
+  void StadMenu_Click() { Show(screens_.StadEditor); }
+  void LegMenu_Click() { Show(screens_.LegEditor); }
+  void ScorerMenu_Click() { Show(screens_.TopScorers); }
+  void LeagueMenu_Click() { Show(screens_.Table); }
+  void LegRes_Click() { Show(screens_.LegResults); }
+  void KnockChart_Click() { Show(screens_.KnockCharts); }
   void ReadMenu_Click();
   void HistMenu_Click();
 
@@ -45,8 +45,12 @@ class Opening {
   bool KnockChartVisible = true;
   bool Closed = false;  ///< The program is to end.
 
+  std::function<void()> Changed = [] {
+  };  ///< Called when what the menu shows has changed before a screen opens.
+
  private:
   void Choose(MatchMode mode);
+  void Show(const OpeningScreens::Open& screen) const;
 
   Desktop& desktop_;
   OpeningScreens screens_;

@@ -25,11 +25,13 @@ void Selection::LoadSquad(LineUp& side, const std::string& team) {
   side.Reputation = loaded->Skill + "%";
   side.Squad = std::move(loaded->Players);
   if (!side.CanPlay()) {
+    Changed();
     desktop_.Warn(team + " don't have enough players to play.");
     Command1Enabled = false;
     return;
   }
   for (int slot = 0; slot < SlotCount; ++slot) side.Choose(slot, slot);
+  Changed();
 }
 
 void Selection::Command1_Click() {

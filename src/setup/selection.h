@@ -39,6 +39,8 @@ class Selection {
   bool Command1Enabled = true;
   bool Closed = false;
 
+  std::function<void()> Changed = [] {};  ///< Called when a side has been loaded, before its message.
+
  private:
   void LoadSquad(LineUp& side, const std::string& team);
 

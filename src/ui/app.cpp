@@ -25,10 +25,11 @@ class NothingRecorded : public Recording {
 
 }  // namespace
 
-App::App(ProgramFolder folder, Desktop& desktop, Random& random)
+App::App(ProgramFolder folder, Desktop& desktop, Random& random, MatchTimings timings)
     : folder_(std::move(folder)),
       desktop_(desktop),
       random_(random),
+      timings_(timings),
       opening_(desktop, Screens()),
       window_(std::make_unique<OpeningWindow>(opening_)) {}
 
@@ -36,6 +37,11 @@ App::~App() = default;
 
 void App::Start() {
   window_->show();
+}
+
+QWidget* App::Owner() const {
+  QWidget* const screen = QApplication::activeModalWidget();
+  return screen != nullptr ? screen : window_.get();
 }
 
 OpeningScreens App::Screens() {
@@ -46,19 +52,19 @@ OpeningScreens App::Screens() {
 
 void App::OpenSettings() {
   Settings settings(folder_, desktop_, [this](const MatchSetup& setup) { OpenSelection(setup); });
-  SettingsWindow(settings, QApplication::activeWindow()).exec();
+  SettingsWindow(settings, Owner()).exec();
 }
 
 void App::OpenSelection(const MatchSetup& setup) {
   Selection selection(
       folder_, desktop_, [this](const MatchSetup& chosen) { OpenMatch(chosen); }, setup);
-  SelectionWindow(selection, QApplication::activeWindow()).exec();
+  SelectionWindow(selection, Owner()).exec();
 }
 
 void App::OpenMatch(const MatchSetup& setup) {
   NothingRecorded recording;
   Match match(folder_, desktop_, random_, recording, setup);
-  MatchWindow(match, QApplication::activeWindow()).exec();
+  MatchWindow(match, timings_, Owner()).exec();
 }
 
 }  // namespace kickwell

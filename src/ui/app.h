@@ -9,6 +9,7 @@
 #include "base/random.h"
 #include "engine/match_setup.h"
 #include "setup/opening.h"
+#include "ui/match_window.h"
 
 namespace kickwell {
 
@@ -18,14 +19,13 @@ class OpeningWindow;
 /// must outlive it.
 class App {
  public:
-  App(ProgramFolder folder, Desktop& desktop, Random& random);
+  App(ProgramFolder folder, Desktop& desktop, Random& random, MatchTimings timings = {});
   ~App();
 
   void Start();  ///< Shows the main menu; the program ends when it is closed.
 
-  Opening& Menu() { return opening_; }
-
  private:
+  QWidget* Owner() const;  ///< The screen in use, over which the next one stands.
   OpeningScreens Screens();
   void OpenSettings();
   void OpenSelection(const MatchSetup& setup);
@@ -34,6 +34,7 @@ class App {
   ProgramFolder folder_;
   Desktop& desktop_;
   Random& random_;
+  MatchTimings timings_;
   Opening opening_;
   std::unique_ptr<OpeningWindow> window_;
 };

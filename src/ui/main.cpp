@@ -3,8 +3,9 @@
 #include "ui/app.h"
 #include "ui/qt_desktop.h"
 
-int main(int argc, char** argv) {
-  QApplication application(argc, argv);
+int main(int /*argc*/, char** argv) {
+  int noArguments = 1;  // The program takes none, Qt's own neither.
+  const QApplication application(noArguments, argv);
   const kickwell::ProgramFolder folder{QCoreApplication::applicationDirPath().toStdString()};
   kickwell::QtDesktop desktop(folder);
   kickwell::SeededRandom random;

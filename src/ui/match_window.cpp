@@ -1,8 +1,13 @@
 #include "ui/match_window.h"
 
+#include <QEventLoop>
 #include <QFrame>
+#include <QGridLayout>
 #include <QHBoxLayout>
+#include <QLinearGradient>
+#include <QPainter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/widgets.h"
 
@@ -10,6 +15,33 @@ namespace kickwell {
 namespace {
 
 constexpr int PenaltyRoom = 360;  ///< How far the goals move left for the shoot-out counts, in twips.
+
+/// The ball has arrived well before the next tick.
+int Glide(const MatchTimings& timings) {
+  return timings.Tick * 6 / 10;
+}
+
+/// The board behind the score, dark in every theme, with white writing.
+class ScoreBoard final : public QWidget {
+ public:
+  ScoreBoard() {
+    QPalette white = palette();
+    white.setColor(QPalette::WindowText, Qt::white);
+    setPalette(white);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    QLinearGradient green(0, 0, 0, height());
+    green.setColorAt(0, QColor(0x1d, 0x5a, 0x2c));
+    green.setColorAt(1, QColor(0x12, 0x3a, 0x1d));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(green);
+    painter.drawRoundedRect(rect(), 6, 6);
+  }
+};
 
 QPushButton* MakeButton(const QString& name, const QString& caption) {
   auto* const button = new QPushButton(caption);
@@ -25,30 +57,31 @@ QLabel* Enlarged(QLabel* label, qreal factor) {
   return label;
 }
 
-QString LampColour(Lamp lamp) {
-  switch (lamp) {
-    case Lamp::Green:
-      return "#00ff00";
-    case Lamp::Red:
-      return "#ff0000";
-    default:
-      return "#000000";
-  }
+void SetColours(QWidget* widget, const QColor& background, const QColor& text) {
+  QPalette palette = widget->palette();
+  if (palette.color(QPalette::Window) == background && palette.color(QPalette::WindowText) == text) return;
+  palette.setColor(QPalette::Window, background);
+  palette.setColor(QPalette::WindowText, text);
+  widget->setPalette(palette);
 }
 
 }  // namespace
 
-MatchWindow::MatchWindow(Match& match, QWidget* parent)
+MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
     : ScreenWindow("Main", tr("Kickwell Match"), parent),
       match_(match),
+      timings_(timings),
       label1_(MakeText("Label1", tr("Attendence"), Qt::AlignRight)),
       ven_(MakeText("ven", tr("Match Venue"))),
       label2_(MakeCaption({})),
       label3_(MakeText("Label3", {}, Qt::AlignHCenter)),
-      picture2_(new Pitch),
-      halftime_(MakeButton("halftime", tr("&Normal Time 1st Half"))),
+      picture2_(new Pitch(Glide(timings))),
+      picture1_(new Goal(Glide(timings))),
+      halftime_(MakeButton("halftime", {})),
       instant_(MakeButton("instant", tr("&View Instant Match Results"))),
-      comSave_(MakeButton("ComSave", tr("Save Summary"))),
+      kick_(MakeButton("kick", tr("&Kick Ball"))),
+      nextshot_(MakeButton("nextshot", tr("&Next Player"))),
+      comSave_(MakeButton("ComSave", {})),
       command1_(MakeButton("Command1", tr("E&xit"))) {
   picture2_->setObjectName("Picture2");
   picture2_->setAccessibleName(tr("Pitch"));
@@ -61,6 +94,7 @@ MatchWindow::MatchWindow(Match& match, QWidget* parent)
   field->setSpacing(12);
   field->addWidget(BuildFacts(side1_, 1));
   field->addWidget(picture2_, 1);
+  field->addWidget(BuildShootOut(), 1);
   field->addWidget(BuildFacts(side2_, 2));
 
   auto* const layout = new QVBoxLayout(this);
@@ -68,37 +102,33 @@ MatchWindow::MatchWindow(Match& match, QWidget* parent)
   layout->setSpacing(12);
   layout->addWidget(scoreBoard);
   layout->addLayout(place);
-  layout->addLayout(field, 1);
-  layout->addLayout(BuildLists(), 1);
+  layout->addLayout(field, 3);
+  layout->addLayout(BuildLists(), 2);
   layout->addLayout(BuildButtons());
 
-  connect(instant_, &QPushButton::clicked, this, [this] { Act([this] { match_.instant_Click(); }); });
-  connect(comSave_, &QPushButton::clicked, this, [this] { Act([this] { match_.ComSave_Click(); }); });
-  connect(command1_, &QPushButton::clicked, this, [this] { Act([this] { match_.Command1_Click(); }); });
+  ConnectActions();
+  timer1_.setObjectName("Timer1");
+  timer1_.setInterval(timings_.Tick);
   Show();
-  QPushButton* const start = instant_->isHidden() ? halftime_ : instant_;
-  start->setDefault(true);
-  start->setFocus();
-  resize(920, 660);
+  (instant_->isHidden() ? halftime_ : instant_)->setFocus();
+  resize(920, 680);
 }
 
 QWidget* MatchWindow::BuildScoreBoard() {
-  auto* const board = new QFrame;
-  board->setObjectName("ScoreBoard");
-  board->setStyleSheet(
-      "#ScoreBoard { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #1d5a2c, stop:1 #123a1d);"
-      "              border-radius: 6px; }"
-      "#ScoreBoard QLabel { color: white; }");
+  auto* const board = new ScoreBoard;
   BuildScore(side1_, 1);
   BuildScore(side2_, 2);
-  QLabel* const label11 = MakeText("Label11", tr("Match Timer"), Qt::AlignHCenter);
+  QLabel* const label11 = MakeCaption(tr("Match Timer"));
+  label11->setObjectName("Label11");
+  label11->setAlignment(Qt::AlignCenter);
   label2_->setObjectName("Label2");
+  label2_->setAutoFillBackground(true);
   Enlarged(label3_, 1.9);
   label3_->setMinimumWidth(label3_->fontMetrics().horizontalAdvance("000:00") + 24);
   auto* const lamp = new QHBoxLayout(label2_);  // The clock's text stands on the lamp.
   lamp->setContentsMargins(6, 2, 6, 2);
   lamp->addWidget(label3_);
-  label2_->setMinimumSize(lamp->sizeHint());
+  label2_->setMinimumSize(label3_->minimumWidth() + 12, label3_->fontMetrics().height() + 6);
   auto* const clock = new QVBoxLayout;
   clock->setSpacing(2);
   clock->addWidget(label11);
@@ -121,9 +151,9 @@ void MatchWindow::BuildScore(SideWidgets& side, int number) {
   side.Goals = Enlarged(MakeText("Inn" + n, "0", Qt::AlignRight), 2.6);
   side.Penalties = Enlarged(MakeText("Pen" + n, "(0)"), 1.5);
   side.Goals->setMinimumWidth(side.Goals->fontMetrics().horizontalAdvance("00"));
-  const int penaltyWidth = side.Penalties->fontMetrics().horizontalAdvance("(00)");
   side.Score = new QWidget;
   // The goals start one penalty room right of where they stand in a shoot-out, and nothing else ever moves.
+  const int penaltyWidth = side.Penalties->fontMetrics().horizontalAdvance("(00)");
   side.Score->setFixedWidth(side.Goals->minimumWidth() +
                             std::max(penaltyWidth + 4, Twips(this, PenaltyRoom)));
   auto* const layout = new QHBoxLayout(side.Score);
@@ -144,7 +174,7 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   const auto fact = [&](const QString& heading, const QString& name, const QString& text) {
     QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), 1.1);
     grid->addWidget(MakeCaption(heading), row, 0);
-    grid->addWidget(figure, row++, 1);
+    grid->addWidget(figure, row++, 1, Qt::AlignVCenter);
     return figure;
   };
   side.Shots = fact(tr("Shots"), "Shots" + n, "0");
@@ -152,8 +182,44 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   side.Bookings = fact(tr("Bookings"), "Book" + n, "0");
   side.Fouls = fact(tr("Fouls"), "Foul" + n, "0");
   side.Possession = fact(tr("Possesion"), ArrayName("PosMet", number - 1), "0%");
-  side.Possession->setMinimumWidth(side.Possession->fontMetrics().horizontalAdvance("100%") + 8);
+  side.Possession->setAlignment(Qt::AlignCenter);
+  side.Possession->setAutoFillBackground(true);
+  const QFontMetrics metrics = side.Possession->fontMetrics();
+  side.Possession->setMinimumSize(metrics.horizontalAdvance("100%") + 14, metrics.height() + 8);
   return box;
+}
+
+QWidget* MatchWindow::BuildShootOut() {
+  shootOut_ = new QWidget;
+  picture1_->setObjectName("Picture1");
+  picture1_->setAccessibleName(tr("Goal"));
+  QLabel* const label8 = MakeCaption(tr("PENALTY SHOOT OUT:"));
+  label8->setObjectName("Label8");
+  Enlarged(label8, 1.1);
+  side1_.Takers = MakeText("Label4", tr("Team 1"), Qt::AlignRight);
+  side2_.Takers = MakeText("Label7", tr("Team 2"), Qt::AlignRight);
+  auto* const rows = new QGridLayout;
+  rows->setSpacing(0);
+  rows->setHorizontalSpacing(0);
+  rows->setColumnMinimumWidth(1, 8);
+  rows->addWidget(side1_.Takers, 0, 0);
+  rows->addWidget(side2_.Takers, 1, 0);
+  for (int n = 0; n < KickCount; ++n) {
+    auto* const mark = new KickMark;
+    mark->setObjectName(ArrayName("penalty", n));
+    penalty_[static_cast<std::size_t>(n)] = mark;
+    rows->addWidget(mark, n % 2, 2 + n / 2);
+    rows->setColumnMinimumWidth(2 + n / 2, mark->width());
+  }
+  rows->setColumnStretch(0, 1);
+  rows->setColumnStretch(2 + KickCount / 2, 1);
+  auto* const layout = new QVBoxLayout(shootOut_);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(6);
+  layout->addWidget(label8, 0, Qt::AlignHCenter);
+  layout->addWidget(picture1_, 1);
+  layout->addLayout(rows);
+  return shootOut_;
 }
 
 QLayout* MatchWindow::BuildLists() {
@@ -175,8 +241,6 @@ QLayout* MatchWindow::BuildLists() {
     list1_[at]->setUniformItemSizes(true);
     list1_[at]->setMinimumHeight(90);
     layout->addWidget(list1_[at]);
-    connect(option1_[at], &QRadioButton::clicked, this,
-            [this, i] { Act([this, i] { match_.Option1_Click(i); }); });
   }
   options->addStretch();
   return layout;
@@ -184,8 +248,7 @@ QLayout* MatchWindow::BuildLists() {
 
 QLayout* MatchWindow::BuildButtons() {
   auto* const buttons = new QHBoxLayout;
-  buttons->addWidget(halftime_);
-  buttons->addWidget(instant_);
+  for (QPushButton* const button : {halftime_, instant_, kick_, nextshot_}) buttons->addWidget(button);
   buttons->addStretch();
   buttons->addWidget(comSave_);
   buttons->addWidget(command1_);
@@ -193,35 +256,48 @@ QLayout* MatchWindow::BuildButtons() {
   return buttons;
 }
 
+void MatchWindow::ConnectActions() {
+  const auto onClick = [this](QPushButton* button, void (Match::*action)()) {
+    connect(button, &QPushButton::clicked, this, [this, action] { Act([&] { (match_.*action)(); }); });
+  };
+  onClick(halftime_, &Match::halftime_Click);
+  onClick(instant_, &Match::instant_Click);
+  onClick(kick_, &Match::kick_Click);
+  onClick(nextshot_, &Match::nextshot_Click);
+  onClick(comSave_, &Match::ComSave_Click);
+  onClick(command1_, &Match::Command1_Click);
+  for (int i : {0, 1}) {
+    connect(option1_[static_cast<std::size_t>(i)], &QRadioButton::clicked, this,
+            [this, i] { Act([this, i] { match_.Option1_Click(i); }); });
+  }
+  connect(&timer1_, &QTimer::timeout, this, [this] { Act([this] { match_.Timer1_Timer(*this); }); });
+}
+
+void MatchWindow::PauseFunction() {
+  QEventLoop pause;
+  QTimer::singleShot(timings_.GoalPause, &pause, &QEventLoop::quit);
+  connect(this, &QDialog::finished, &pause, &QEventLoop::quit);
+  pause.exec();
+}
+
 void MatchWindow::Show() {
   const MatchSession& session = match_.Session();
   const MatchControls& controls = session.Controls;
-  ShowSide(side1_, session.Side1, session.Side1Penalties);
-  ShowSide(side2_, session.Side2, session.Side2Penalties);
+  ShowSide(side1_, session.Side1, session.Side1Penalties, session.BallSide == 1);
+  ShowSide(side2_, session.Side2, session.Side2Penalties, session.BallSide == 2);
   ven_->setText(ToQt(session.Venue));
   label1_->setText(ToQt(AttendanceText(session)));
-  label3_->setText(ToQt(controls.Label3));
-  label2_->setStyleSheet(
-      QStringLiteral("#Label2 { background: %1; border-radius: 3px; } #Label3 { color: %2; }")
-          .arg(LampColour(controls.Label2), controls.Label2 == Lamp::Black ? "#00ff00" : "#000000"));
   picture2_->SetBall(session.BallX, session.BallY);
-  ShowLines(list1_[0], session.Commentary);
-  ShowLines(list1_[1], session.Summary);
-  for (int i : {0, 1}) {
-    const auto at = static_cast<std::size_t>(i);
-    option1_[at]->setEnabled(controls.Option1Enabled);
-    option1_[at]->setChecked(controls.Option1 == i);
-    list1_[at]->setVisible(controls.Option1 == i);
-  }
-  comSave_->setText(ToQt(match_.ComSaveCaption()));
-  halftime_->setVisible(controls.halftimeVisible);
-  instant_->setVisible(controls.instantVisible);
-  instant_->setEnabled(controls.instantEnabled);
+  ShowClock(controls);
+  ShowShootOut(controls);
+  ShowLists(session);
+  ShowButtons(controls);
 }
 
-void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, int penalties) const {
+void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, int penalties, bool hasBall) const {
   const bool pens = match_.Session().Controls.PensVisible;
   widgets.Team->setText(ToQt(side.Team));
+  widgets.Takers->setText(ToQt(side.Team));
   widgets.Goals->setText(QString::number(side.Goals));
   widgets.Penalties->setText(QStringLiteral("(%1)").arg(penalties));
   widgets.Penalties->setVisible(pens);
@@ -231,6 +307,63 @@ void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, int pen
   widgets.Bookings->setText(QString::number(side.Bookings));
   widgets.Fouls->setText(QString::number(side.Fouls));
   widgets.Possession->setText(QStringLiteral("%1%").arg(side.PossessionPercent));
+  SetColours(widgets.Possession, hasBall ? LampColour(Lamp::Green) : palette().color(QPalette::Button),
+             hasBall ? QColor(Qt::black) : palette().color(QPalette::ButtonText));
+}
+
+void MatchWindow::ShowClock(const MatchControls& controls) {
+  label3_->setText(ToQt(controls.Label3));
+  const bool dark = controls.Label2 == Lamp::Black;
+  SetColours(label2_, LampColour(controls.Label2), LampColour(dark ? Lamp::Green : Lamp::Black));
+  if (!controls.Timer1Enabled) {
+    timer1_.stop();
+  } else if (!timer1_.isActive()) {
+    timer1_.start();
+  }
+}
+
+void MatchWindow::ShowShootOut(const MatchControls& controls) {
+  picture2_->setVisible(!controls.ShootOutVisible);
+  shootOut_->setVisible(controls.ShootOutVisible);
+  picture1_->SetBall(controls.Shape2);
+  for (std::size_t n = 0; n < penalty_.size(); ++n) penalty_[n]->SetMarker(controls.penalty[n]);
+}
+
+void MatchWindow::ShowLists(const MatchSession& session) {
+  const Chooser* const lines[] = {&session.Commentary, &session.Summary};
+  for (int i : {0, 1}) {
+    const auto at = static_cast<std::size_t>(i);
+    const bool onView = session.Controls.Option1 == i;
+    ShowLines(list1_[at], *lines[i]);
+    list1_[at]->setVisible(onView);
+    option1_[at]->setEnabled(session.Controls.Option1Enabled);
+    option1_[at]->setChecked(onView);
+  }
+  comSave_->setText(ToQt(match_.ComSaveCaption()));
+}
+
+void MatchWindow::ShowButtons(const MatchControls& controls) {
+  struct Play {
+    QPushButton* Button;
+    bool Visible, Enabled;
+  };
+  const Play buttons[] = {{halftime_, controls.halftimeVisible, controls.halftimeEnabled},
+                          {instant_, controls.instantVisible, controls.instantEnabled},
+                          {kick_, controls.ShootOutVisible, controls.kickEnabled},
+                          {nextshot_, controls.ShootOutVisible, controls.nextshotEnabled}};
+  halftime_->setText(ToQt(ToText(match_.Session().Period)));
+  // A button that goes dark would pass the focus on to the next button, and Enter with it. The list on view
+  // takes it instead, from where Enter still presses the button that is lit.
+  for (const Play& play : buttons) {
+    if (play.Button->hasFocus() && !(play.Visible && play.Enabled)) {
+      list1_[static_cast<std::size_t>(controls.Option1)]->setFocus();
+    }
+  }
+  for (const Play& play : buttons) {
+    play.Button->setVisible(play.Visible);
+    play.Button->setEnabled(play.Enabled);
+    if (play.Visible && play.Enabled) play.Button->setDefault(true);
+  }
 }
 
 }  // namespace kickwell

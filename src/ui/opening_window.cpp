@@ -48,6 +48,7 @@ OpeningWindow::OpeningWindow(Opening& opening) : opening_(opening) {
   BuildMenus();
   setCentralWidget(BuildTitle());
   Show();
+  opening_.Changed = [this] { Show(); };
   resize(640, 420);
 }
 

@@ -1,12 +1,11 @@
 #include "ui/pitch.h"
 
 #include <QPainter>
-#include <QPainterPath>
-#include <QRadialGradient>
 #include <QTransform>
 #include <algorithm>
 
 #include "engine/match_session.h"
+#include "ui/ball.h"
 
 namespace kickwell {
 namespace {
@@ -73,28 +72,31 @@ void DrawLines(QPainter& painter) {
   painter.restore();
 }
 
-void DrawBall(QPainter& painter, const QPointF& at, qreal radius) {
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(0, 0, 0, 90));
-  painter.drawEllipse(at + QPointF(radius * 0.5, radius * 0.8), radius, radius * 0.6);
-  QRadialGradient leather(at - QPointF(radius * 0.4, radius * 0.4), radius * 1.7);
-  leather.setColorAt(0, Qt::white);
-  leather.setColorAt(1, QColor(0xb0, 0xb0, 0xb0));
-  painter.setBrush(leather);
-  painter.setPen(QPen(QColor(0x30, 0x30, 0x30), 1));
-  painter.drawEllipse(at, radius, radius);
-}
-
 }  // namespace
 
-Pitch::Pitch(QWidget* parent) : QWidget(parent), ball_(CentreSpotX, CentreSpotY) {
+Pitch::Pitch(int glide) : ball_(CentreSpotX, CentreSpotY), target_(ball_) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  glide_.setDuration(glide);
+  glide_.setEasingCurve(QEasingCurve::InOutQuad);
+  connect(&glide_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+    ball_ = value.toPointF();
+    update();
+  });
 }
 
 void Pitch::SetBall(int x, int y) {
-  ball_ = QPointF(x, y);
+  const QPointF target(x, y);
+  if (target == target_) return;
+  target_ = target;
   setAccessibleDescription(tr("The ball is at %1, %2 of 5090, 740").arg(x).arg(y));
-  update();
+  glide_.stop();
+  if (isVisible()) {
+    glide_.setStartValue(ball_);
+    glide_.setEndValue(target);
+    glide_.start();
+  } else {
+    ball_ = target;
+  }
 }
 
 void Pitch::paintEvent(QPaintEvent* /*event*/) {

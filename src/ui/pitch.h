@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPointF>
+#include <QVariantAnimation>
 #include <QWidget>
 
 namespace kickwell {
@@ -10,7 +11,7 @@ namespace kickwell {
 /// units (0..5090 by 0..740, centre spot 2520, 390), which are scaled to the widget.
 class Pitch : public QWidget {
  public:
-  explicit Pitch(QWidget* parent = nullptr);
+  explicit Pitch(int glide);  ///< How long the ball glides, in milliseconds.
 
   void SetBall(int x, int y);
 
@@ -21,7 +22,8 @@ class Pitch : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QPointF ball_;
+  QPointF ball_, target_;
+  QVariantAnimation glide_;
 };
 
 }  // namespace kickwell

@@ -10,15 +10,20 @@
 namespace kickwell {
 namespace {
 
-/// Names from damaged files may be endless; a box must still fit the screen.
+/// Names from damaged files may be endless; a box must still fit the screen and say what is the matter.
 QString Shortened(const QString& text) {
   constexpr qsizetype Longest = 600;
-  return text.size() <= Longest ? text : text.left(Longest) + "...";
+  return text.size() <= Longest ? text : text.left(Longest / 2) + " ... " + text.right(Longest / 2);
+}
+
+QWidget* WindowInUse() {
+  QWidget* const screen = QApplication::activeModalWidget();
+  return screen != nullptr ? screen : QApplication::activeWindow();
 }
 
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, const std::string& text,
                                  QMessageBox::StandardButtons buttons) {
-  QMessageBox box(icon, ToQt(ProgramTitle), Shortened(ToQt(text)), buttons, QApplication::activeWindow());
+  QMessageBox box(icon, ToQt(ProgramTitle), Shortened(ToQt(text)), buttons, WindowInUse());
   box.setObjectName("MessageBox");
   box.setTextFormat(Qt::PlainText);
   return static_cast<QMessageBox::StandardButton>(box.exec());
@@ -41,7 +46,7 @@ bool QtDesktop::Ask(const std::string& text) {
 }
 
 std::optional<std::string> QtDesktop::AskSaveName(const std::string& proposedName) {
-  QFileDialog dialog(QApplication::activeWindow(), ToQt(ProgramTitle), ToQt(folder_.Root.string()),
+  QFileDialog dialog(WindowInUse(), ToQt(ProgramTitle), ToQt(folder_.Root.string()),
                      QStringLiteral("HTML File (*.htm)"));
   dialog.setObjectName("SaveDialog");
   dialog.setAcceptMode(QFileDialog::AcceptSave);

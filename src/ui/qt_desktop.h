@@ -3,6 +3,7 @@
 
 #include "base/desktop.h"
 #include "base/program.h"
+#include "ui/sounds.h"
 
 namespace kickwell {
 
@@ -15,9 +16,12 @@ class QtDesktop : public Desktop {
   void Warn(const std::string& text) override;
   bool Ask(const std::string& text) override;
   std::optional<std::string> AskSaveName(const std::string& proposedName) override;
+  void LoadSounds() override { sounds_.Load(folder_); }
+  void PlaySound(Sound sound) override { sounds_.Play(sound); }
 
  private:
   ProgramFolder folder_;
+  Sounds sounds_;
 };
 
 }  // namespace kickwell

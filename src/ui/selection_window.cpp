@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <optional>
+#include <utility>
 
 #include "ui/widgets.h"
 
@@ -64,6 +65,7 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   connect(command1_, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command1_Click(); }); });
   connect(command2, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command2_Click(); }); });
   Show();
+  selection_.Changed = [this] { Show(); };
   resize(860, sizeHint().height());
 }
 
@@ -128,9 +130,10 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   return box;
 }
 
-void SelectionWindow::showEvent(QShowEvent* event) {
-  ScreenWindow::showEvent(event);
+void SelectionWindow::paintEvent(QPaintEvent* event) {
+  ScreenWindow::paintEvent(event);
   // The squads are loaded when the screen has been drawn.
+  if (std::exchange(timer1Started_, true)) return;
   QTimer::singleShot(0, this, [this] { Act([this] { selection_.Timer1_Timer(); }); });
 }
 

@@ -20,7 +20,7 @@ class SelectionWindow final : public ScreenWindow {
   void Show() override;
   bool IsClosed() const override { return selection_.Closed; }
   void Leave() override { selection_.Command2_Click(); }
-  void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   /// One side's widgets: eleven choosers with position and skill, and the figures.
@@ -36,6 +36,7 @@ class SelectionWindow final : public ScreenWindow {
   static void ShowSide(const Column& column, const LineUp& lineUp);
 
   Selection& selection_;
+  bool timer1Started_ = false;
   Column side1_{}, side2_{};
   QPushButton* command1_;
 };

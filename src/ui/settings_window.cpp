@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/text_label.h"
 #include "ui/widgets.h"
 
 namespace kickwell {
@@ -98,9 +99,11 @@ void SettingsWindow::Show() {
   ShowChooser(combo3_, settings_.Combo3);
   ShowChooser(combo4_, settings_.Combo4);
   ShowChooser(combo5_, settings_.Combo5);
-  combo3_->setToolTip(ToQt(settings_.Combo3.Picked == Chooser::None
-                               ? std::string()
-                               : settings_.Combo7.Text() + ", " + settings_.Combo6.Text()));
+  const Settings& chosen = settings_;
+  combo3_->setToolTip(chosen.Combo3.Picked == Chooser::None
+                          ? QString()
+                          : PlainTip(ToQt(chosen.Combo3.Text() + ", " + chosen.Combo7.Text() + " (" +
+                                          chosen.Combo6.Text() + ")")));
   check1_->setChecked(settings_.Check1);
   check2_->setChecked(settings_.Check2);
   check2_->setEnabled(settings_.Check2Enabled);

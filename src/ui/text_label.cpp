@@ -16,6 +16,10 @@ constexpr int LongestTip = 2000;
 
 }  // namespace
 
+QString PlainTip(const QString& text) {
+  return text.isEmpty() ? QString() : "<qt>" + text.toHtmlEscaped() + "</qt>";
+}
+
 TextLabel::TextLabel(const QString& text) : QLabel(text) {
   setTextFormat(Qt::PlainText);
 }
@@ -41,7 +45,7 @@ bool TextLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QLabel::event(event);
   const bool whole = Elided() == text();
   QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                     whole ? QString() : text().left(LongestTip).toHtmlEscaped(), this);
+                     whole ? QString() : PlainTip(text().left(LongestTip)), this);
   return true;
 }
 

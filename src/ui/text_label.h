@@ -5,6 +5,9 @@
 
 namespace kickwell {
 
+/// A tool tip that shows `text` as it stands: Qt would guess at markup. No tip for an empty text.
+QString PlainTip(const QString& text);
+
 /// Shows its text as it stands, never as markup. A text too long for its place ends in an ellipsis and is
 /// told whole in a tool tip; however long it is, it does not stretch the window.
 class TextLabel final : public QLabel {

@@ -1,4 +1,4 @@
-// Small helpers that all windows share: text across the window's edge, labels, choosers, lists.
+// What all windows share: text across the window's edge, labels, choosers, lists.
 #pragma once
 
 #include <QComboBox>

@@ -87,6 +87,12 @@ TEST(TextFile, SavesThroughLinksAndKeepsPermissions) {
   EXPECT_EQ(ReadBytes(folder / "real"), AsWritten("new\n"));
   EXPECT_EQ(fs::status(folder / "real").permissions(), fs::perms::owner_read | fs::perms::owner_write);
   EXPECT_EQ(FileCount(folder.Folder.Root), 2U);
+
+  fs::create_symlink("link2", folder / "link1");
+  fs::create_symlink("not yet", folder / "link2");
+  ASSERT_TRUE(WriteLines(folder / "link1", {"new"}, folder.Folder.Root).Ok());
+  EXPECT_TRUE(fs::is_symlink(folder / "link2"));
+  EXPECT_EQ(ReadBytes(folder / "not yet"), AsWritten("new\n"));
 }
 
 TEST(TextFile, SavesOntoAnotherDisk) {

@@ -121,10 +121,10 @@ TEST_F(MatchTest, ExitAsksAndNoChangesNothing) {
   Match match(folder_.Folder, desktop_, random, recording_, MakeSetup());
   desktop_.Yes = false;
   match.Command1_Click();
-  EXPECT_FALSE(match.Closed);
+  EXPECT_FALSE(match.Closed());
   desktop_.Yes = true;
   match.Command1_Click();
-  EXPECT_TRUE(match.Closed);
+  EXPECT_TRUE(match.Closed());
   EXPECT_EQ(desktop_.Taken(), std::vector<std::string>(2, "?: Do you really want to exit?"));
 }
 

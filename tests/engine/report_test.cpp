@@ -79,11 +79,10 @@ TEST(Report, CommentaryPageIsWrittenToTheLetter) {
 TEST(Report, AnExtensionIsAddedWhereNoneIsTyped) {
   const std::pair<const char*, const char*> cases[] = {
       {"/a/Rovers_United_Summary", "/a/Rovers_United_Summary.htm"},
-      {"/a/St. Ann_F.C_Summary", "/a/St. Ann_F.C_Summary.htm"},
-      {"/a.b/page", "/a.b/page.htm"},
+      {"/a.b/St. Ann v F.C 1.2", "/a.b/St. Ann v F.C 1.2.htm"},
       {"page.htm", "page.htm"},
       {"page.HTML", "page.HTML"},
-      {"page.", "page..htm"},
+      {"htm", "htm.htm"},
   };
   for (const auto& [typed, file] : cases) EXPECT_EQ(PageFile(typed), file) << typed;
 }

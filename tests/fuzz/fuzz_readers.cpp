@@ -1,9 +1,12 @@
 // Feeds any bytes to the readers of all data files: none may fail, and what a reader took must survive a
 // save.
+#include <unistd.h>
+
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <string>
 
 #include "data/stadium_store.h"
 #include "data/team_store.h"
@@ -19,7 +22,11 @@ void Expect(bool holds) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace kickwell;
-  static const ProgramFolder folder{std::filesystem::temp_directory_path() / "kickwell-fuzz"};
+  static const ProgramFolder folder{std::filesystem::temp_directory_path() /
+                                    ("kickwell-fuzz-" + std::to_string(::getpid()))};
+  static const bool removedAtExit =
+      std::atexit([] { std::filesystem::remove_all(std::filesystem::path(folder.Root)); }) == 0;
+  Expect(removedAtExit);
   std::filesystem::create_directories(folder.Teams());
   for (const auto& file : {folder.Teams() / "Fuzz", folder.Stadiums()}) {
     std::ofstream(file, std::ios::binary)

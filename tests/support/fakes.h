@@ -25,8 +25,13 @@ class FakeDesktop : public Desktop {
     ProposedName = proposedName;
     return SaveName;
   }
+  void LoadSounds() override {}
+  void PlaySound(Sound sound) override {
+    constexpr const char* Names[] = {"whistle", "goal", "boo"};
+    Messages.push_back(std::string("* ") + Names[static_cast<std::size_t>(sound)]);
+  }
 
-  /// The messages since the last call.
+  /// The messages and sounds since the last call.
   std::vector<std::string> Taken() { return std::exchange(Messages, {}); }
 
   std::vector<std::string> Messages;

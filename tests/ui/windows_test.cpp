@@ -119,7 +119,7 @@ TEST_F(WindowsTest, TheMatchShowsItsShootOutBesideTheGoals) {
   script.insert(script.end(), {{70, 40}, {4, 0, 1}, {0, 0}, {4, 1}, {1, 0}, {5, 1}, {5, 2}, {5, 3}, {5, 4}});
   ScriptedRandom random(script);
   Match match(folder_.Folder, desktop_, random, recording_, setup);
-  MatchWindow window(match, nullptr);
+  MatchWindow window(match, {}, nullptr);
   window.show();
   ExpectNames(window);
   const auto* const goals = window.findChild<QLabel*>("Inn1");

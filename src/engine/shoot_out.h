@@ -1,0 +1,39 @@
+// The penalty shoot-out that the user steps through kick by kick.
+#pragma once
+
+#include "base/desktop.h"
+#include "base/random.h"
+#include "engine/announcement.h"
+#include "engine/commentary.h"
+#include "engine/match_session.h"
+
+namespace kickwell {
+
+class ShootOut {
+ public:
+  ShootOut(MatchSession& session, Random& random, Desktop& desktop, Announcement& announcement)
+      : session_(session),
+        random_(random),
+        desktop_(desktop),
+        announcement_(announcement),
+        commentator_(session, random) {}
+
+  void kick_Click();      ///< Takes the next penalty. Nothing while the button is disabled.
+  void nextshot_Click();  ///< Brings the next taker to the spot. Nothing while the button is disabled.
+
+ private:
+  void PenaltyCall();
+  void Miss(const Side& side, KickMarker& marker);
+  void Score(const Side& side, KickMarker& marker, int& penalties);
+  void DrawTaker(const Side& side);
+  void Tell(const Side& side, Phrases phrases);
+  bool IsDecided(int kick) const;
+
+  MatchSession& session_;
+  Random& random_;
+  Desktop& desktop_;
+  Announcement& announcement_;
+  Commentator commentator_;
+};
+
+}  // namespace kickwell

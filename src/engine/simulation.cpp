@@ -1,0 +1,118 @@
+#include "engine/simulation.h"
+
+#include <string>
+#include <utility>
+
+#include "engine/goal.h"
+
+namespace kickwell {
+namespace {
+
+constexpr int PitchWidth = 5091, PitchHeight = 741;  ///< Places of the ball marker.
+constexpr int Side1ShootsFrom = 4080, Side2ShootsFrom = 960;
+constexpr int GoalSpotY = 390, Side1GoalSpotX = 5090, Side2GoalSpotX = 0;
+
+}  // namespace
+
+void Simulation::MainFunction(MatchScreen& screen) {
+  MatchSession& s = session_;
+  const bool commented = random_.Int(4) == 0;
+  if (commented) {
+    commentator_.Say("We're into minute " + std::to_string(s.Minute + 1) + " here...");
+    commentator_.Say("And the scoreline is " + std::to_string(s.Side1.Goals) + "-" +
+                     std::to_string(s.Side2.Goals));
+  }
+  for (int second = 0; second < SecondsPerMinute; ++second) {
+    PlaySecond(commented, screen);
+    if (s.Left) return;
+    if (IsExtraTime(s.Period) && s.Side1.Goals != s.Side2.Goals) {
+      s.Controls.Timer1Enabled = false;
+      break;
+    }
+  }
+  s.BallX = random_.Int(PitchWidth);
+  s.BallY = random_.Int(PitchHeight);
+  TryShot();
+  TryFoul();
+  DrawPossession();
+}
+
+void Simulation::PlaySecond(bool commented, MatchScreen& screen) {
+  MatchSession& s = session_;
+  s.Controls.Label2 = Lamp::Black;
+  constexpr int PossessionSides[] = {1, 1, 2, 2, 1, 1, 2, 2, 1, 2};
+  s.BallSide = PossessionSides[random_.Int(10)];
+  if (++s.Second == SecondsPerMinute) {
+    s.Second = 0;
+    ++s.Minute;
+  }
+  s.ClockText = ClockText(s.Minute, s.Second);
+  s.Controls.Label3 = s.ClockText;
+  CalculationMain(screen);
+  if (commented && !s.Left) commentator_.CommentaryMain();
+}
+
+void Simulation::CalculationMain(MatchScreen& screen) {
+  if (Side* const side = DrawGoal(session_, random_)) Goal(*side, screen);
+}
+
+void Simulation::Goal(Side& side, MatchScreen& screen) {
+  MatchSession& s = session_;
+  const bool isSide1 = &side == &s.Side1;
+  s.BallX = isSide1 ? Side1GoalSpotX : Side2GoalSpotX;
+  s.BallY = GoalSpotY;
+  ++side.Goals;
+  ++side.Shots;
+  desktop_.PlaySound(Sound::Goal);
+  CreditGoal(s, side, random_);
+  recording_.StoreScorer(s);
+  s.BallSide = isSide1 ? 1 : 2;
+  s.PhrasePlayer = s.LastScorer;
+  commentator_.SayOneOf(GoalPhrases);
+  commentator_.Say("And its a GOAL!!");
+  commentator_.Say(isSide1 ? "The players are celebrating" : "It's celebration time");
+  AddLine(s.Summary, s.SummaryLine);
+  s.Controls.Label2 = Lamp::Green;
+  s.Controls.Label3 = "GOAL!";
+  screen.Show();
+  screen.PauseFunction();
+}
+
+void Simulation::TryShot() {
+  MatchSession& s = session_;
+  const bool shoots = s.BallSide == 1 ? s.BallX >= Side1ShootsFrom : s.BallX <= Side2ShootsFrom;
+  if (!shoots) return;
+  Side& side = s.WithBall();
+  ++side.Shots;
+  s.PhrasePlayer = PickFrom(side.Outfield, random_);
+  commentator_.AfterShot();
+}
+
+void Simulation::TryFoul() {
+  if (random_.Int(70) != 35) return;
+  Side& side = session_.WithoutBall();
+  ++side.Fouls;
+  session_.PhrasePlayer = PickFrom(side.Outfield, random_);
+  commentator_.AfterFoul();
+}
+
+void Simulation::DrawPossession() {
+  if (random_.Int(3) == 1) ShowPossession(session_, random_);
+}
+
+void Simulation::SwapData() {
+  std::swap(session_.Side1, session_.Side2);
+  CentreBall();
+}
+
+void Simulation::BreakPosition() {
+  CentreBall();
+  session_.BallSide = 0;
+}
+
+void Simulation::CentreBall() {
+  session_.BallX = CentreSpotX;
+  session_.BallY = CentreSpotY;
+}
+
+}  // namespace kickwell

@@ -1,13 +1,14 @@
 // Stand-ins for what the logic is handed.
 #pragma once
 
-#include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "base/desktop.h"
+#include "engine/match_screen.h"
 #include "engine/recording.h"
 
 namespace kickwell {
@@ -19,6 +20,7 @@ class FakeDesktop : public Desktop {
   void Warn(const std::string& text) override { Messages.push_back("!: " + text); }
   bool Ask(const std::string& text) override {
     Messages.push_back("?: " + text);
+    WhileAsked();
     return Yes;
   }
   std::optional<std::string> AskSaveName(const std::string& proposedName) override {
@@ -36,6 +38,7 @@ class FakeDesktop : public Desktop {
 
   std::vector<std::string> Messages;
   bool Yes = true;
+  std::function<void()> WhileAsked = [] {};  ///< What happens behind a question that is on the screen.
   std::string ProposedName;
   std::optional<std::string> SaveName;
 };
@@ -52,6 +55,19 @@ class FakeRecording : public Recording {
   }
 
   std::vector<std::string> Calls;
+};
+
+/// Counts the goal pauses and runs what a test does in them.
+class FakeScreen : public MatchScreen {
+ public:
+  void Show() override {}
+  void PauseFunction() override {
+    ++Pauses;
+    WhilePaused();
+  }
+
+  int Pauses = 0;
+  std::function<void()> WhilePaused = [] {};
 };
 
 }  // namespace kickwell

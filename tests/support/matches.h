@@ -21,4 +21,11 @@ inline MatchSetup MakeSetup(MatchMode mode = MatchMode::Friendly) {
   return setup;
 }
 
+inline MatchSetup MakeFullSetup(bool deciders = false) {
+  MatchSetup setup = MakeSetup();
+  setup.SimulationType = SimulationKind::FullSimulation;
+  setup.ExtraTime = setup.PenaltyShootOut = deciders;
+  return setup;
+}
+
 }  // namespace kickwell

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QTransform>
 #include <algorithm>
+#include <cmath>
+#include <iterator>
 
 #include "ui/ball.h"
 #include "ui/widgets.h"
@@ -10,63 +12,71 @@
 namespace kickwell {
 namespace {
 
-/// What the widget shows, in screen units. The ball's place is its left and top on the spot, where it is
-/// largest.
-constexpr QRectF View(380, -330, 1980, 2030);
-constexpr qreal BallSize = 240;
-constexpr QRectF Mouth(1195, -150, 350,
-                       280);  ///< Between the places where a ball scores and where it misses.
-constexpr qreal GoalLine = Mouth.bottom();
+// The scene, in parts of the picture's width and height.
+constexpr qreal GoalLine = 0.52;
+constexpr QRectF Mouth(0.29, 0.12, 0.42, GoalLine - 0.12);
+constexpr QPointF Spot(0.5, 0.93);
+constexpr qreal FlightHeight = 0.30;  ///< Of a ball that has arrived, in the net or beside it.
 
 constexpr int ColumnWidth = 360;  ///< From marker to marker of a row, in screen units.
 
-void DrawScene(QPainter& painter) {
-  painter.fillRect(QRectF(View.left(), View.top(), View.width(), GoalLine - View.top()),
-                   QColor(0x2b, 0x3a, 0x4a));
-  // The crowd: rows of dots behind the goal.
+/// Where a ball at this place of the picture is drawn. The goal is far away, where a ball that misses by
+/// little and one that misses by much would lie close together; the places are spread to fall well inside and
+/// outside the frame.
+QPointF OnScene(const QPointF& ball) {
+  constexpr qreal Spread = 300;  // In screen units.
+  const qreal aside = ball.x() - PenaltySpot.Left;
+  const qreal x = Spot.x() + std::copysign(0.5 * (1 - std::exp(-std::abs(aside) / Spread)), aside);
+  const qreal near = ball.y() / PenaltySpot.Top;
+  return {x, FlightHeight + near * (Spot.y() - FlightHeight)};
+}
+
+void DrawStandAndGrass(QPainter& painter) {
+  painter.fillRect(QRectF(0, 0, 1, GoalLine), QColor(0x26, 0x34, 0x44));
   painter.setPen(Qt::NoPen);
-  for (int row = 0; row < 5; ++row) {
-    for (int i = 0; i < 60; ++i) {
-      const int shade = 70 + (row * 37 + i * 53) % 90;
-      painter.setBrush(QColor(shade, shade, shade + 20));
-      painter.drawEllipse(QPointF(View.left() + i * 34 + (row % 2) * 17, View.top() + 40 + row * 75), 11, 24);
+  constexpr int Rows = 7, Seats = 72;
+  for (int row = 0; row < Rows; ++row) {
+    for (int seat = 0; seat < Seats; ++seat) {
+      const int shade = 60 + (row * 37 + seat * 53 + row * seat * 7) % 80;
+      painter.setBrush(QColor(shade, shade, shade + 22));
+      painter.drawEllipse(QPointF((seat + row % 2 * 0.5) / Seats, (row + 0.6) * GoalLine / Rows), 0.005,
+                          0.022);
     }
   }
-  constexpr int Stripes = 6;
-  const qreal depth = (View.bottom() - GoalLine) / Stripes;
-  for (int i = 0; i < Stripes; ++i) {
-    painter.fillRect(QRectF(View.left(), GoalLine + i * depth, View.width(), depth),
+  constexpr qreal Stripes[] = {GoalLine, 0.57, 0.63, 0.71, 0.82, 1};  // Wider towards the taker.
+  for (std::size_t i = 0; i + 1 < std::size(Stripes); ++i) {
+    painter.fillRect(QRectF(0, Stripes[i], 1, Stripes[i + 1] - Stripes[i]),
                      i % 2 == 0 ? QColor(0x3f, 0x9b, 0x46) : QColor(0x36, 0x8a, 0x3e));
   }
 }
 
-void DrawFrame(QPainter& painter) {
-  painter.fillRect(Mouth, QColor(0, 0, 0, 110));
-  QPen net(QColor(255, 255, 255, 90), 1);
-  net.setCosmetic(true);
-  painter.setPen(net);
-  for (qreal x = Mouth.left(); x <= Mouth.right(); x += 25)
+void DrawGoal(QPainter& painter) {
+  const auto pen = [&painter](int alpha, int width) {
+    QPen chalk(QColor(255, 255, 255, alpha), width);
+    chalk.setCosmetic(true);
+    painter.setPen(chalk);
+  };
+  painter.fillRect(Mouth, QColor(0, 0, 0, 130));
+  pen(70, 1);
+  constexpr int Meshes = 28, MeshRows = 9;
+  for (int i = 1; i < Meshes; ++i) {
+    const qreal x = Mouth.left() + i * Mouth.width() / Meshes;
     painter.drawLine(QPointF(x, Mouth.top()), QPointF(x, GoalLine));
-  for (qreal y = Mouth.top(); y <= GoalLine; y += 40)
+  }
+  for (int i = 1; i < MeshRows; ++i) {
+    const qreal y = Mouth.top() + i * Mouth.height() / MeshRows;
     painter.drawLine(QPointF(Mouth.left(), y), QPointF(Mouth.right(), y));
-  QPen chalk(QColor(255, 255, 255, 225), 2);
-  chalk.setCosmetic(true);
-  painter.setPen(chalk);
-  painter.drawLine(QPointF(View.left(), GoalLine), QPointF(View.right(), GoalLine));
-  const qreal near = GoalLine + 900;  // The penalty area opens towards the taker.
-  const QPointF area[] = {{Mouth.left() - 330, GoalLine},
-                          {View.left() - 200, near},
-                          {View.right() + 200, near},
-                          {Mouth.right() + 330, GoalLine}};
-  painter.drawPolyline(area, 4);
-  chalk.setWidth(4);
-  chalk.setColor(Qt::white);
-  painter.setPen(chalk);
+  }
+  pen(225, 2);
+  painter.drawLine(QPointF(0, GoalLine), QPointF(1, GoalLine));
+  const QPointF goalArea[] = {{0.2, GoalLine}, {0.13, 0.66}, {0.87, 0.66}, {0.8, GoalLine}};
+  painter.drawPolyline(goalArea, 4);
+  painter.setBrush(Qt::white);
+  painter.drawEllipse(Spot + QPointF(0, 0.02), 0.014, 0.014);
+  pen(255, 4);
   const QPointF frame[] = {
       {Mouth.left(), GoalLine}, Mouth.topLeft(), Mouth.topRight(), {Mouth.right(), GoalLine}};
   painter.drawPolyline(frame, 4);
-  painter.setBrush(Qt::white);
-  painter.drawEllipse(QPointF(PenaltySpot.Left + BallSize / 2, PenaltySpot.Top + BallSize), 40, 18);
 }
 
 }  // namespace
@@ -107,19 +117,16 @@ void Goal::SetBall(SpotPoint point) {
 }
 
 void Goal::paintEvent(QPaintEvent* /*event*/) {
-  QTransform units;
-  units.scale(width() / View.width(), height() / View.height());
-  units.translate(-View.left(), -View.top());
+  QTransform scene;
+  scene.scale(width(), height());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setTransform(units);
-  DrawScene(painter);
-  DrawFrame(painter);
+  painter.setTransform(scene);
+  DrawStandAndGrass(painter);
+  DrawGoal(painter);
   painter.resetTransform();
-  // Far away the ball is a quarter of its size, around the same middle.
-  const qreal near = std::clamp(ball_.y() / PenaltySpot.Top, 0.0, 1.0);
-  const qreal radius = std::max(4.0, height() * 0.06 * (0.3 + 0.7 * near));
-  DrawBall(painter, units.map(ball_ + QPointF(BallSize / 2, BallSize / 2 * near)), radius);
+  const qreal near = ball_.y() / PenaltySpot.Top;
+  DrawBall(painter, scene.map(OnScene(ball_)), std::max(4.0, height() * (0.032 + 0.035 * near)));
 }
 
 KickMark::KickMark() {

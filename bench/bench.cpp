@@ -3,15 +3,20 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QTimer>
+#include <chrono>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "data/stadium_store.h"
 #include "data/team_store.h"
 #include "engine/goal.h"
 #include "engine/instant.h"
+#include "engine/match.h"
 #include "setup/selection.h"
 #include "setup/settings.h"
+#include "ui/match_window.h"
 #include "ui/opening_window.h"
 #include "ui/selection_window.h"
 #include "ui/settings_window.h"
@@ -66,6 +71,108 @@ void InstantMatch(benchmark::State& state) {
   }
 }
 BENCHMARK(InstantMatch)->Unit(benchmark::kMicrosecond);
+
+MatchSetup FullMatch() {
+  MatchSetup setup;
+  setup.SimulationType = SimulationKind::FullSimulation;
+  setup.Team1Name = "Rovers";
+  setup.Team2Name = "United";
+  setup.Team1Strength = setup.Team2Strength = Strength;
+  setup.Team1Attackers = setup.Team2Attackers = {"A", "B", "C", "D", "E", "F"};
+  setup.Team1Outfield = setup.Team2Outfield = {"A", "B", "C", "D", "E", "F", "G", "H", "I", "J"};
+  return setup;
+}
+
+/// Makes the draws of a source and writes their ranges down.
+class NotingRandom : public Random {
+ public:
+  int Int(int n) override {
+    Ranges.push_back(n);
+    return source_.Int(n);
+  }
+
+  std::vector<int> Ranges;
+
+ private:
+  SeededRandom source_{1};
+};
+
+class NoScreen : public MatchScreen {
+ public:
+  void Show() override {}
+  void PauseFunction() override {}
+};
+
+constexpr int MinutesOfHalf = 45;
+
+/// One half without a window. The session stays small: the next one starts anew.
+void PlayHalf(Random& random) {
+  SilentDesktop desktop;
+  NoRecording recording;
+  NoScreen screen;
+  Match match({}, desktop, random, recording, FullMatch());
+  match.halftime_Click();
+  for (int minute = 0; minute < MinutesOfHalf; ++minute) match.Timer1_Timer(screen);
+  benchmark::DoNotOptimize(match.Session().Commentary.Entries.data());
+}
+
+/// The floor of a simulated half: exactly its draws.
+void BareDrawsOfHalf(benchmark::State& state) {
+  NotingRandom noting;
+  PlayHalf(noting);
+  SeededRandom random(1);
+  for ([[maybe_unused]] auto iteration : state) {
+    for (const int range : noting.Ranges) benchmark::DoNotOptimize(random.Int(range));
+  }
+}
+BENCHMARK(BareDrawsOfHalf)->Unit(benchmark::kMicrosecond);
+
+void SimulatedHalf(benchmark::State& state) {
+  for ([[maybe_unused]] auto iteration : state) {
+    SeededRandom random(1);
+    PlayHalf(random);
+  }
+}
+BENCHMARK(SimulatedHalf)->Unit(benchmark::kMicrosecond);
+
+/// No goals, and a remark in every second: a match that goes on to minute 120 with thousands of lines.
+class TalkativeRandom : public Random {
+ public:
+  int Int(int n) override { return n == 4 || n == 30 || n == GoalRange(Strength) ? 0 : source_.Int(n); }
+
+ private:
+  SeededRandom source_{1};
+};
+
+/// What a tick costs with the real window, its drawing included, before and after so many minutes of play.
+void TickInWindow(benchmark::State& state) {
+  const auto lastMinute = static_cast<int>(state.range(0));
+  int lines = 0;
+  for ([[maybe_unused]] auto iteration : state) {
+    SilentDesktop desktop;
+    NoRecording recording;
+    TalkativeRandom random;
+    MatchSetup setup = FullMatch();
+    setup.ExtraTime = true;
+    Match match({}, desktop, random, recording, setup);
+    MatchWindow window(match, {}, nullptr);
+    window.show();
+    match.Option1_Click(0);
+    auto* const timer = window.findChild<QTimer*>("Timer1");
+    const auto tick = [timer] { QMetaObject::invokeMethod(timer, "timeout"); };
+    while (match.Session().Minute < lastMinute) {
+      match.halftime_Click();
+      tick();
+    }
+    const auto start = std::chrono::steady_clock::now();
+    tick();
+    benchmark::DoNotOptimize(window.grab());
+    state.SetIterationTime(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+    lines = match.Session().Commentary.Count();
+  }
+  state.counters["lines"] = lines;
+}
+BENCHMARK(TickInWindow)->Arg(1)->Arg(119)->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 /// A program folder with 1,000 teams, two of them with squads of 1,000 players, and 1,000 stadiums.
 class LargeFolder {

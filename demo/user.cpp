@@ -76,6 +76,11 @@ void User::Wait(int milliseconds) {
   waiting_ = false;
 }
 
+void User::Press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QWidget* const focus = window.focusWidget();
+  QTest::keyClick(focus != nullptr ? focus : &window, key, modifiers);
+}
+
 void User::Click(QWidget& window, const QString& button) {
   QTest::mouseClick(&Find<QAbstractButton>(window, button), Qt::LeftButton);
 }

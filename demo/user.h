@@ -26,6 +26,7 @@ class User {
   /// Lets the program go on for a while in the middle of a step.
   void Wait(int milliseconds);
 
+  static void Press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   static void Click(QWidget& window, const QString& button);
   static void Pick(QWidget& window, const QString& combo, int entry);  ///< By keyboard.
   static void Choose(QWidget& window, int menuKey, int itemKey);       ///< Menu item by its access keys.

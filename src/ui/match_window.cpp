@@ -355,7 +355,7 @@ void MatchWindow::ShowButtons(const MatchControls& controls) {
   // A button that goes dark would pass the focus on to the next button, and Enter with it. The list on view
   // takes it instead, from where Enter still presses the button that is lit.
   for (const Play& play : buttons) {
-    if (play.Button->hasFocus() && !(play.Visible && play.Enabled)) {
+    if (focusWidget() == play.Button && !(play.Visible && play.Enabled)) {
       list1_[static_cast<std::size_t>(controls.Option1)]->setFocus();
     }
   }

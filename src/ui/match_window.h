@@ -56,7 +56,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
 
   Match& match_;
   MatchTimings timings_;
-  QTimer timer1_;
+  QTimer timer1_{this};
   SideWidgets side1_{}, side2_{};
   QLabel *label1_, *ven_, *label2_, *label3_;
   Pitch* picture2_;

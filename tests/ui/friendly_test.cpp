@@ -14,11 +14,6 @@
 namespace kickwell {
 namespace {
 
-void Press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-  QWidget* const focus = window.focusWidget();
-  QTest::keyClick(focus != nullptr ? focus : &window, key, modifiers);
-}
-
 TEST(Friendly, IsPlayedSavedAndLeftByKeyboard) {
   const TestFolder folder;
   for (const char* name : {"Albion", "Borough", "City"})
@@ -34,25 +29,25 @@ TEST(Friendly, IsPlayedSavedAndLeftByKeyboard) {
   QStringList shown;
   user.In("Opening", [](QWidget& window) { User::Choose(window, Qt::Key_P, Qt::Key_S); });
   user.In("Settings", [](QWidget& window) {
-    Press(window, Qt::Key_Down);  // Own team: Borough, so the opposition moves on to City.
-    Press(window, Qt::Key_Tab);
-    Press(window, Qt::Key_Tab);
-    Press(window, Qt::Key_Down);  // Venue: Bowl.
-    for (int i = 0; i < 3; ++i) Press(window, Qt::Key_Tab);
-    Press(window, Qt::Key_Space);  // Extra time, which makes the next stop the shoot-out.
-    Press(window, Qt::Key_Tab);
-    Press(window, Qt::Key_Space);
-    Press(window, Qt::Key_Return);
+    User::Press(window, Qt::Key_Down);  // Own team: Borough, so the opposition moves on to City.
+    User::Press(window, Qt::Key_Tab);
+    User::Press(window, Qt::Key_Tab);
+    User::Press(window, Qt::Key_Down);  // Venue: Bowl.
+    for (int i = 0; i < 3; ++i) User::Press(window, Qt::Key_Tab);
+    User::Press(window, Qt::Key_Space);  // Extra time, which makes the next stop the shoot-out.
+    User::Press(window, Qt::Key_Tab);
+    User::Press(window, Qt::Key_Space);
+    User::Press(window, Qt::Key_Return);
   });
   user.In("Selection", [&user](QWidget& window) {
     user.Wait(50);  // The squads come when the screen has been drawn.
     EXPECT_EQ(User::TextOf(window, "Team1") + User::TextOf(window, "Team2"), "BoroughCity");
     EXPECT_EQ(User::TextOf(window, "Post2(10)") + User::TextOf(window, "Sk2(10)"), "FDR80");
-    Press(window, Qt::Key_C, Qt::AltModifier);
+    User::Press(window, Qt::Key_C, Qt::AltModifier);
   });
   user.In("Main", [&user, &shown](QWidget& window) {
     EXPECT_EQ(User::TextOf(window, "ven"), "Bowl, Oss");
-    Press(window, Qt::Key_V, Qt::AltModifier);
+    User::Press(window, Qt::Key_V, Qt::AltModifier);
     user.Wait(200);  // A button pressed by its key is seen to go down.
     const auto* const summary = window.findChild<QListWidget*>("List1(1)");
     for (int i = 0; i < summary->count(); ++i) shown.append(summary->item(i)->text());
@@ -66,10 +61,10 @@ TEST(Friendly, IsPlayedSavedAndLeftByKeyboard) {
     name->setText(QString::fromStdString((folder / "page").string()));
     QTest::keyClick(name, Qt::Key_Return);
   });
-  user.In("Main", [](QWidget& window) { Press(window, Qt::Key_Escape); });
-  user.In("MessageBox", [](QWidget& window) { Press(window, Qt::Key_Escape); });  // No: still there.
-  user.In("Main", [](QWidget& window) { Press(window, Qt::Key_X, Qt::AltModifier); });
-  user.In("MessageBox", [](QWidget& window) { Press(window, Qt::Key_Y, Qt::AltModifier); });
+  user.In("Main", [](QWidget& window) { User::Press(window, Qt::Key_Escape); });
+  user.In("MessageBox", [](QWidget& window) { User::Press(window, Qt::Key_Escape); });  // No: still there.
+  user.In("Main", [](QWidget& window) { User::Press(window, Qt::Key_X, Qt::AltModifier); });
+  user.In("MessageBox", [](QWidget& window) { User::Press(window, Qt::Key_Y, Qt::AltModifier); });
   bool ended = false;
   user.In("Opening", [&ended](QWidget& window) {  // Both set-up screens have closed with the match.
     User::Choose(window, Qt::Key_P, Qt::Key_X);

@@ -3,9 +3,11 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTimer>
 #include <QtTest/QTest>
 
 #include "support/fakes.h"
@@ -141,6 +143,65 @@ TEST_F(WindowsTest, TheMatchShowsItsShootOutBesideTheGoals) {
   desktop_.Yes = true;
   window.close();
   EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
+  QuietRandom random;
+  Match match(folder_.Folder, desktop_, random, recording_, MakeFullSetup());
+  MatchWindow window(match, {1, 60000}, nullptr);
+  window.show();
+  const auto shows = [&window](const char* label, const char* text) {
+    return User::TextOf(window, label) == text;
+  };
+  auto* const commentary = window.findChild<QListWidget*>("List1(0)");
+  QTimer::singleShot(0, &window, [&] {
+    random.ScoringSide = 2;
+    User::Click(window, "halftime");
+  });
+  QTimer::singleShot(200, &window, [&] {
+    EXPECT_TRUE(shows("Label3", "GOAL!") && shows("Inn2", "1"));
+    EXPECT_EQ(window.findChild<QWidget*>("PosMet(1)")->palette().color(QPalette::Window), QColor(0, 255, 0));
+    User::Click(window, "Option1(0)");
+    EXPECT_TRUE(commentary->isVisible());
+    EXPECT_TRUE(window.findChild<QPushButton*>("ComSave")->text() == "Save Commentary");
+    desktop_.SaveName = (folder_ / "page").string();
+    User::Click(window, "ComSave");
+    User::Click(window, "Command1");
+  });
+  QElapsedTimer time;
+  time.start();
+  window.exec();  // Returns although the pause is a minute long.
+  EXPECT_LT(time.elapsed(), 10000);
+  EXPECT_EQ(match.Session().ClockText, "00:01");
+  EXPECT_TRUE(std::filesystem::exists(folder_ / "page.htm"));
+  EXPECT_EQ(desktop_.Taken(),
+            (std::vector<std::string>{"* whistle", "* goal", "?: Do you really want to exit?"}));
+}
+
+TEST_F(WindowsTest, TheClockRunsTheMatchAndItsButtons) {
+  QuietRandom random;
+  Match match(folder_.Folder, desktop_, random, recording_, MakeFullSetup(true));
+  MatchWindow window(match, {1, 1}, nullptr);
+  window.show();
+  ExpectNames(window);
+  auto* const halftime = window.findChild<QPushButton*>("halftime");
+  for (const char* caption : {"&Normal Time 1st Half", "&Normal Time 2nd Half", "&Extra Time 1st Half",
+                              "&Extra Time 2nd Half", "&Penalty Shoot Out"}) {
+    ASSERT_TRUE(QTest::qWaitFor([halftime] { return halftime->isEnabled(); }));
+    EXPECT_EQ(halftime->text(), caption);
+    User::Press(window, Qt::Key_Return);
+  }
+  EXPECT_TRUE(halftime->isHidden());
+  EXPECT_TRUE(window.findChild<QWidget*>("Picture2")->isHidden());
+  EXPECT_FALSE(window.findChild<QWidget*>("nextshot")->isEnabled());
+  EXPECT_EQ(User::TextOf(window, "Label4") + User::TextOf(window, "Label7"), "UnitedRovers");
+  for (int kick = 0; kick < 6; ++kick) {
+    EXPECT_TRUE(window.findChild<QWidget*>(ArrayName("penalty", kick))->isVisible());
+    User::Press(window, Qt::Key_Return);  // The ball...
+    EXPECT_EQ(User::TextOf(window, "Label3"), "MISS!");
+    User::Press(window, Qt::Key_Return);  // ... and the next player.
+  }
+  EXPECT_FALSE(window.findChild<QWidget*>("penalty(10)")->isVisible());
 }
 
 }  // namespace

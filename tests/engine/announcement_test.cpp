@@ -11,139 +11,82 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-/// A match of Rovers and United that ended with these goals.
-MatchSession Ended(MatchMode mode, int goals1, int goals2) {
-  MatchSession session;
-  session.Setup = MakeSetup(mode);
-  session.Side1.Team = "Rovers";
-  session.Side2.Team = "United";
-  session.Side1.Goals = session.Side1FinalGoals = goals1;
-  session.Side2.Goals = session.Side2FinalGoals = goals2;
-  session.Controls.Label3 = "GOAL!";
-  session.Controls.Label2 = Lamp::Green;
-  return session;
-}
+constexpr MatchMode Friendly = MatchMode::Friendly, League = MatchMode::League,
+                    KnockOut = MatchMode::KnockOut;
 
-TEST(Announcement, TellsTheResultOfPlayAndRecordsIt) {
-  struct Case {
-    MatchMode Mode;
-    int Goals1, Goals2;
-    const char *Summary, *Commentary, *Winner, *Result;
-    Texts Recorded;
-  };
-  const Case cases[] = {
-      {MatchMode::Friendly,
-       2,
-       1,
-       "Rovers beats United 2-1",
-       "With that, Rovers wins the match",
-       "Rovers",
-       "Rovers",
-       {}},
-      {MatchMode::League,
-       0,
-       3,
-       "United beats Rovers 3-0",
-       "With that, United wins the match",
-       "United",
-       "United",
-       {"standings United", "result United"}},
-      {MatchMode::League,
-       0,
-       0,
-       "The match was tied at 0-0",
-       nullptr,
-       "Rovers",
-       "Match Tied",
-       {"standings Match Tied", "result Match Tied"}},
-      {MatchMode::KnockOut,
-       4,
-       2,
-       "Rovers beats United 4-2",
-       "With that, Rovers wins the match",
-       "Rovers",
-       "Rovers",
-       {"result Rovers"}},
-      {MatchMode::KnockOut, 1, 1, "The match was tied at 1-1", nullptr, "Rovers", "Match Tied", {}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.Summary);
-    MatchSession s = Ended(c.Mode, c.Goals1, c.Goals2);
-    ScriptedRandom random{};
-    FakeRecording recording;
-    Announcement(s, random, recording).ShowResult();
-    EXPECT_EQ(s.Summary.Entries, (Texts{"", "Result:", c.Summary}));
-    EXPECT_EQ(s.Commentary.Entries, c.Commentary != nullptr ? Texts{c.Commentary} : Texts{});
-    EXPECT_EQ(s.SummaryLine, c.Summary);
-    EXPECT_EQ(s.WinnerName, c.Winner);
-    EXPECT_EQ(s.LoserName, s.WinnerName == "Rovers" ? "United" : "Rovers");
-    EXPECT_EQ(s.WinnerGoals, std::max(c.Goals1, c.Goals2));
-    EXPECT_EQ(s.LoserGoals, c.Goals1 == c.Goals2 ? 0 : std::min(c.Goals1, c.Goals2));
-    EXPECT_EQ(s.ResultText, c.Result);
-    EXPECT_EQ(recording.Calls, c.Recorded);
-    EXPECT_EQ(s.Controls.Label3, "");
-    EXPECT_EQ(s.Controls.Label2, Lamp::Black);
-  }
-}
-
-TEST(Announcement, TellsTheShootOutAndSettlesALevelOneByToss) {
-  struct Case {
-    MatchMode Mode;
-    int Penalties1, Penalties2;
-    std::vector<Draw> Toss;
-    const char *Summary, *Commentary, *Result;
-    Texts Recorded;
-  };
-  const Case cases[] = {
-      {MatchMode::KnockOut,
-       5,
-       4,
-       {},
-       "Rovers beats United 5-4 in PSO",
-       "That's it, Rovers wins the match in a PSO",
-       "Rovers",
-       {"shoot-out Rovers"}},
-      {MatchMode::KnockOut,
-       3,
-       4,
-       {},
-       "United beats Rovers 4-3 in PSO",
-       "That's it, United wins the match in a PSO",
-       "United",
-       {"shoot-out United"}},
-      {MatchMode::KnockOut,
-       10,
-       10,
-       {{2, 0}},
-       "PSO was tied at 10-10",
-       "The match still remains undecided after the PSO",
-       "Rovers (By Toss)",
-       {"shoot-out Rovers (By Toss)"}},
-      {MatchMode::Friendly,
-       9,
-       9,
-       {{2, 1}},
-       "PSO was tied at 9-9",
-       "The match still remains undecided after the PSO",
-       "United (By Toss)",
-       {}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.Summary);
-    MatchSession s = Ended(c.Mode, 1, 1);
-    s.Side1Penalties = c.Penalties1;
-    s.Side2Penalties = c.Penalties2;
-    ScriptedRandom random(c.Toss);
-    FakeRecording recording;
-    Announcement announcement(s, random, recording);
+class AnnouncementTest : public testing::Test {
+ protected:
+  /// Announces a match of Rovers and United, and its shoot-out where there was one.
+  void Announce(MatchMode mode, int goals1, int goals2, bool shootOut = false, int pens1 = 0, int pens2 = 0,
+                const std::vector<Draw>& toss = {}) {
+    SCOPED_TRACE(testing::Message() << goals1 << "-" << goals2 << " " << pens1 << "-" << pens2);
+    s_ = MatchSession();
+    s_.Setup = MakeSetup(mode);
+    s_.Side1.Team = "Rovers";
+    s_.Side2.Team = "United";
+    s_.Side1.Goals = s_.Side1FinalGoals = goals1;
+    s_.Side2.Goals = s_.Side2FinalGoals = goals2;
+    s_.Side1Penalties = pens1;
+    s_.Side2Penalties = pens2;
+    s_.Controls.Label3 = "GOAL!";
+    s_.Controls.Label2 = Lamp::Green;
+    recording_.Calls.clear();
+    ScriptedRandom random(toss);
+    Announcement announcement(s_, random, recording_);
     announcement.ShowResult();
-    announcement.PenResult();
-    EXPECT_EQ(s.Summary.Entries, (Texts{"", "Result:", "The match was tied at 1-1", c.Summary}));
-    EXPECT_EQ(s.Commentary.Entries, Texts{c.Commentary});
-    EXPECT_EQ(s.ResultText, c.Result);
-    EXPECT_EQ(s.WinnerName, "Rovers");  // As the level result left it.
-    EXPECT_EQ(recording.Calls, c.Recorded);
+    if (shootOut) announcement.PenResult();
+    EXPECT_EQ(s_.Controls.Label3, "");
+    EXPECT_EQ(s_.Controls.Label2, Lamp::Black);
   }
+
+  /// The summary's last line, the commentary, the result text and what was recorded.
+  Texts Told() const {
+    Texts told{s_.Summary.Entries.back()};
+    told.insert(told.end(), s_.Commentary.Entries.begin(), s_.Commentary.Entries.end());
+    told.push_back(s_.ResultText);
+    told.insert(told.end(), recording_.Calls.begin(), recording_.Calls.end());
+    return told;
+  }
+
+  MatchSession s_;
+  FakeRecording recording_;
+};
+
+TEST_F(AnnouncementTest, TellsTheResultOfPlayAndRecordsIt) {
+  Announce(Friendly, 2, 1);
+  EXPECT_EQ(Told(), (Texts{"Rovers beats United 2-1", "With that, Rovers wins the match", "Rovers"}));
+  EXPECT_EQ(s_.Summary.Entries, (Texts{"", "Result:", "Rovers beats United 2-1"}));
+  Announce(League, 0, 3);
+  EXPECT_EQ(Told(), (Texts{"United beats Rovers 3-0", "With that, United wins the match", "United",
+                           "standings United", "result United"}));
+  EXPECT_EQ(s_.WinnerName + s_.LoserName, "UnitedRovers");
+  EXPECT_EQ(s_.WinnerGoals * 10 + s_.LoserGoals, 30);
+  Announce(League, 2, 2);
+  EXPECT_EQ(Told(),
+            (Texts{"The match was tied at 2-2", "Match Tied", "standings Match Tied", "result Match Tied"}));
+  EXPECT_EQ(s_.WinnerName + s_.LoserName, "RoversUnited");
+  EXPECT_EQ(s_.WinnerGoals, 2);
+  Announce(KnockOut, 4, 2);
+  EXPECT_EQ(Told().back(), "result Rovers");
+  Announce(KnockOut, 1, 1);  // Waits for the shoot-out.
+  EXPECT_EQ(Told(), (Texts{"The match was tied at 1-1", "Match Tied"}));
+}
+
+TEST_F(AnnouncementTest, TellsTheShootOutAndSettlesALevelOneByToss) {
+  const std::string undecided = "The match still remains undecided after the PSO";
+  Announce(KnockOut, 1, 1, true, 5, 4);
+  EXPECT_EQ(Told(), (Texts{"Rovers beats United 5-4 in PSO", "That's it, Rovers wins the match in a PSO",
+                           "Rovers", "shoot-out Rovers"}));
+  EXPECT_EQ(s_.Summary.Entries[2], "The match was tied at 1-1");
+  Announce(KnockOut, 0, 0, true, 3, 4);
+  EXPECT_EQ(Told(), (Texts{"United beats Rovers 4-3 in PSO", "That's it, United wins the match in a PSO",
+                           "United", "shoot-out United"}));
+  EXPECT_EQ(s_.WinnerName, "Rovers");  // As the level result left it.
+  Announce(KnockOut, 0, 0, true, 10, 10, {{2, 0}});
+  EXPECT_EQ(Told(),
+            (Texts{"PSO was tied at 10-10", undecided, "Rovers (By Toss)", "shoot-out Rovers (By Toss)"}));
+  Announce(Friendly, 0, 0, true, 9, 9, {{2, 1}});
+  EXPECT_EQ(Told(), (Texts{"PSO was tied at 9-9", undecided, "United (By Toss)"}));
 }
 
 }  // namespace

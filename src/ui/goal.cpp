@@ -3,7 +3,6 @@
 #include <QPainter>
 #include <QTransform>
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 
 #include "ui/ball.h"
@@ -12,23 +11,24 @@
 namespace kickwell {
 namespace {
 
-// The scene, in parts of the picture's width and height.
+// The scene, in parts of the picture's width and height, seen from behind the taker's right shoulder.
 constexpr qreal GoalLine = 0.52;
-constexpr QRectF Mouth(0.29, 0.12, 0.42, GoalLine - 0.12);
-constexpr QPointF Spot(0.5, 0.93);
+constexpr QRectF Mouth(0.381, 0.12, 0.42,
+                       GoalLine - 0.12);  ///< Its left post stands between net and near miss.
+constexpr QRectF GoalArea(0.28, GoalLine, 0.62, 0.14);
+constexpr qreal SpotHeight = 0.93;
 constexpr qreal FlightHeight = 0.30;  ///< Of a ball that has arrived, in the net or beside it.
+
+// What of the ball's screen units the picture's width shows.
+constexpr qreal ViewLeft = 380, ViewWidth = 2140, BallSize = 240;
 
 constexpr int ColumnWidth = 360;  ///< From marker to marker of a row, in screen units.
 
-/// Where a ball at this place of the picture is drawn. The goal is far away, where a ball that misses by
-/// little and one that misses by much would lie close together; the places are spread to fall well inside and
-/// outside the frame.
+/// Where a ball at this place is drawn.
 QPointF OnScene(const QPointF& ball) {
-  constexpr qreal Spread = 300;  // In screen units.
-  const qreal aside = ball.x() - PenaltySpot.Left;
-  const qreal x = Spot.x() + std::copysign(0.5 * (1 - std::exp(-std::abs(aside) / Spread)), aside);
   const qreal near = ball.y() / PenaltySpot.Top;
-  return {x, FlightHeight + near * (Spot.y() - FlightHeight)};
+  return {(ball.x() + BallSize / 2 - ViewLeft) / ViewWidth,
+          FlightHeight + near * (SpotHeight - FlightHeight)};
 }
 
 void DrawStandAndGrass(QPainter& painter) {
@@ -69,10 +69,13 @@ void DrawGoal(QPainter& painter) {
   }
   pen(225, 2);
   painter.drawLine(QPointF(0, GoalLine), QPointF(1, GoalLine));
-  const QPointF goalArea[] = {{0.2, GoalLine}, {0.13, 0.66}, {0.87, 0.66}, {0.8, GoalLine}};
+  const QPointF goalArea[] = {{GoalArea.left() + 0.02, GoalLine},
+                              GoalArea.bottomLeft() - QPointF(0.07, 0),
+                              GoalArea.bottomRight() - QPointF(0.03, 0),
+                              {GoalArea.right(), GoalLine}};
   painter.drawPolyline(goalArea, 4);
   painter.setBrush(Qt::white);
-  painter.drawEllipse(Spot + QPointF(0, 0.02), 0.014, 0.014);
+  painter.drawEllipse(OnScene(QPointF(PenaltySpot.Left, PenaltySpot.Top)) + QPointF(0, 0.02), 0.014, 0.014);
   pen(255, 4);
   const QPointF frame[] = {
       {Mouth.left(), GoalLine}, Mouth.topLeft(), Mouth.topRight(), {Mouth.right(), GoalLine}};

@@ -43,12 +43,6 @@ class ScoreBoard final : public QWidget {
   }
 };
 
-QPushButton* MakeButton(const QString& name, const QString& caption) {
-  auto* const button = new QPushButton(caption);
-  button->setObjectName(name);
-  return button;
-}
-
 QLabel* Enlarged(QLabel* label, qreal factor) {
   QFont font = label->font();
   font.setPointSizeF(font.pointSizeF() * factor);
@@ -108,6 +102,7 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
 
   ConnectActions();
   timer1_.setObjectName("Timer1");
+  timer1_.setTimerType(Qt::PreciseTimer);
   timer1_.setInterval(timings_.Tick);
   Show();
   (instant_->isHidden() ? halftime_ : instant_)->setFocus();
@@ -235,10 +230,8 @@ QLayout* MatchWindow::BuildLists() {
     option1_[at] = new QRadioButton(captions[i]);
     option1_[at]->setObjectName(ArrayName("Option1", i));
     options->addWidget(option1_[at]);
-    list1_[at] = new QListWidget;
-    list1_[at]->setObjectName(ArrayName("List1", i));
+    list1_[at] = MakeList(ArrayName("List1", i));
     list1_[at]->setAccessibleName(names[i]);
-    list1_[at]->setUniformItemSizes(true);
     list1_[at]->setMinimumHeight(90);
     layout->addWidget(list1_[at]);
   }
@@ -275,9 +268,10 @@ void MatchWindow::ConnectActions() {
 
 void MatchWindow::PauseFunction() {
   QEventLoop pause;
-  QTimer::singleShot(timings_.GoalPause, &pause, &QEventLoop::quit);
+  QTimer::singleShot(timings_.GoalPause, Qt::PreciseTimer, &pause, &QEventLoop::quit);
   connect(this, &QDialog::finished, &pause, &QEventLoop::quit);
   pause.exec();
+  timer1_.start();  // The next minute is a whole tick away again.
 }
 
 void MatchWindow::Show() {

@@ -15,10 +15,10 @@ void ScreenWindow::reject() {
 
 void ScreenWindow::Act(const std::function<void()>& action) {
   action();
-  if (IsClosed()) {
-    done(Accepted);
-  } else {
+  if (!IsClosed()) {
     Show();
+  } else if (isVisible()) {  // An action within this one may have closed the window already.
+    done(Accepted);
   }
 }
 

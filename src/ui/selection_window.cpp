@@ -35,7 +35,7 @@ QString FigureText(const std::optional<int>& figure) {
 SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
     : ScreenWindow("Selection", tr("Kickwell Team Selection"), parent),
       selection_(selection),
-      command1_(new QPushButton(tr("&Continue >>"))) {
+      command1_(MakeButton("Command1", tr("&Continue >>"))) {
   const MatchSetup& setup = selection.Setup();
   auto* const sides = new QHBoxLayout;
   sides->setSpacing(16);
@@ -44,10 +44,8 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
 
   QLabel* const num = MakeText("num", QString::number(setup.MatchNumber));
   num->setVisible(false);
-  command1_->setObjectName("Command1");
   command1_->setDefault(true);
-  auto* const command2 = new QPushButton(tr("Cancel"));
-  command2->setObjectName("Command2");
+  QPushButton* const command2 = MakeButton("Command2", tr("Cancel"));
   command2->setAutoDefault(false);
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(num);

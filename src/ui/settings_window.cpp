@@ -41,11 +41,9 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   deciders->addWidget(check2_);
   check1_->setAccessibleName(check1_->text());
 
-  auto* const command1 = new QPushButton(tr("&Continue >>"));
-  command1->setObjectName("Command1");
+  QPushButton* const command1 = MakeButton("Command1", tr("&Continue >>"));
   command1->setDefault(true);
-  auto* const command2 = new QPushButton(tr("Close"));
-  command2->setObjectName("Command2");
+  QPushButton* const command2 = MakeButton("Command2", tr("Close"));
   command2->setAutoDefault(false);
   auto* const buttons = new QHBoxLayout;
   buttons->addStretch();

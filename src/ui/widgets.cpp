@@ -1,8 +1,21 @@
 #include "ui/widgets.h"
 
+#include <QSignalBlocker>
+#include <QStringList>
+
 #include "ui/text_label.h"
 
 namespace kickwell {
+namespace {
+
+QStringList Texts(const Chooser& chooser) {
+  QStringList texts;
+  texts.reserve(chooser.Count());
+  for (const std::string& entry : chooser.Entries) texts.append(ToQt(entry));
+  return texts;
+}
+
+}  // namespace
 
 QString ArrayName(const char* name, int index) {
   return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
@@ -38,14 +51,40 @@ QComboBox* MakeCombo(const QString& objectName) {
   return combo;
 }
 
+QPushButton* MakeButton(const QString& objectName, const QString& caption) {
+  auto* const button = new QPushButton(caption);
+  button->setObjectName(objectName);
+  return button;
+}
+
+QListWidget* MakeList(const QString& objectName) {
+  auto* const list = new QListWidget;
+  list->setObjectName(objectName);
+  list->setUniformItemSizes(true);
+  return list;
+}
+
 void ShowChooser(QComboBox* combo, const Chooser& chooser) {
-  if (combo->count() != chooser.Count()) {
+  const QStringList entries = Texts(chooser);
+  bool same = combo->count() == entries.size();
+  for (int i = 0; same && i < combo->count(); ++i) same = combo->itemText(i) == entries[i];
+  if (!same) {
     combo->clear();
-    QStringList entries;
-    for (const std::string& entry : chooser.Entries) entries.append(ToQt(entry));
     combo->addItems(entries);
   }
   combo->setCurrentIndex(chooser.Picked);
+}
+
+void ShowList(QListWidget* list, const Chooser& chooser) {
+  const QSignalBlocker quiet(list);
+  const QStringList entries = Texts(chooser);
+  bool same = list->count() == entries.size();
+  for (int i = 0; same && i < list->count(); ++i) same = list->item(i)->text() == entries[i];
+  if (!same) {
+    list->clear();
+    list->addItems(entries);
+  }
+  list->setCurrentRow(chooser.Picked);
 }
 
 void ShowLines(QListWidget* list, const Chooser& lines) {

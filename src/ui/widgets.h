@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
 #include <QString>
 #include <string>
 #include <string_view>
@@ -31,8 +32,16 @@ QLabel* MakeCaption(const QString& text, QWidget* buddy);
 /// A pick-only drop-down list, whose width does not follow its entries.
 QComboBox* MakeCombo(const QString& objectName);
 
+QPushButton* MakeButton(const QString& objectName, const QString& caption);
+
+/// A list of lines or names, all of one height.
+QListWidget* MakeList(const QString& objectName);
+
 /// Makes `combo` show `chooser`. Only a user's own pick emits `activated`.
 void ShowChooser(QComboBox* combo, const Chooser& chooser);
+
+/// Makes `list` show `chooser`, without the signals of a user's pick.
+void ShowList(QListWidget* list, const Chooser& chooser);
 
 /// Makes `list` show `lines`, which have only grown since the last call, and scrolls to the picked one.
 void ShowLines(QListWidget* list, const Chooser& lines);

@@ -15,7 +15,8 @@ using Texts = std::vector<std::string>;
 
 class ClockTest : public testing::Test {
  protected:
-  explicit ClockTest(bool deciders = true) : match({}, desktop, random, recording, MakeFullSetup(deciders)) {}
+  explicit ClockTest(bool extraTime = true, bool shootOut = true)
+      : match({}, desktop, random, recording, MakeFullSetup(extraTime, shootOut)) {}
 
   const MatchSession& S() const { return match.Session(); }
 
@@ -42,9 +43,14 @@ class ClockTest : public testing::Test {
   Match match;
 };
 
-class ClockWithoutDecidersTest : public ClockTest {
+class ClockWithoutExtraTimeTest : public ClockTest {
  protected:
-  ClockWithoutDecidersTest() : ClockTest(false) {}
+  ClockWithoutExtraTimeTest() : ClockTest(false, true) {}
+};
+
+class ClockWithoutShootOutTest : public ClockTest {
+ protected:
+  ClockWithoutShootOutTest() : ClockTest(true, false) {}
 };
 
 TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
@@ -89,13 +95,21 @@ TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
   EXPECT_EQ(c.Label3, "");
 }
 
-TEST_F(ClockWithoutDecidersTest, ALevelMatchEndsTied) {
+TEST_F(ClockWithoutShootOutTest, ALevelMatchEndsTiedAfterExtraTime) {
+  for (const int minutes : {45, 45, 15, 15}) PlayPeriod(minutes);
+  EXPECT_EQ(S().Summary.Entries, (Texts{"", "Result:", "The match was tied at 0-0"}));
+  EXPECT_EQ(Button(), "&Extra Time 2nd Half (off)");
+  EXPECT_EQ(S().BallX + S().BallSide, 2520);
+}
+
+TEST_F(ClockWithoutExtraTimeTest, ALevelMatchEndsTied) {
   PlayPeriod(45);
   EXPECT_EQ(PlayPeriod(46),
             (Texts{"Play for the 2nd half gets underway", "Referee blows the full time whistle"}));
   EXPECT_EQ(S().Summary.Entries, (Texts{"", "Result:", "The match was tied at 0-0"}));
   EXPECT_EQ(Button(), "&Normal Time 2nd Half (off)");
   EXPECT_EQ(S().Controls.Label3, "");
+  EXPECT_EQ(S().BallX + S().BallSide, 2520);
 }
 
 TEST_F(ClockTest, AGoalInTheLastSecondOfNormalTimeCounts) {
@@ -109,11 +123,34 @@ TEST_F(ClockTest, AGoalInTheLastSecondOfNormalTimeCounts) {
   EXPECT_EQ(Button(), "&Normal Time 2nd Half (off)");
 }
 
+TEST_F(ClockTest, LeavingInTheGoalPauseOfAGoldenGoalEndsNothingElse) {
+  for (const int minutes : {45, 45, 3}) PlayPeriod(minutes);
+  const int lines = S().Commentary.Count();
+  random.ScoringSide = 1;
+  screen.WhilePaused = [this] { match.Command1_Click(); };
+  match.Timer1_Timer(screen);
+  EXPECT_TRUE(match.Closed());
+  EXPECT_EQ(S().Summary.Entries, Texts{"93:01 >> R5 (Rovers)"});
+  EXPECT_EQ(S().Commentary.Count(), lines + 3);
+  EXPECT_EQ(recording.Calls.size(), 1U);
+}
+
+TEST_F(ClockTest, AGoalInTheLastSecondStaysOnTheDisplayUntilPlayGoesOn) {
+  PlayPeriod(44);
+  random.ScoringSide = 2;
+  random.ScoringSecond = 59;
+  match.Timer1_Timer(screen);
+  EXPECT_EQ(S().Controls.Label3, "GOAL!");
+  EXPECT_EQ(S().Summary.Picked, 0);
+  match.halftime_Click();
+  EXPECT_EQ(S().Controls.Label3, "45:00");
+}
+
 TEST_F(ClockTest, AGoldenGoalEndsTheMatchAtOnceAndOnce) {
   for (const int minute : {95, 105, 118, 120}) {
     SCOPED_TRACE(minute);
     QuietRandom draws;
-    Match played({}, desktop, draws, recording, MakeFullSetup(true));
+    Match played({}, desktop, draws, recording, MakeFullSetup(true, true));
     for (const int minutes : {45, 45, 15, 15}) {
       played.halftime_Click();
       for (int i = 0; i < minutes && !played.Session().Summary.Count(); ++i) {
@@ -140,14 +177,17 @@ TEST_F(ClockTest, AGoldenGoalEndsTheMatchAtOnceAndOnce) {
     EXPECT_EQ(std::count(lines.begin(), lines.end(), "The match goes into penalty shoot out"), 0);
     EXPECT_FALSE(s.Controls.halftimeEnabled || s.Controls.Timer1Enabled);
     EXPECT_EQ(s.BallX, 2520);
+    EXPECT_EQ(s.ClockText, clock);       // Not a second more is played,
+    EXPECT_EQ(draws.BallDraws, minute);  // but the minute's other draws are made.
   }
 }
 
-TEST_F(ClockTest, TicksAreDroppedUnderAQuestionAndNoLeavesTheClockAsItWas) {
+TEST_F(ClockTest, TicksAreDroppedUnderAQuestionOrDialogAndNoLeavesTheClockAsItWas) {
   PlayPeriod(1);
   desktop.Yes = false;
   desktop.WhileAsked = [this] { match.Timer1_Timer(screen); };
   match.Command1_Click();
+  match.ComSave_Click();
   EXPECT_EQ(S().ClockText, "01:00");
   EXPECT_TRUE(S().Controls.Timer1Enabled);
   match.Timer1_Timer(screen);

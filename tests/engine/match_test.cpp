@@ -49,6 +49,7 @@ TEST_F(MatchTest, AFullSimulationOffersThePeriodButtonAndBothViews) {
   setup.SimulationType = SimulationKind::FullSimulation;
   ScriptedRandom random{{100, 50}, {100, 0}};
   Match match(folder_.Folder, desktop_, random, recording_, setup);
+  EXPECT_TRUE(desktop_.SoundsLoaded);
   EXPECT_FALSE(match.Session().Controls.instantVisible);
   EXPECT_TRUE(match.Session().Controls.halftimeVisible);
   EXPECT_TRUE(match.Session().Controls.Option1Enabled);

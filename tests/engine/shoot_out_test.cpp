@@ -15,7 +15,7 @@ using Texts = std::vector<std::string>;
 class ShootOutTest : public testing::Test {
  protected:
   ShootOutTest() {
-    const MatchSetup setup = MakeFullSetup(true);
+    const MatchSetup setup = MakeFullSetup(true, true);
     session_.Setup = setup;
     session_.Side1 = {setup.Team1Name, 1, 4000, setup.Team1Outfield};
     session_.Side2 = {setup.Team2Name, 1, 4000, setup.Team2Outfield};
@@ -108,6 +108,7 @@ TEST_F(ShootOutTest, EndsWhereItIsDecided) {
       shootOut.nextshot_Click();
     }
     EXPECT_EQ(session_.Summary.Entries.back(), line);
+    EXPECT_EQ(session_.Summary.Entries.end()[-2], "The match was tied at 1-1");
     EXPECT_FALSE(session_.Controls.kickEnabled);
     EXPECT_EQ(session_.ResultText, outcomes == level ? "Rovers (By Toss)" : std::string(line).substr(0, 6));
   }

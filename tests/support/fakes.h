@@ -25,9 +25,10 @@ class FakeDesktop : public Desktop {
   }
   std::optional<std::string> AskSaveName(const std::string& proposedName) override {
     ProposedName = proposedName;
+    WhileAsked();
     return SaveName;
   }
-  void LoadSounds() override {}
+  void LoadSounds() override { SoundsLoaded = true; }
   void PlaySound(Sound sound) override {
     constexpr const char* Names[] = {"whistle", "goal", "boo"};
     Messages.push_back(std::string("* ") + Names[static_cast<std::size_t>(sound)]);
@@ -38,7 +39,8 @@ class FakeDesktop : public Desktop {
 
   std::vector<std::string> Messages;
   bool Yes = true;
-  std::function<void()> WhileAsked = [] {};  ///< What happens behind a question that is on the screen.
+  std::function<void()> WhileAsked = [] {};  ///< What happens behind a question or the save dialog.
+  bool SoundsLoaded = false;
   std::string ProposedName;
   std::optional<std::string> SaveName;
 };

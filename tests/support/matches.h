@@ -21,10 +21,11 @@ inline MatchSetup MakeSetup(MatchMode mode = MatchMode::Friendly) {
   return setup;
 }
 
-inline MatchSetup MakeFullSetup(bool deciders = false) {
+inline MatchSetup MakeFullSetup(bool extraTime = false, bool shootOut = false) {
   MatchSetup setup = MakeSetup();
   setup.SimulationType = SimulationKind::FullSimulation;
-  setup.ExtraTime = setup.PenaltyShootOut = deciders;
+  setup.ExtraTime = extraTime;
+  setup.PenaltyShootOut = shootOut;
   return setup;
 }
 

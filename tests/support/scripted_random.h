@@ -57,9 +57,11 @@ class QuietRandom : public Random {
       if (goal) ScoringSide = 0;
       return goal ? 50 : 7;
     }
+    if (n == 5091) ++BallDraws;
     return n == 100 ? 50 : n == 5091 ? 2000 : n == 4 ? 1 : 0;
   }
 
+  int BallDraws = 0;      ///< One a minute.
   int ScoringSide = 0;    ///< Scores once, in the next ScoringSecond.
   int ScoringSecond = 0;  ///< Of a minute, from 0.
 

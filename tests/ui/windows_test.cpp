@@ -173,7 +173,7 @@ TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
 
 TEST_F(WindowsTest, TheClockRunsTheMatchAndItsButtons) {
   QuietRandom random;
-  Match match(folder_.Folder, desktop_, random, recording_, MakeFullSetup(true));
+  Match match(folder_.Folder, desktop_, random, recording_, MakeFullSetup(true, true));
   MatchWindow window(match, {1, 1}, nullptr);
   window.show();
   ExpectNames(window);

@@ -1,0 +1,101 @@
+#include "championship/championship_play.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "data/team_store.h"
+
+namespace kickwell {
+
+ChampionshipPlay::ChampionshipPlay(ChampionshipKind kind, ProgramFolder folder, Desktop& desktop,
+                                   SetChampionship setChampionship, OpenSelection openSelection)
+    : kind_(kind),
+      folder_(std::move(folder)),
+      desktop_(desktop),
+      setChampionship_(std::move(setChampionship)),
+      openSelection_(std::move(openSelection)) {
+  Form_Load();
+}
+
+void ChampionshipPlay::Form_Load() {
+  Championships.Entries = ListChampionships(folder_, kind_);
+  if (Championships.Count() > 0) Championships_Click(0);
+  SimulationType = {{SimulationTexts.begin(), SimulationTexts.end()}, 0};
+}
+
+void ChampionshipPlay::Championships_Click(int entry) {
+  Load(Championships.Entries.at(static_cast<std::size_t>(entry)));
+}
+
+void ChampionshipPlay::Load(const std::string& fileName) {
+  std::optional<Championship> read = ReadChampionship(folder_, kind_, fileName);
+  if (!read) return;
+  if (MainFileName(kind_, read->Name) != fileName) {
+    desktop_.Inform(fileName + " holds the championship " + read->Name + ". Rename the file to play it.");
+    return;
+  }
+  const auto place = std::find(Championships.Entries.begin(), Championships.Entries.end(), fileName);
+  if (place != Championships.Entries.end())
+    Championships.Picked = static_cast<int>(place - Championships.Entries.begin());
+  name_ = read->Name;
+  setChampionship_(name_);
+  fixtures_ = std::move(read->Fixtures);
+  FixtureList = From = To = {};
+  for (const Fixture& fixture : fixtures_) {
+    const int number = FixtureList.Count() + 1;
+    FixtureList.Add(FixtureText(number, fixture.Home, fixture.Away));
+    From.Add(std::to_string(number));
+  }
+  To = From;
+  From.Picked = fixtures_.empty() ? Chooser::None : 0;
+  To.Picked = std::min(static_cast<int>(fixtures_.size()), 2) - 1;
+  Changed();
+}
+
+void ChampionshipPlay::Command1_Click() {
+  if (Championships.Picked == Chooser::None || From.Picked == Chooser::None || To.Picked == Chooser::None) {
+    desktop_.Inform("Please make all the settings properly");
+    return;
+  }
+  const int from = From.Picked + 1;  // The choosers hold the numbers from 1 on.
+  const int to = To.Picked + 1;
+  if (to < from) {
+    desktop_.Inform("Please select the match numbers properly");
+    return;
+  }
+  for (int number = from; number <= to; ++number) HandOver(number);
+}
+
+void ChampionshipPlay::HandOver(int number) {
+  if (number > static_cast<int>(fixtures_.size())) return;  // The file has lost it in the meantime.
+  const Fixture fixture = fixtures_[static_cast<std::size_t>(number) - 1];
+  const std::string match = "Match " + std::to_string(number);
+  if (fixture.Status != NotPlayed) {
+    desktop_.Inform(match + " has been played already");
+    return;
+  }
+  if (kind_ == ChampionshipKind::KnockOut) {
+    for (const std::string& entry : {fixture.Home, fixture.Away}) {
+      if (const int earlier = PlaceholderNumber(entry)) {
+        desktop_.Inform(match + " can't be played before match " + std::to_string(earlier) +
+                        " has been played");
+        return;
+      }
+    }
+  }
+  MatchSetup setup;
+  setup.Mode = kind_ == ChampionshipKind::League ? MatchMode::League : MatchMode::KnockOut;
+  setup.ChampionshipName = name_;
+  setup.MatchNumber = number;
+  setup.Team1Name = TeamOf(fixture.Home);
+  setup.Team2Name = TeamOf(fixture.Away);
+  setup.SimulationType = static_cast<SimulationKind>(SimulationType.Picked);
+  openSelection_(setup);
+}
+
+std::string ChampionshipPlay::TeamOf(const std::string& entry) const {
+  return LoadTeam(folder_, entry) ? entry : WithoutToss(entry);
+}
+
+}  // namespace kickwell

@@ -1,0 +1,62 @@
+// The championship play settings: which fixtures of a league or a knock-out are played, and how.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "base/chooser.h"
+#include "base/desktop.h"
+#include "base/program.h"
+#include "data/championship_store.h"
+#include "engine/match_setup.h"
+
+namespace kickwell {
+
+class ChampionshipPlay {
+ public:
+  using OpenSelection = std::function<void(const MatchSetup&)>;  ///< Returns when the selection has closed.
+  using SetChampionship = std::function<void(const std::string&)>;  ///< Tells the menu what is being played.
+
+  /// Opens with the first championship of the kind.
+  ChampionshipPlay(ChampionshipKind kind, ProgramFolder folder, Desktop& desktop,
+                   SetChampionship setChampionship, OpenSelection openSelection);
+
+  void Championships_Click(int entry);
+  void From_Click(int entry) { From.Picked = entry; }
+  void To_Click(int entry) { To.Picked = entry; }
+  void SimulationType_Click(int entry) { SimulationType.Picked = entry; }
+
+  /// Reads the championship's fixtures and offers all of them. A file that is gone changes nothing, and one
+  /// whose stored name is another than the file's is refused: its results would go to that other
+  /// championship.
+  void Load(const std::string& fileName);
+
+  /// Hands the unplayed fixtures of the range to the line-up selection, one after the other.
+  void Command1_Click();
+  void Command2_Click() { Closed = true; }
+
+  Chooser Championships;  ///< Main files.
+  Chooser FixtureList;
+  Chooser From, To;  ///< Match numbers.
+  Chooser SimulationType;
+  bool Closed = false;
+
+  std::function<void()> Changed = [] {
+  };  ///< Called when fixtures have been read again in the middle of a range.
+
+ private:
+  void Form_Load();
+  void HandOver(int number);
+  std::string TeamOf(const std::string& entry) const;
+
+  ChampionshipKind kind_;
+  ProgramFolder folder_;
+  Desktop& desktop_;
+  SetChampionship setChampionship_;
+  OpenSelection openSelection_;
+  std::string name_;  ///< Of the loaded championship.
+  std::vector<Fixture> fixtures_;
+};
+
+}  // namespace kickwell

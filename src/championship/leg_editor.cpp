@@ -1,0 +1,213 @@
+#include "championship/leg_editor.h"
+
+#include <algorithm>
+#include <optional>
+#include <set>
+#include <utility>
+
+#include "data/file_names.h"
+#include "data/team_store.h"
+
+namespace kickwell {
+namespace {
+
+/// Puts `entry` at its alphabetical place; what is picked stays picked.
+void Insert(Chooser& list, const std::string& entry) {
+  const auto place = std::upper_bound(list.Entries.begin(), list.Entries.end(), entry, ListedBefore);
+  if (place - list.Entries.begin() <= list.Picked) ++list.Picked;
+  list.Entries.insert(place, entry);
+}
+
+/// Takes the entry at `place` out; when it was the picked one, nothing is picked then.
+void RemoveAt(Chooser& list, int place) {
+  if (place < 0 || place >= list.Count()) return;
+  list.Entries.erase(list.Entries.begin() + place);
+  if (place == list.Picked) {
+    list.Picked = Chooser::None;
+  } else if (place < list.Picked) {
+    --list.Picked;
+  }
+}
+
+void PickFirst(Chooser& list) {
+  list.Picked = list.Entries.empty() ? Chooser::None : 0;
+}
+
+}  // namespace
+
+LegEditor::LegEditor(ProgramFolder folder, Desktop& desktop, Random& random)
+    : folder_(std::move(folder)), desktop_(desktop), random_(random) {
+  Form_Load();
+}
+
+void LegEditor::Form_Load() {
+  for (EditorSide* side : {&League, &KnockOut}) {
+    side->Available.Entries = ListTeams(folder_);
+    PickFirst(side->Available);
+    side->Load.Entries = ListChampionships(folder_, side->Kind);
+    side->ManualEntry = false;
+  }
+  Kind = {{"League Championship", "Knock Out Championship"}, 0};
+}
+
+void LegEditor::AddTeam_Click(EditorSide& side) {
+  if (side.Available.Picked == Chooser::None) return;
+  const std::string team = side.Available.Text();
+  for (Chooser* list : {&side.Selected, &side.Home, &side.Away}) Insert(*list, team);
+  RemoveAt(side.Available, side.Available.Picked);
+  PickFirst(side.Available);
+}
+
+void LegEditor::RemoveTeam_Click(EditorSide& side) {
+  const int place = side.Selected.Picked;
+  if (place == Chooser::None) return;
+  Insert(side.Available, side.Selected.Text());
+  for (Chooser* list : {&side.Home, &side.Away, &side.Selected}) RemoveAt(*list, place);
+  PickFirst(side.Selected);
+}
+
+void LegEditor::MoreTeams_Click() {
+  if (KnockOut.NumberOfTeams < MostTeamsOfKnockOut) KnockOut.NumberOfTeams *= 2;
+}
+
+void LegEditor::FewerTeams_Click() {
+  if (KnockOut.NumberOfTeams > 2) KnockOut.NumberOfTeams /= 2;
+}
+
+void LegEditor::ShowFixture(EditorSide& side, Pairing fixture) {
+  side.FixtureList.Add(FixtureText(side.FixtureList.Count() + 1, fixture.Home, fixture.Away));
+  side.Table.push_back(std::move(fixture));
+}
+
+void LegEditor::AutoFixtures_Click(EditorSide& side) {
+  const bool league = side.Kind == ChampionshipKind::League;
+  if (!league && side.NumberOfTeams != side.Selected.Count()) {
+    desktop_.Inform("Total teams selected doesn't match the number of teams");
+    return;
+  }
+  if (side.Selected.Count() < 2) {
+    desktop_.Inform("There must be at least two teams in the competition");
+    return;
+  }
+  if (league && side.Selected.Count() > MostTeamsOfGeneratedLeague) {
+    desktop_.Inform("A league with generated fixtures can have at most " +
+                    std::to_string(MostTeamsOfGeneratedLeague) + " teams");
+    return;
+  }
+  side.ManualEntry = false;
+  side.FixtureList = {};
+  side.Table.clear();
+  const std::vector<std::string>& teams = side.Selected.Entries;
+  for (Pairing& fixture : league ? LeagueFixture(teams, random_) : KnockOutFixture(teams, random_)) {
+    ShowFixture(side, std::move(fixture));
+  }
+}
+
+void LegEditor::AddFixture_Click() {
+  const std::string home = League.Home.Text();
+  const std::string away = League.Away.Text();
+  if (League.Home.Count() < 2) {
+    desktop_.Inform("There must be atleast two teams in the competition");
+  } else if (home.empty() || away.empty()) {
+    desktop_.Inform("Select both the home and away teams properly");
+  } else if (home == away) {
+    desktop_.Inform(home + " can't play againt itself");
+  } else if (League.ManualEntry && League.FixtureList.Count() >= MostFixtures) {
+    desktop_.Inform("A championship can have at most " + std::to_string(MostFixtures) + " matches");
+  } else {
+    if (!std::exchange(League.ManualEntry, true)) {
+      League.FixtureList = {};
+      League.Table.clear();
+    }
+    ShowFixture(League, {home, away});
+  }
+}
+
+bool LegEditor::IsKnockOut(const EditorSide& side) const {
+  const std::vector<std::string>& teams = side.Selected.Entries;
+  const auto count = static_cast<int>(teams.size());
+  if (count != side.NumberOfTeams || static_cast<int>(side.Table.size()) != count - 1) return false;
+  const std::set<std::string> names(teams.begin(), teams.end());
+  const auto known = [&names](const std::string& entry) {
+    return names.contains(entry) || names.contains(WithoutToss(entry)) || PlaceholderNumber(entry) > 0;
+  };
+  return std::all_of(side.Table.begin(), side.Table.end(),
+                     [&known](const Pairing& fixture) { return known(fixture.Home) && known(fixture.Away); });
+}
+
+bool LegEditor::MayBeSaved(const EditorSide& side) {
+  const bool league = side.Kind == ChampionshipKind::League;
+  if (side.Selected.Count() < 2) {
+    desktop_.Inform("Please select the championship teams properly");
+  } else if (side.Table.empty() || (!league && !IsKnockOut(side))) {
+    desktop_.Inform("Please add the championship fixtures properly");
+  } else if (side.Name.empty()) {
+    desktop_.Inform("Please enter a name for the championship");
+  } else if (league && side.Selected.Count() > MostTeamsOfLeague) {
+    desktop_.Inform("A league can have at most " + std::to_string(MostTeamsOfLeague) + " teams");
+  } else if (!IsFileName(side.Name)) {
+    desktop_.Warn(FileNameRefusal(side.Name));
+  } else {
+    return true;
+  }
+  return false;
+}
+
+void LegEditor::Save_Click(EditorSide& side) {
+  if (!MayBeSaved(side)) return;
+  const std::string fileName = MainFileName(side.Kind, side.Name);
+  const bool known = ReadChampionship(folder_, side.Kind, fileName).has_value();
+  if (!desktop_.Ask(known ? "Do you want to overwrite " + side.Name + "?"
+                          : "Are you sure you want to add " + side.Name + "?")) {
+    return;
+  }
+  Championship championship{side.Kind, side.Name, side.Selected.Entries, {}};
+  for (const Pairing& fixture : side.Table) {
+    const int number = static_cast<int>(championship.Fixtures.size()) + 1;
+    championship.Fixtures.push_back({NotPlayed, fixture.Home, fixture.Away, WinnerPlaceholder(number)});
+  }
+  if (!Report(desktop_, WriteChampionship(folder_, championship))) return;
+  if (known) {
+    Report(desktop_, DeleteCompanions(folder_, side.Kind, side.Name));
+  } else {
+    side.Load.Add(fileName);
+    Load_Click(side, side.Load.Count() - 1);
+  }
+}
+
+void LegEditor::Load_Click(EditorSide& side, int entry) {
+  side.Load.Picked = entry;
+  const std::optional<Championship> loaded = ReadChampionship(folder_, side.Kind, side.Load.Text());
+  if (!loaded) return;
+  side.Available.Entries = ListTeams(folder_);
+  side.Selected = side.FixtureList = side.Home = side.Away = {};
+  side.Table.clear();
+  side.Name = loaded->Name;
+  for (const std::string& team : loaded->Teams) {
+    Insert(side.Selected, team);
+    std::erase(side.Available.Entries, team);
+  }
+  PickFirst(side.Available);
+  side.Home.Entries = side.Away.Entries = side.Selected.Entries;
+  side.NumberOfTeams = side.Selected.Count();
+  for (const Fixture& fixture : loaded->Fixtures) ShowFixture(side, {fixture.Home, fixture.Away});
+  side.ManualEntry = true;
+}
+
+void LegEditor::Delete_Click(EditorSide& side) {
+  const std::string fileName = side.Load.Text();
+  if (fileName.empty() || side.Name.empty()) {
+    desktop_.Inform("Please load a championship to delete");
+    return;
+  }
+  if (side.Load.Count() <= 1) {
+    desktop_.Inform("You can't delete any more championship");
+    return;
+  }
+  if (!desktop_.Ask("Are you sure you want to remove " + fileName + "?")) return;
+  if (!Report(desktop_, DeleteChampionship(folder_, side.Kind, NameOfMainFile(fileName)))) return;
+  RemoveAt(side.Load, side.Load.Picked);
+  PickFirst(side.Load);
+}
+
+}  // namespace kickwell

@@ -1,0 +1,70 @@
+// The championship editor: builds, saves, loads and deletes leagues and knock-outs.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/chooser.h"
+#include "base/desktop.h"
+#include "base/program.h"
+#include "base/random.h"
+#include "championship/fixtures.h"
+#include "data/championship_store.h"
+
+namespace kickwell {
+
+/// What one side of the editor holds.
+struct EditorSide {
+  explicit EditorSide(ChampionshipKind kind) : Kind(kind) {}
+
+  ChampionshipKind Kind;
+  std::string Name;             ///< The name box, at most 20 characters.
+  Chooser Available, Selected;  ///< Team lists, alphabetical ignoring letter case.
+  Chooser FixtureList;          ///< As the fixtures are shown.
+  std::vector<Pairing> Table;   ///< The fixtures of the list.
+  Chooser Load;                 ///< Main files of this kind.
+
+  Chooser Home, Away;        ///< League only: the selected teams.
+  bool ManualEntry = false;  ///< League only: the next hand-made fixture is added to the list.
+  int NumberOfTeams = 2;     ///< Knock-out only: the chosen number, 2, 4, 8 or 16.
+};
+
+class LegEditor {
+ public:
+  LegEditor(ProgramFolder folder, Desktop& desktop, Random& random);
+
+  /// Fills the team lists and the load choosers and shows the league side.
+  void Form_Load();
+
+  void Kind_Click(int entry) { Kind.Picked = entry; }
+
+  // Actions of one side, which is `League` or `KnockOut` of this editor.
+  static void AddTeam_Click(EditorSide& side);
+  static void RemoveTeam_Click(EditorSide& side);
+  void AutoFixtures_Click(EditorSide& side);
+  void Save_Click(EditorSide& side);
+  void Load_Click(EditorSide& side, int entry);
+  void Delete_Click(EditorSide& side);
+
+  void
+  AddFixture_Click();  ///< Appends the home and away teams picked; the first one replaces a generated list.
+  void MoreTeams_Click();   ///< Doubles the number of teams, up to 16.
+  void FewerTeams_Click();  ///< Halves it, down to 2.
+  void Exit_Click() { Closed = true; }
+
+  Chooser Kind;  ///< "League Championship" or "Knock Out Championship".
+  EditorSide League{ChampionshipKind::League};
+  EditorSide KnockOut{ChampionshipKind::KnockOut};
+  bool Closed = false;
+
+ private:
+  static void ShowFixture(EditorSide& side, Pairing fixture);
+  bool IsKnockOut(const EditorSide& side) const;
+  bool MayBeSaved(const EditorSide& side);
+
+  ProgramFolder folder_;
+  Desktop& desktop_;
+  Random& random_;
+};
+
+}  // namespace kickwell

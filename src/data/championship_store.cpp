@@ -1,0 +1,227 @@
+#include "data/championship_store.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/number.h"
+#include "data/file_names.h"
+
+namespace kickwell {
+namespace {
+
+constexpr const char* Standings = ".rec";
+constexpr const char* Scorers = ".sco";
+constexpr const char* Results = ".lrs";
+
+constexpr std::string_view WinnerOf = "Winner ";
+
+const char* MainExtension(ChampionshipKind kind) {
+  return kind == ChampionshipKind::League ? ".leg" : ".trn";
+}
+
+std::filesystem::path FolderOf(const ProgramFolder& folder, ChampionshipKind kind) {
+  return kind == ChampionshipKind::League ? folder.Leagues() : folder.Tournies();
+}
+
+Lines ReadFile(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName) {
+  if (!StaysInFolder(fileName)) return {};
+  return ReadLines(FolderOf(folder, kind) / fileName).value_or(Lines{});
+}
+
+FileResult WriteFile(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName,
+                     const Lines& lines) {
+  if (!StaysInFolder(fileName)) return {FileNameRefusal(fileName)};
+  return WriteLines(FolderOf(folder, kind) / fileName, lines, folder.Root);
+}
+
+/// Lines taken one after the other; empty ones after the last.
+class Reader {
+ public:
+  explicit Reader(Lines lines) : lines_(std::move(lines)) {}
+
+  std::size_t Left() const { return lines_.size() - place_; }
+  std::string Take() { return place_ < lines_.size() ? std::move(lines_[place_++]) : std::string(); }
+
+  /// A count line, at most as many records of `recordLines` lines as are left behind it.
+  std::size_t TakeCount(std::size_t recordLines) {
+    const int count = ToNumber(Take());
+    return count < 0 ? 0 : std::min(static_cast<std::size_t>(count), Left() / recordLines);
+  }
+
+ private:
+  Lines lines_;
+  std::size_t place_ = 0;
+};
+
+std::vector<std::string> TakeTeams(Reader& reader) {
+  std::vector<std::string> teams(reader.TakeCount(1));
+  for (std::string& team : teams) team = reader.Take();
+  return teams;
+}
+
+/// The first of these deletions that fails.
+FileResult DeleteFiles(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
+                       std::initializer_list<const char*> extensions) {
+  if (!StaysInFolder(name)) return {FileNameRefusal(name)};
+  for (const char* extension : extensions) {
+    FileResult deleted = DeleteFile(FolderOf(folder, kind) / (name + extension));
+    if (!deleted.Ok()) return deleted;
+  }
+  return {};
+}
+
+}  // namespace
+
+std::string WinnerPlaceholder(int number) {
+  return std::string(WinnerOf) + std::to_string(number);
+}
+
+int PlaceholderNumber(std::string_view text) {
+  if (!text.starts_with(WinnerOf)) return 0;
+  const int number = ToNumber(text.substr(WinnerOf.size()));
+  return text == WinnerPlaceholder(number) ? std::max(number, 0) : 0;
+}
+
+std::string WithoutToss(const std::string& name) {
+  return name.ends_with(TossSuffix) ? name.substr(0, name.size() - TossSuffix.size()) : name;
+}
+
+std::string FixtureText(int number, const std::string& home, const std::string& away) {
+  return "Match " + std::to_string(number) + ": " + home + " v " + away;
+}
+
+std::string MainFileName(ChampionshipKind kind, const std::string& name) {
+  return name + MainExtension(kind);
+}
+
+std::string NameOfMainFile(const std::string& fileName) {
+  return fileName.substr(0, fileName.rfind('.'));
+}
+
+std::vector<std::string> ListChampionships(const ProgramFolder& folder, ChampionshipKind kind) {
+  return ListFiles(FolderOf(folder, kind), MainExtension(kind));
+}
+
+std::optional<Championship> ReadChampionship(const ProgramFolder& folder, ChampionshipKind kind,
+                                             const std::string& fileName) {
+  if (!StaysInFolder(fileName)) return std::nullopt;
+  std::optional<Lines> lines = ReadLines(FolderOf(folder, kind) / fileName);
+  if (!lines) return std::nullopt;
+  Reader reader(std::move(*lines));
+  Championship read{kind, {}, {}, {}};
+  std::size_t fixtures = 0;
+  const bool league = kind == ChampionshipKind::League;
+  const std::size_t fixtureLines = league ? 3 : 4;
+  if (league) {
+    read.Name = reader.Take();
+    read.Teams = TakeTeams(reader);
+    fixtures = reader.TakeCount(fixtureLines);
+  } else {
+    const int promised = ToNumber(reader.Take());
+    read.Name = reader.Take();
+    read.Teams = TakeTeams(reader);
+    fixtures = std::min(static_cast<std::size_t>(std::max(promised, 0)), reader.Left() / fixtureLines);
+  }
+  read.Fixtures.resize(fixtures);
+  for (Fixture& fixture : read.Fixtures) {
+    fixture.Status = reader.Take();
+    fixture.Home = reader.Take();
+    fixture.Away = reader.Take();
+    if (!league) fixture.Winner = reader.Take();
+  }
+  return read;
+}
+
+FileResult WriteChampionship(const ProgramFolder& folder, const Championship& championship) {
+  const bool league = championship.Kind == ChampionshipKind::League;
+  const std::string count = std::to_string(championship.Fixtures.size());
+  Lines lines;
+  if (!league) lines.push_back(count);
+  lines.push_back(championship.Name);
+  lines.push_back(std::to_string(championship.Teams.size()));
+  lines.insert(lines.end(), championship.Teams.begin(), championship.Teams.end());
+  if (league) lines.push_back(count);
+  for (const Fixture& fixture : championship.Fixtures) {
+    lines.insert(lines.end(), {fixture.Status, fixture.Home, fixture.Away});
+    if (!league) lines.push_back(fixture.Winner);
+  }
+  return WriteFile(folder, championship.Kind, MainFileName(championship.Kind, championship.Name), lines);
+}
+
+FileResult DeleteCompanions(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name) {
+  if (kind == ChampionshipKind::KnockOut) return DeleteFiles(folder, kind, name, {Results, Scorers});
+  return DeleteFiles(folder, kind, name, {Standings, Scorers, Results});
+}
+
+FileResult DeleteChampionship(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name) {
+  FileResult deleted = DeleteFiles(folder, kind, name, {MainExtension(kind)});
+  return deleted.Ok() ? DeleteCompanions(folder, kind, name) : deleted;
+}
+
+std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const Championship& league) {
+  constexpr std::size_t RowLines = 8;
+  Reader reader(ReadFile(folder, ChampionshipKind::League, league.Name + Standings));
+  std::vector<StandingsRow> standings;
+  standings.reserve(league.Teams.size());
+  for (const std::string& team : league.Teams) {
+    StandingsRow& row = standings.emplace_back();
+    if (reader.Left() < RowLines) {
+      row.Team = team;
+      continue;
+    }
+    row.Team = reader.Take();
+    for (int* figure :
+         {&row.Played, &row.Won, &row.Drawn, &row.Lost, &row.GoalsFor, &row.GoalsAgainst, &row.Points}) {
+      *figure = ToNumber(reader.Take());
+    }
+  }
+  return standings;
+}
+
+FileResult WriteStandings(const ProgramFolder& folder, const std::string& league,
+                          const std::vector<StandingsRow>& standings) {
+  Lines lines;
+  for (const StandingsRow& row : standings) {
+    lines.push_back(row.Team);
+    for (const int figure :
+         {row.Played, row.Won, row.Drawn, row.Lost, row.GoalsFor, row.GoalsAgainst, row.Points}) {
+      lines.push_back(std::to_string(figure));
+    }
+  }
+  return WriteFile(folder, ChampionshipKind::League, league + Standings, lines);
+}
+
+std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind kind,
+                                   const std::string& name) {
+  constexpr std::size_t RowLines = 3;
+  Reader reader(ReadFile(folder, kind, name + Scorers));
+  std::vector<ScorerRow> scorers(reader.Left() / RowLines);
+  for (ScorerRow& row : scorers) {
+    row.Player = reader.Take();
+    row.Team = reader.Take();
+    row.Goals = ToNumber(reader.Take());
+  }
+  return scorers;
+}
+
+FileResult WriteScorers(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
+                        const std::vector<ScorerRow>& scorers) {
+  Lines lines;
+  for (const ScorerRow& row : scorers)
+    lines.insert(lines.end(), {row.Player, row.Team, std::to_string(row.Goals)});
+  return WriteFile(folder, kind, name + Scorers, lines);
+}
+
+Lines ReadResults(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name) {
+  return ReadFile(folder, kind, name + Results);
+}
+
+FileResult AppendResult(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
+                        const std::array<std::string, 5>& block) {
+  Lines lines = ReadResults(folder, kind, name);
+  if (!lines.empty()) lines.emplace_back();
+  lines.insert(lines.end(), block.begin(), block.end());
+  return WriteFile(folder, kind, name + Results, lines);
+}
+
+}  // namespace kickwell

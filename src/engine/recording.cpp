@@ -1,0 +1,119 @@
+#include "engine/recording.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <vector>
+
+namespace kickwell {
+namespace {
+
+constexpr int PointsForWin = 3, PointsForDraw = 1;
+
+ChampionshipKind KindOf(const MatchSession& session) {
+  return session.Setup.Mode == MatchMode::League ? ChampionshipKind::League : ChampionshipKind::KnockOut;
+}
+
+bool IsFriendly(const MatchSession& session) {
+  return session.Setup.Mode == MatchMode::Friendly;
+}
+
+void AddMatch(StandingsRow& row, int goalsFor, int goalsAgainst) {
+  ++row.Played;
+  row.GoalsFor += goalsFor;
+  row.GoalsAgainst += goalsAgainst;
+}
+
+/// Whether a fixture's entry names the team that has played: a toss suffix was left off for the match.
+bool Names(const std::string& entry, const std::string& team) {
+  return entry == team || WithoutToss(entry) == team;
+}
+
+/// A side's part of the result line, with its penalties after a shoot-out.
+std::string SideResult(const Side& side, int penalties, bool shootOut) {
+  return side.Team + " " + std::to_string(side.Goals) +
+         (shootOut ? "(" + std::to_string(penalties) + ")" : "");
+}
+
+}  // namespace
+
+void FileRecording::StoreScorer(const MatchSession& session) {
+  if (IsFriendly(session)) return;
+  const ChampionshipKind kind = KindOf(session);
+  const std::string& name = session.Setup.ChampionshipName;
+  std::vector<ScorerRow> scorers = ReadScorers(folder_, kind, name);
+  bool known = false;
+  for (ScorerRow& row : scorers) {
+    if (row.Player != session.LastScorer) continue;
+    ++row.Goals;
+    known = true;
+  }
+  if (!known) scorers.push_back({session.LastScorer, session.LastScoringTeam, 1});
+  Report(desktop_, WriteScorers(folder_, kind, name, scorers));
+}
+
+void FileRecording::StoreResult(const MatchSession& session) {
+  if (session.Setup.Mode != MatchMode::League) return;
+  const std::string& name = session.Setup.ChampionshipName;
+  const std::optional<Championship> league =
+      ReadChampionship(folder_, ChampionshipKind::League, MainFileName(ChampionshipKind::League, name));
+  if (!league) return;
+  std::vector<StandingsRow> standings = ReadStandings(folder_, *league);
+  const bool level = session.Side1FinalGoals == session.Side2FinalGoals;
+  for (StandingsRow& row : standings) {
+    const bool winner = row.Team == session.WinnerName;
+    if (!winner && row.Team != session.LoserName) continue;
+    if (level) {
+      AddMatch(row, session.WinnerGoals, session.WinnerGoals);
+      ++row.Drawn;
+      row.Points += PointsForDraw;
+    } else if (winner) {
+      AddMatch(row, session.WinnerGoals, session.LoserGoals);
+      ++row.Won;
+      row.Points += PointsForWin;
+    } else {
+      AddMatch(row, session.LoserGoals, session.WinnerGoals);
+      ++row.Lost;
+    }
+  }
+  Report(desktop_, WriteStandings(folder_, name, standings));
+}
+
+void FileRecording::StoreLeagueResult(const MatchSession& session) {
+  if (IsFriendly(session)) return;
+  const bool shootOut = session.DecidedByShootOut;
+  const std::array<std::string, 5> block = {
+      "Match " + std::to_string(session.Setup.MatchNumber) + ":",
+      SideResult(session.Side1, session.Side1Penalties, shootOut) + " vs " +
+          SideResult(session.Side2, session.Side2Penalties, shootOut),
+      "Venue: " + session.Venue, AttendanceText(session), "Winner: " + session.ResultText};
+  Report(desktop_, AppendResult(folder_, KindOf(session), session.Setup.ChampionshipName, block));
+  FileChanges(session);
+}
+
+void FileRecording::FileChanges(const MatchSession& session) {
+  const ChampionshipKind kind = KindOf(session);
+  const MatchSetup& setup = session.Setup;
+  const std::string fileName = MainFileName(kind, setup.ChampionshipName);
+  std::optional<Championship> championship = ReadChampionship(folder_, kind, fileName);
+  if (!championship) return;
+  for (Fixture& fixture : championship->Fixtures) {
+    if (!Names(fixture.Home, setup.Team1Name) || !Names(fixture.Away, setup.Team2Name)) continue;
+    fixture.Status = Played;
+    fixture.Winner = session.ResultText;
+  }
+  if (kind == ChampionshipKind::KnockOut) {
+    const std::string placeholder = WinnerPlaceholder(setup.MatchNumber);
+    for (Fixture& fixture : championship->Fixtures) {
+      if (fixture.Home == placeholder) {
+        fixture.Home = session.ResultText;
+      } else if (fixture.Away == placeholder) {
+        fixture.Away = session.ResultText;
+      }
+    }
+  }
+  Report(desktop_, WriteChampionship(folder_, *championship));
+  selectAgain_(fileName);
+}
+
+}  // namespace kickwell

@@ -1,0 +1,78 @@
+#include "ui/championship_play_window.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/widgets.h"
+
+namespace kickwell {
+
+ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, ChampionshipKind kind, QWidget* parent)
+    : ScreenWindow(kind == ChampionshipKind::League ? "LegSettings" : "KnockSettings",
+                   kind == ChampionshipKind::League ? tr("Kickwell League") : tr("Kickwell Knock Out"),
+                   parent),
+      play_(play),
+      championships_(MakeCombo("Championships")),
+      from_(MakeCombo("From")),
+      to_(MakeCombo("To")),
+      simulationType_(MakeCombo("SimulationType")),
+      fixtures_(MakeList("Fixtures")) {
+  const bool league = kind == ChampionshipKind::League;
+  for (QComboBox* const number : {from_, to_}) number->setMinimumContentsLength(6);
+  auto* const range = new QHBoxLayout;
+  range->addWidget(from_);
+  range->addWidget(MakeCaption(tr("To"), to_));
+  range->addWidget(to_);
+  range->addStretch();
+
+  auto* const command1 = MakeButton("Command1", tr("&Continue >>"));
+  command1->setDefault(true);
+  auto* const command2 = MakeButton("Command2", tr("Close"));
+  command2->setAutoDefault(false);
+  auto* const buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(command1);
+  buttons->addWidget(command2);
+
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(24, 20, 24, 20);
+  layout->setSpacing(4);
+  const auto add = [layout](QWidget* caption, auto&& content) {
+    layout->addWidget(caption);
+    content();
+    layout->addSpacing(12);
+  };
+  add(MakeCaption(league ? tr("Load League:") : tr("Load Knock Out:"), championships_),
+      [&] { layout->addWidget(championships_); });
+  add(MakeCaption(league ? tr("League Fixtures:") : tr("Knock Out Fixtures:"), fixtures_),
+      [&] { layout->addWidget(fixtures_, 1); });
+  add(MakeCaption(tr("Play Matches:"), from_), [&] { layout->addLayout(range); });
+  add(MakeCaption(tr("Match Simulation Type:"), simulationType_),
+      [&] { layout->addWidget(simulationType_); });
+  layout->addLayout(buttons);
+
+  const auto onPick = [this](QComboBox* combo, void (ChampionshipPlay::*action)(int)) {
+    connect(combo, &QComboBox::activated, this,
+            [this, action](int entry) { Act([&] { (play_.*action)(entry); }); });
+  };
+  onPick(championships_, &ChampionshipPlay::Championships_Click);
+  onPick(from_, &ChampionshipPlay::From_Click);
+  onPick(to_, &ChampionshipPlay::To_Click);
+  onPick(simulationType_, &ChampionshipPlay::SimulationType_Click);
+  connect(command1, &QPushButton::clicked, this, [this] { Act([this] { play_.Command1_Click(); }); });
+  connect(command2, &QPushButton::clicked, this, [this] { Act([this] { play_.Command2_Click(); }); });
+  play_.Changed = [this] { Show(); };
+  Show();
+  resize(460, 560);
+}
+
+void ChampionshipPlayWindow::Show() {
+  ShowChooser(championships_, play_.Championships);
+  ShowList(fixtures_, play_.FixtureList);
+  ShowChooser(from_, play_.From);
+  ShowChooser(to_, play_.To);
+  ShowChooser(simulationType_, play_.SimulationType);
+}
+
+}  // namespace kickwell

@@ -1,0 +1,238 @@
+#include "ui/leg_editor_window.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "ui/widgets.h"
+
+namespace kickwell {
+namespace {
+
+constexpr int LongestName = 20;
+
+bool IsLeague(const EditorSide& side) {
+  return side.Kind == ChampionshipKind::League;
+}
+
+QFrame* Line() {
+  auto* const line = new QFrame;
+  line->setFrameShape(QFrame::HLine);
+  line->setFrameShadow(QFrame::Sunken);
+  return line;
+}
+
+}  // namespace
+
+LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
+    : ScreenWindow("LegEditor", tr("Kickwell Championship Editor"), parent),
+      editor_(editor),
+      kind_(MakeCombo("Kind")) {
+  auto* const kind = new QHBoxLayout;
+  kind->addWidget(MakeCaption(tr("Type of Competition / Championship:"), kind_));
+  kind->addWidget(kind_);
+  kind->addStretch();
+  OnPick(kind_, [this](int entry) { editor_.Kind_Click(entry); });
+
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(12);
+  layout->addLayout(kind);
+  layout->addWidget(BuildSide(league_, editor.League), 1);
+  layout->addWidget(BuildSide(knockOut_, editor.KnockOut), 1);
+  layout->addWidget(
+      Button("Exit", tr("E&xit Kickwell Championship Editor"), [this] { editor_.Exit_Click(); }), 0,
+      Qt::AlignRight);
+  Show();
+  resize(900, 640);
+}
+
+QPushButton* LegEditorWindow::Button(const QString& name, const QString& caption,
+                                     std::function<void()> action) {
+  QPushButton* const button = MakeButton(name, caption);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, [this, action = std::move(action)] { Act(action); });
+  return button;
+}
+
+void LegEditorWindow::OnPick(QComboBox* combo, std::function<void(int)> action) {
+  connect(combo, &QComboBox::activated, this,
+          [this, action = std::move(action)](int entry) { Act([&] { action(entry); }); });
+}
+
+void LegEditorWindow::OnPick(QListWidget* list, Chooser& chooser) {
+  connect(list, &QListWidget::currentRowChanged, this, [&chooser](int row) {
+    if (row >= 0) chooser.Picked = row;
+  });
+}
+
+QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
+  const QString prefix = IsLeague(side) ? "League" : "KnockOut";
+  widgets.Page = new QWidget;
+  widgets.Page->setObjectName(prefix);
+  widgets.Name = new QLineEdit;
+  widgets.Name->setObjectName(prefix + "Name");
+  widgets.Name->setMaxLength(LongestName);
+  connect(widgets.Name, &QLineEdit::textEdited, this,
+          [&side](const QString& text) { side.Name = text.toStdString(); });
+
+  QLabel* const heading = MakeCaption(IsLeague(side) ? tr("League Details") : tr("Tournie Details"));
+  QFont large = heading->font();
+  large.setBold(true);
+  large.setPointSizeF(large.pointSizeF() * 1.3);
+  heading->setFont(large);
+  auto* const name = new QHBoxLayout;
+  name->addWidget(MakeCaption(tr("Championship")));
+  name->addSpacing(12);
+  name->addWidget(MakeCaption(IsLeague(side) ? tr("League:") : tr("Knock Out:"), widgets.Name));
+  name->addWidget(widgets.Name);
+  name->addStretch();
+
+  auto* const left = new QVBoxLayout;
+  left->addLayout(name);
+  left->addLayout(BuildTeams(widgets, side, prefix), 1);
+  auto* const columns = new QHBoxLayout;
+  columns->setSpacing(24);
+  columns->addLayout(left, 1);
+  columns->addLayout(BuildFixtures(widgets, side, prefix), 1);
+  auto* const layout = new QVBoxLayout(widgets.Page);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(heading);
+  layout->addLayout(columns, 1);
+  layout->addWidget(Line());
+  layout->addLayout(BuildFiles(widgets, side, prefix));
+  layout->addWidget(Line());
+  return widgets.Page;
+}
+
+QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
+  widgets.Available = MakeList(prefix + "Available");
+  widgets.Selected = MakeList(prefix + "Selected");
+  widgets.Selected->setAccessibleName(tr("Selected teams"));
+  OnPick(widgets.Available, side.Available);
+  OnPick(widgets.Selected, side.Selected);
+  const auto arrow = [&](const QString& name, QStyle::StandardPixmap picture, const QString& tip,
+                         void (*action)(EditorSide&)) {
+    QPushButton* const button = Button(prefix + name, {}, [&side, action] { action(side); });
+    button->setIcon(style()->standardIcon(picture));
+    button->setToolTip(tip);
+    button->setAccessibleName(tip);
+    return button;
+  };
+  auto* const moves = new QVBoxLayout;
+  moves->addStretch();
+  moves->addWidget(arrow("AddTeam", QStyle::SP_ArrowRight, tr("Add the team"), &LegEditor::AddTeam_Click));
+  moves->addWidget(
+      arrow("RemoveTeam", QStyle::SP_ArrowLeft, tr("Remove the team"), &LegEditor::RemoveTeam_Click));
+  moves->addStretch();
+
+  auto* const grid = new QGridLayout;
+  grid->addWidget(MakeCaption(tr("Select Teams:"), widgets.Available), 0, 0);
+  grid->addWidget(widgets.Available, 1, 0);
+  grid->addLayout(moves, 1, 1);
+  grid->addWidget(widgets.Selected, 1, 2);
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(2, 1);
+
+  auto* const counts = new QGridLayout;
+  widgets.TeamCount = MakeText(prefix + "TeamCount", "0");
+  widgets.MatchCount = MakeText(prefix + "MatchCount", "0");
+  int row = 0;
+  if (!IsLeague(side)) {
+    widgets.NumberOfTeams = MakeText("NumberOfTeams", "2");
+    QPushButton* const more = Button("MoreTeams", {}, [this] { editor_.MoreTeams_Click(); });
+    QPushButton* const fewer = Button("FewerTeams", {}, [this] { editor_.FewerTeams_Click(); });
+    more->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
+    fewer->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+    more->setToolTip(tr("More teams"));
+    fewer->setToolTip(tr("Fewer teams"));
+    for (QPushButton* const button : {more, fewer}) button->setAccessibleName(button->toolTip());
+    counts->addWidget(MakeCaption(tr("Total number of teams:")), row, 0);
+    counts->addWidget(widgets.NumberOfTeams, row, 1);
+    counts->addWidget(more, row, 2);
+    counts->addWidget(fewer, row++, 3);
+  }
+  counts->addWidget(
+      MakeCaption(IsLeague(side) ? tr("Total teams in the League:") : tr("Total teams currently selected:")),
+      row, 0);
+  counts->addWidget(widgets.TeamCount, row++, 1);
+  counts->addWidget(
+      MakeCaption(IsLeague(side) ? tr("Total matches in the League:") : tr("Total number of matches:")), row,
+      0);
+  counts->addWidget(widgets.MatchCount, row, 1);
+  counts->setColumnStretch(4, 1);
+  grid->addLayout(counts, 2, 0, 1, 3);
+  return grid;
+}
+
+QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
+  widgets.Fixtures = MakeList(prefix + "Fixtures");
+  auto* const layout = new QVBoxLayout;
+  layout->addWidget(MakeCaption(tr("Fixtures"), widgets.Fixtures));
+  layout->addWidget(widgets.Fixtures, 1);
+  auto* const buttons = new QHBoxLayout;
+  if (IsLeague(side)) {
+    widgets.Home = MakeCombo("Home");
+    widgets.Away = MakeCombo("Away");
+    auto* const teams = new QGridLayout;
+    teams->addWidget(MakeCaption(tr("Home Team:"), widgets.Home), 0, 0);
+    teams->addWidget(widgets.Home, 0, 1);
+    teams->addWidget(MakeCaption(tr("Away Team:"), widgets.Away), 1, 0);
+    teams->addWidget(widgets.Away, 1, 1);
+    teams->setColumnStretch(1, 1);
+    layout->addLayout(teams);
+    OnPick(widgets.Home, [&side](int entry) { side.Home.Picked = entry; });
+    OnPick(widgets.Away, [&side](int entry) { side.Away.Picked = entry; });
+    buttons->addWidget(Button("AddFixture", tr("&Add &Fixture"), [this] { editor_.AddFixture_Click(); }));
+  }
+  buttons->addWidget(Button(prefix + "AutoFixtures", tr("&Auto Fixtures"),
+                            [this, &side] { editor_.AutoFixtures_Click(side); }));
+  buttons->addStretch();
+  layout->addLayout(buttons);
+  return layout;
+}
+
+QLayout* LegEditorWindow::BuildFiles(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
+  widgets.Load = MakeCombo(prefix + "Load");
+  OnPick(widgets.Load, [this, &side](int entry) { editor_.Load_Click(side, entry); });
+  auto* const layout = new QHBoxLayout;
+  layout->addWidget(MakeCaption(tr("Open / Load"), widgets.Load));
+  layout->addWidget(widgets.Load);
+  layout->addStretch();
+  auto* const heading = new QLabel(tr("Save / Delete"));
+  QFont bold = heading->font();
+  bold.setBold(true);
+  heading->setFont(bold);
+  layout->addWidget(heading);
+  layout->addWidget(Button(prefix + "Save", IsLeague(side) ? tr("&Save League") : tr("&Save Knock Out"),
+                           [this, &side] { editor_.Save_Click(side); }));
+  layout->addWidget(Button(prefix + "Delete", IsLeague(side) ? tr("Delete &League") : tr("Delete &Knock Out"),
+                           [this, &side] { editor_.Delete_Click(side); }));
+  return layout;
+}
+
+void LegEditorWindow::Show() {
+  ShowChooser(kind_, editor_.Kind);
+  ShowSide(league_, editor_.League);
+  ShowSide(knockOut_, editor_.KnockOut);
+  ShowChooser(league_.Home, editor_.League.Home);
+  ShowChooser(league_.Away, editor_.League.Away);
+  knockOut_.NumberOfTeams->setText(QString::number(editor_.KnockOut.NumberOfTeams));
+  league_.Page->setVisible(editor_.Kind.Picked == 0);
+  knockOut_.Page->setVisible(editor_.Kind.Picked == 1);
+}
+
+void LegEditorWindow::ShowSide(const SideWidgets& widgets, const EditorSide& side) {
+  if (widgets.Name->text() != ToQt(side.Name)) widgets.Name->setText(ToQt(side.Name));
+  ShowList(widgets.Available, side.Available);
+  ShowList(widgets.Selected, side.Selected);
+  ShowList(widgets.Fixtures, side.FixtureList);
+  ShowChooser(widgets.Load, side.Load);
+  widgets.TeamCount->setText(QString::number(side.Selected.Count()));
+  widgets.MatchCount->setText(QString::number(side.FixtureList.Count()));
+}
+
+}  // namespace kickwell

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <functional>
+
+#include "championship/leg_editor.h"
+#include "ui/screen_window.h"
+
+class QGridLayout;
+class QVBoxLayout;
+
+namespace kickwell {
+
+class LegEditorWindow final : public ScreenWindow {
+ public:
+  LegEditorWindow(LegEditor& editor, QWidget* parent);
+
+ protected:
+  void Show() override;
+  bool IsClosed() const override { return editor_.Closed; }
+  void Leave() override { editor_.Exit_Click(); }
+
+ private:
+  /// The widgets of one side, named with its prefix: "League" or "KnockOut".
+  struct SideWidgets {
+    QWidget* Page;
+    QLineEdit* Name;
+    QListWidget *Available, *Selected, *Fixtures;
+    QComboBox* Load;
+    QLabel *TeamCount, *MatchCount;
+    QComboBox *Home, *Away;  ///< League only.
+    QLabel* NumberOfTeams;   ///< Knock-out only.
+  };
+
+  QWidget* BuildSide(SideWidgets& widgets, EditorSide& side);
+  QLayout* BuildTeams(SideWidgets& widgets, EditorSide& side, const QString& prefix);
+  QLayout* BuildFixtures(SideWidgets& widgets, EditorSide& side, const QString& prefix);
+  QLayout* BuildFiles(SideWidgets& widgets, EditorSide& side, const QString& prefix);
+  QPushButton* Button(const QString& name, const QString& caption, std::function<void()> action);
+  void OnPick(QComboBox* combo, std::function<void(int)> action);
+  void OnPick(QListWidget* list, Chooser& chooser);
+  static void ShowSide(const SideWidgets& widgets, const EditorSide& side);
+
+  LegEditor& editor_;
+  QComboBox* kind_;
+  SideWidgets league_{}, knockOut_{};
+};
+
+}  // namespace kickwell

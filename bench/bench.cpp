@@ -6,9 +6,14 @@
 #include <QTimer>
 #include <chrono>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
+#include "championship/championship_play.h"
+#include "championship/fixtures.h"
+#include "data/championship_store.h"
 #include "data/stadium_store.h"
 #include "data/team_store.h"
 #include "engine/goal.h"
@@ -16,6 +21,7 @@
 #include "engine/match.h"
 #include "setup/selection.h"
 #include "setup/settings.h"
+#include "ui/championship_play_window.h"
 #include "ui/match_window.h"
 #include "ui/opening_window.h"
 #include "ui/selection_window.h"
@@ -247,6 +253,89 @@ void OpenSelectionWindow(benchmark::State& state) {
   }
 }
 BENCHMARK(OpenSelectionWindow)->Unit(benchmark::kMillisecond);
+
+/// A league at its limits but for one match: 992 fixtures with 991 played, 5,951 log lines, 5,000 scorers.
+class FullLeague {
+ public:
+  FullLeague() : Folder{std::filesystem::path("/dev/shm") / ("kickwell-bench-" + std::to_string(getpid()))} {
+    Championship league{ChampionshipKind::League, "Full", {}, {}};
+    for (int i = 0; i < MostTeamsOfGeneratedLeague; ++i) league.Teams.push_back("Team " + std::to_string(i));
+    SeededRandom random(1);
+    for (const Pairing& fixture : LeagueFixture(league.Teams, random)) {
+      league.Fixtures.push_back({Played, fixture.Home, fixture.Away, {}});
+    }
+    league.Fixtures.back().Status = NotPlayed;
+    std::vector<ScorerRow> scorers;
+    for (int i = 0; i < 5000; ++i) scorers.push_back({"Player " + std::to_string(i), "Team 1", 3});
+    Lines log(5951, "Total Attendence: 40632 (83%)");
+    const bool written = WriteChampionship(Folder, league).Ok() &&
+                         WriteStandings(Folder, "Full", ReadStandings(Folder, league)).Ok() &&
+                         WriteScorers(Folder, ChampionshipKind::League, "Full", scorers).Ok() &&
+                         WriteLines(Folder.Leagues() / "Full.lrs", log, Folder.Root).Ok();
+    if (!written) std::abort();
+    std::filesystem::copy(Folder.Leagues(), Folder.Root / "Fresh");
+    Session.Setup.Mode = MatchMode::League;
+    Session.Setup.ChampionshipName = "Full";
+    Session.Setup.MatchNumber = static_cast<int>(league.Fixtures.size());
+    Session.Setup.Team1Name = Session.Side1.Team = Session.WinnerName = league.Fixtures.back().Home;
+    Session.Setup.Team2Name = Session.Side2.Team = Session.LoserName = league.Fixtures.back().Away;
+    Session.LastScorer = "Player 4999";
+  }
+  FullLeague(const FullLeague&) = delete;
+  FullLeague& operator=(const FullLeague&) = delete;
+  ~FullLeague() { std::filesystem::remove_all(Folder.Root); }
+
+  /// Puts the log back to its length: it grows with each recording.
+  void Refresh() const {
+    std::filesystem::copy(Folder.Root / "Fresh", Folder.Leagues(),
+                          std::filesystem::copy_options::overwrite_existing);
+  }
+
+  ProgramFolder Folder;
+  MatchSession Session;
+};
+
+/// The floor of a recording: each of the four files read and written as plain bytes, in a folder that needs
+/// no disk.
+void PlainReadingAndWriting(benchmark::State& state) {
+  const FullLeague league;
+  for ([[maybe_unused]] auto iteration : state) {
+    for (const char* extension : {".sco", ".rec", ".lrs", ".leg"}) {
+      const std::filesystem::path file = league.Folder.Leagues() / (std::string("Full") + extension);
+      std::ifstream in(file, std::ios::binary);
+      const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+      std::ofstream(file, std::ios::binary) << bytes;
+    }
+  }
+}
+BENCHMARK(PlainReadingAndWriting)->Unit(benchmark::kMillisecond);
+
+/// A goal and the result of the last match.
+void RecordMatch(benchmark::State& state) {
+  const FullLeague league;
+  SilentDesktop desktop;
+  FileRecording recording(league.Folder, desktop, [](const std::string&) {});
+  for ([[maybe_unused]] auto iteration : state) {
+    state.PauseTiming();
+    league.Refresh();
+    state.ResumeTiming();
+    recording.StoreScorer(league.Session);
+    recording.StoreResult(league.Session);
+    recording.StoreLeagueResult(league.Session);
+  }
+}
+BENCHMARK(RecordMatch)->Unit(benchmark::kMillisecond);
+
+void OpenPlaySettings(benchmark::State& state) {
+  const FullLeague league;
+  SilentDesktop desktop;
+  for ([[maybe_unused]] auto iteration : state) {
+    ChampionshipPlay play(ChampionshipKind::League, league.Folder, desktop, [](const std::string&) {}, {});
+    ChampionshipPlayWindow window(play, ChampionshipKind::League, nullptr);
+    benchmark::DoNotOptimize(window.grab());
+  }
+}
+BENCHMARK(OpenPlaySettings)->Unit(benchmark::kMillisecond);
 
 void OpenMainMenu(benchmark::State& state) {
   SilentDesktop desktop;

@@ -76,6 +76,7 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   widgets.Name = new QLineEdit;
   widgets.Name->setObjectName(prefix + "Name");
   widgets.Name->setMaxLength(LongestName);
+  widgets.Name->setMinimumWidth(widgets.Name->fontMetrics().horizontalAdvance(QString(LongestName, 'M')));
   connect(widgets.Name, &QLineEdit::textEdited, this,
           [&side](const QString& text) { side.Name = text.toStdString(); });
 
@@ -91,16 +92,14 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   name->addWidget(widgets.Name);
   name->addStretch();
 
-  auto* const left = new QVBoxLayout;
-  left->addLayout(name);
-  left->addLayout(BuildTeams(widgets, side, prefix), 1);
   auto* const columns = new QHBoxLayout;
   columns->setSpacing(24);
-  columns->addLayout(left, 1);
+  columns->addLayout(BuildTeams(widgets, side, prefix), 1);
   columns->addLayout(BuildFixtures(widgets, side, prefix), 1);
   auto* const layout = new QVBoxLayout(widgets.Page);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(heading);
+  layout->addLayout(name);
   layout->addLayout(columns, 1);
   layout->addWidget(Line());
   layout->addLayout(BuildFiles(widgets, side, prefix));
@@ -186,7 +185,10 @@ QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, 
     layout->addLayout(teams);
     OnPick(widgets.Home, [&side](int entry) { side.Home.Picked = entry; });
     OnPick(widgets.Away, [&side](int entry) { side.Away.Picked = entry; });
-    buttons->addWidget(Button("AddFixture", tr("&Add &Fixture"), [this] { editor_.AddFixture_Click(); }));
+    QPushButton* const add =
+        Button("AddFixture", tr("&Add &Fixture"), [this] { editor_.AddFixture_Click(); });
+    add->setShortcut(QKeySequence(tr("Alt+F")));  // Alt+A is the other button's.
+    buttons->addWidget(add);
   }
   buttons->addWidget(Button(prefix + "AutoFixtures", tr("&Auto Fixtures"),
                             [this, &side] { editor_.AutoFixtures_Click(side); }));

@@ -14,6 +14,8 @@
 #include "support/folders.h"
 #include "support/matches.h"
 #include "support/scripted_random.h"
+#include "ui/championship_play_window.h"
+#include "ui/leg_editor_window.h"
 #include "ui/match_window.h"
 #include "ui/opening_window.h"
 #include "ui/selection_window.h"
@@ -195,6 +197,17 @@ TEST_F(WindowsTest, TheClockRunsTheMatchAndItsButtons) {
     User::Press(window, Qt::Key_Return);  // ... and the next player.
   }
   EXPECT_FALSE(window.findChild<QWidget*>("penalty(10)")->isVisible());
+}
+
+TEST_F(WindowsTest, ChampionshipScreensNameTheirControls) {
+  ASSERT_TRUE(CreateTeam(folder_.Folder, "A", "1").Ok());
+  SeededRandom random(1);
+  LegEditor editor(folder_.Folder, desktop_, random);
+  LegEditorWindow editorWindow(editor, nullptr);
+  ExpectNames(editorWindow);
+  ChampionshipPlay play(ChampionshipKind::League, folder_.Folder, desktop_, [](const std::string&) {}, {});
+  ChampionshipPlayWindow playWindow(play, ChampionshipKind::League, nullptr);
+  ExpectNames(playWindow);
 }
 
 }  // namespace

@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <cstdint>
 #include <fstream>
-#include <iterator>
 #include <system_error>
 
 namespace kickwell {
@@ -23,8 +22,9 @@ bool IsLowSurrogate(char32_t c) {
   return c >= 0xDC00 && c <= 0xDFFF;
 }
 
-void AppendUtf8(std::string& text, char32_t c) {
-  const auto byte = [&text](char32_t value) { text.push_back(static_cast<char>(value)); };
+/// Writes UTF-8 to `out` and gives the place behind it.
+char* WriteUtf8(char* out, char32_t c) {
+  const auto byte = [&out](char32_t value) { *out++ = static_cast<char>(value); };
   if (c < 0x80) {
     byte(c);
   } else if (c < 0x800) {
@@ -40,6 +40,7 @@ void AppendUtf8(std::string& text, char32_t c) {
     byte(0x80 | (c >> 6 & 0x3F));
     byte(0x80 | (c & 0x3F));
   }
+  return out;
 }
 
 /// The code point that starts at `place`, which moves behind it; a bad byte is passed over alone.
@@ -70,9 +71,11 @@ Encoding GuessEncoding(std::string_view bytes) {
   return zeros[0] > zeros[1] ? Encoding::Utf16Big : Encoding::Utf16Little;
 }
 
+constexpr std::size_t LongestOfUnit = 3;  ///< UTF-8 bytes that a UTF-16 unit or a bad byte can become.
+
 std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
-  std::string text;
-  text.reserve(bytes.size() / 2);
+  std::string text(bytes.size() / 2 * LongestOfUnit, '\0');
+  char* out = text.data();
   const auto unit = [&](std::size_t i) {
     const auto first = static_cast<unsigned char>(bytes[i]);
     const auto second = static_cast<unsigned char>(bytes[i + 1]);
@@ -84,8 +87,17 @@ std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
       c = 0x10000 + ((c - 0xD800) << 10) + (unit(i + 2) - 0xDC00);
       i += 2;
     }
-    AppendUtf8(text, c);
+    out = WriteUtf8(out, c);
   }
+  text.resize(static_cast<std::size_t>(out - text.data()));
+  return text;
+}
+
+std::string DecodeUtf8(std::string_view bytes) {
+  std::string text(bytes.size() * LongestOfUnit, '\0');
+  char* out = text.data();
+  for (std::size_t place = 0; place < bytes.size();) out = WriteUtf8(out, NextCodePoint(bytes, place));
+  text.resize(static_cast<std::size_t>(out - text.data()));
   return text;
 }
 
@@ -103,18 +115,19 @@ std::string Decode(std::string_view bytes) {
     encoding = GuessEncoding(bytes);
   }
   if (encoding != Encoding::Utf8) return DecodeUtf16(bytes, encoding == Encoding::Utf16Big);
-  std::string text;
-  text.reserve(bytes.size());
-  for (std::size_t place = 0; place < bytes.size();) AppendUtf8(text, NextCodePoint(bytes, place));
-  return text;
+  return DecodeUtf8(bytes);
 }
 
 std::string Encode(const Lines& lines) {
-  std::string bytes = "\xFF\xFE";
-  const auto unit = [&bytes](char32_t value) {
-    bytes.push_back(static_cast<char>(value & 0xFF));
-    bytes.push_back(static_cast<char>(value >> 8));
+  std::size_t most = 2;  // Bytes: the mark, and a unit of two for each byte of UTF-8 at the most.
+  for (const std::string& line : lines) most += 2 * line.size() + 4;
+  std::string bytes(most, '\0');
+  char* out = bytes.data();
+  const auto unit = [&out](char32_t value) {
+    *out++ = static_cast<char>(value & 0xFF);
+    *out++ = static_cast<char>(value >> 8);
   };
+  unit(0xFEFF);
   for (const std::string& line : lines) {
     for (std::size_t place = 0; place < line.size();) {
       const char32_t c = NextCodePoint(line, place);
@@ -128,6 +141,7 @@ std::string Encode(const Lines& lines) {
     unit('\r');
     unit('\n');
   }
+  bytes.resize(static_cast<std::size_t>(out - bytes.data()));
   return bytes;
 }
 
@@ -212,7 +226,10 @@ std::optional<Lines> ReadLines(const std::filesystem::path& file) {
   if (!std::filesystem::is_regular_file(file, error)) return std::nullopt;
   std::ifstream stream(file, std::ios::binary);
   if (!stream) return std::nullopt;
-  const std::string bytes((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
+  std::string bytes(std::filesystem::file_size(file, error), '\0');
+  if (error) return std::nullopt;
+  stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  bytes.resize(static_cast<std::size_t>(stream.gcount()));
   return Split(Decode(bytes));
 }
 

@@ -38,6 +38,9 @@ QLabel* MakeCaption(const QString& text, QWidget* buddy) {
   bold.setBold(true);
   caption->setFont(bold);
   caption->setBuddy(buddy);
+  // Lists do not take their name from the caption by themselves.
+  QString name = text;
+  if (buddy != nullptr) buddy->setAccessibleName(name.remove('&').remove(':'));
   return caption;
 }
 

@@ -265,8 +265,10 @@ class FullLeague {
       league.Fixtures.push_back({Played, fixture.Home, fixture.Away, {}});
     }
     league.Fixtures.back().Status = NotPlayed;
+    constexpr int Scorers = 5000;
     std::vector<ScorerRow> scorers;
-    for (int i = 0; i < 5000; ++i) scorers.push_back({"Player " + std::to_string(i), "Team 1", 3});
+    scorers.reserve(Scorers);
+    for (int i = 0; i < Scorers; ++i) scorers.push_back({"Player " + std::to_string(i), "Team 1", 3});
     Lines log(5951, "Total Attendence: 40632 (83%)");
     const bool written = WriteChampionship(Folder, league).Ok() &&
                          WriteStandings(Folder, "Full", ReadStandings(Folder, league)).Ok() &&

@@ -15,8 +15,8 @@ Lines SummaryPage(const MatchSession& session);
 /// The page of the match commentary, line by line.
 Lines CommentaryPage(const MatchSession& session);
 
-/// The closing lines that every page of the program shares.
-Lines PageFooter();
+/// The page of a championship's results, headed `heading`, line by line.
+Lines ResultsPage(const std::string& heading, const Chooser& results);
 
 /// `text` with every "<" as "&lt;", so that no name can carry markup into a page.
 std::string PageText(const std::string& text);

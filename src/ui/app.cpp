@@ -3,15 +3,22 @@
 #include <QApplication>
 #include <utility>
 
+#include "championship/knock_charts.h"
 #include "championship/leg_editor.h"
+#include "championship/leg_results.h"
+#include "championship/standings_table.h"
+#include "championship/top_scorers.h"
 #include "engine/match.h"
 #include "engine/recording.h"
 #include "setup/selection.h"
 #include "setup/settings.h"
 #include "ui/championship_play_window.h"
+#include "ui/knock_charts_window.h"
 #include "ui/leg_editor_window.h"
+#include "ui/leg_results_window.h"
 #include "ui/match_window.h"
 #include "ui/opening_window.h"
+#include "ui/ranking_window.h"
 #include "ui/selection_window.h"
 #include "ui/settings_window.h"
 
@@ -41,6 +48,10 @@ OpeningScreens App::Screens() {
   screens.LegSettings = [this] { OpenPlay(ChampionshipKind::League); };
   screens.KnockSettings = [this] { OpenPlay(ChampionshipKind::KnockOut); };
   screens.LegEditor = [this] { OpenLegEditor(); };
+  screens.Table = [this] { OpenTable(); };
+  screens.TopScorers = [this] { OpenTopScorers(); };
+  screens.LegResults = [this] { OpenLegResults(); };
+  screens.KnockCharts = [this] { OpenKnockCharts(); };
   return screens;
 }
 
@@ -64,6 +75,32 @@ void App::OpenPlay(ChampionshipKind kind) {
   play_ = &play;
   ChampionshipPlayWindow(play, kind, Owner()).exec();
   play_ = nullptr;
+}
+
+ChampionshipKind App::CurrentKind() const {
+  return opening_.Mode == MatchMode::League ? ChampionshipKind::League : ChampionshipKind::KnockOut;
+}
+
+void App::OpenTable() {
+  Ranking table = StandingsTable(folder_, opening_.ChampionshipName);
+  const std::unique_ptr<RankingWindow> window(MakeTableWindow(table, Owner()));
+  window->exec();
+}
+
+void App::OpenTopScorers() {
+  Ranking scorers = TopScorers(folder_, CurrentKind(), opening_.ChampionshipName);
+  const std::unique_ptr<RankingWindow> window(MakeTopScorersWindow(scorers, Owner()));
+  window->exec();
+}
+
+void App::OpenLegResults() {
+  LegResults results(folder_, desktop_, CurrentKind(), opening_.ChampionshipName);
+  LegResultsWindow(results, Owner()).exec();
+}
+
+void App::OpenKnockCharts() {
+  KnockCharts charts(folder_, opening_.ChampionshipName);
+  KnockChartsWindow(charts, Owner()).exec();
 }
 
 void App::OpenSelection(const MatchSetup& setup) {

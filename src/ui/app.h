@@ -31,6 +31,11 @@ class App {
   void OpenSettings();
   void OpenLegEditor();
   void OpenPlay(ChampionshipKind kind);
+  void OpenTable();
+  void OpenTopScorers();
+  void OpenLegResults();
+  void OpenKnockCharts();
+  ChampionshipKind CurrentKind() const;
   void OpenSelection(const MatchSetup& setup);
   void OpenMatch(const MatchSetup& setup);
 

@@ -28,6 +28,15 @@ QLabel* MakeText(const QString& objectName, const QString& text, Qt::Alignment a
   return label;
 }
 
+QLabel* MakeHeading(const QString& objectName) {
+  QLabel* const heading = MakeText(objectName, {}, Qt::AlignHCenter);
+  QFont large = heading->font();
+  large.setBold(true);
+  large.setPointSizeF(large.pointSizeF() * 1.5);
+  heading->setFont(large);
+  return heading;
+}
+
 QLabel* MakeCaption(const QString& text) {
   return new QLabel(text);
 }

@@ -23,6 +23,9 @@ QString ArrayName(const char* name, int index);
 /// A label for a figure or for a text from the user's files.
 QLabel* MakeText(const QString& objectName, const QString& text, Qt::Alignment alignment = Qt::AlignLeft);
 
+/// A large heading whose text comes from the user's files.
+QLabel* MakeHeading(const QString& objectName);
+
 /// A fixed caption, which is always shown whole.
 QLabel* MakeCaption(const QString& text);
 

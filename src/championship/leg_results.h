@@ -1,0 +1,32 @@
+// The results of a championship, as they were recorded.
+#pragma once
+
+#include <string>
+
+#include "base/chooser.h"
+#include "base/desktop.h"
+#include "base/program.h"
+#include "data/championship_store.h"
+
+namespace kickwell {
+
+class LegResults {
+ public:
+  /// Reads the results log; there may be none.
+  LegResults(const ProgramFolder& folder, Desktop& desktop, ChampionshipKind kind,
+             const std::string& championship);
+
+  void Command2_Click();  ///< Asks for a file name and writes the list as an HTML page.
+  void Command1_Click() { Closed = true; }
+
+  bool Command2Enabled() const { return List1.Count() > 0; }
+
+  std::string Label1;  ///< The heading.
+  Chooser List1;       ///< The lines of the log.
+  bool Closed = false;
+
+ private:
+  Desktop& desktop_;
+};
+
+}  // namespace kickwell

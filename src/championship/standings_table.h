@@ -1,0 +1,19 @@
+// The league table.
+#pragma once
+
+#include <string>
+
+#include "base/program.h"
+#include "championship/ranking.h"
+
+namespace kickwell {
+
+inline constexpr int MostStandings = 100;  ///< Rows of a table.
+
+/// The table of the league of that name: by points, then goal difference, then goals for, all highest first;
+/// teams level in all three stay in the order of the file. Columns: rank, team, played, won, tied, lost,
+/// goals for, goals against, points. Without a standings file all teams are there with zeros; without a
+/// league file nothing is.
+Ranking StandingsTable(const ProgramFolder& folder, const std::string& league);
+
+}  // namespace kickwell

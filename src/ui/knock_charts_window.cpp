@@ -1,0 +1,82 @@
+#include "ui/knock_charts_window.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/widgets.h"
+
+namespace kickwell {
+namespace {
+
+constexpr qreal ChartWidth = 8775, ChartTop = 360,
+                ChartHeight = 5175;  ///< What of the screen units is shown.
+
+}  // namespace
+
+Bracket::Bracket(const KnockCharts& charts) : charts_(charts) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  for (int slot = 0; slot < SlotTotal; ++slot) {
+    QLabel* const label = MakeText(ArrayName("team", slot), ToQt(charts.Text(slot)), Qt::AlignHCenter);
+    label->setParent(this);
+    label->setVisible(slot < charts.VisibleSlots);
+    QFont font = label->font();
+    const bool known = PlaceholderNumber(charts.Text(slot)) == 0;
+    const bool beyondFirstRound = ChartSlots()[static_cast<std::size_t>(slot)].Left > ChartSlots()[0].Left;
+    font.setBold(known && beyondFirstRound);  // A winner stands out from those to come.
+    font.setItalic(!known);
+    label->setFont(font);
+    label->setEnabled(known);
+    team_[static_cast<std::size_t>(slot)] = label;
+  }
+}
+
+QRectF Bracket::BoxOf(int slot) const {
+  const ChartSlot& place = ChartSlots()[static_cast<std::size_t>(slot)];
+  const qreal x = width() / ChartWidth;
+  const qreal y = height() / ChartHeight;
+  return {place.Left * x, (place.Top - ChartTop) * y, SlotWidth * x, SlotHeight * y};
+}
+
+void Bracket::resizeEvent(QResizeEvent* /*event*/) {
+  for (int slot = 0; slot < SlotTotal; ++slot) {
+    team_[static_cast<std::size_t>(slot)]->setGeometry(BoxOf(slot).toRect().adjusted(3, 1, -3, -1));
+  }
+}
+
+void Bracket::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(palette().color(QPalette::Mid), 1.5));
+  for (const auto& [home, away, winner] : charts_.Matches) {
+    const QRectF next = BoxOf(winner);
+    const QPointF join((BoxOf(home).right() + next.left()) / 2, next.center().y());
+    painter.drawLine(join, QPointF(next.left(), join.y()));
+    for (const int slot : {home, away}) {
+      const QPointF from(BoxOf(slot).right(), BoxOf(slot).center().y());
+      const QPointF corners[] = {from, {join.x(), from.y()}, join};
+      painter.drawPolyline(corners, 3);
+    }
+  }
+  painter.setBrush(palette().base());
+  for (int slot = 0; slot < charts_.VisibleSlots; ++slot) painter.drawRoundedRect(BoxOf(slot), 3, 3);
+}
+
+KnockChartsWindow::KnockChartsWindow(KnockCharts& charts, QWidget* parent)
+    : ScreenWindow("KnockCharts", tr("Kickwell Knock Out Table"), parent), charts_(charts) {
+  QLabel* const label1 = MakeHeading("Label1");
+  label1->setText(ToQt(charts.Label1));
+  QPushButton* const command3 = MakeButton("Command3", tr("Close"));
+  command3->setDefault(true);
+  connect(command3, &QPushButton::clicked, this, [this] { Act([this] { charts_.Command3_Click(); }); });
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(12);
+  layout->addWidget(label1);
+  layout->addWidget(new Bracket(charts), 1);
+  layout->addWidget(command3, 0, Qt::AlignRight);
+  resize(980, 640);
+}
+
+}  // namespace kickwell

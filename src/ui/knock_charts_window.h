@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QLabel>
+#include <array>
+
+#include "championship/knock_charts.h"
+#include "ui/screen_window.h"
+
+namespace kickwell {
+
+/// The bracket: a box for each slot and lines from each pair to its winner's slot.
+class Bracket final : public QWidget {
+ public:
+  explicit Bracket(const KnockCharts& charts);
+
+  QSize minimumSizeHint() const override { return {640, 400}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QRectF BoxOf(int slot) const;
+
+  const KnockCharts& charts_;
+  std::array<QLabel*, SlotTotal> team_{};
+};
+
+class KnockChartsWindow final : public ScreenWindow {
+ public:
+  KnockChartsWindow(KnockCharts& charts, QWidget* parent);
+
+ protected:
+  void Show() override {}  // Nothing changes while it is open.
+  bool IsClosed() const override { return charts_.Closed; }
+  void Leave() override { charts_.Command3_Click(); }
+
+ private:
+  KnockCharts& charts_;
+};
+
+}  // namespace kickwell

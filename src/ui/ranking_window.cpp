@@ -1,0 +1,182 @@
+#include "ui/ranking_window.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "ui/text_label.h"
+#include "ui/widgets.h"
+
+namespace kickwell {
+
+RankingWindow::RankingWindow(Ranking& ranking, const char* name, const QString& caption,
+                             std::vector<RankingColumn> columns, QWidget* parent)
+    : ScreenWindow(name, caption, parent),
+      ranking_(ranking),
+      columns_(std::move(columns)),
+      label1_(MakeHeading("Label1")),
+      nextpage_(MakeButton("nextpage", tr("&Next >>"))),
+      prevpage_(MakeButton("prevpage", tr("<< &Back"))) {
+  QPushButton* const close = MakeButton("Close", tr("Close"));
+  auto* const buttons = new QHBoxLayout;
+  buttons->addWidget(prevpage_);
+  buttons->addWidget(nextpage_);
+  buttons->addStretch();
+  buttons->addWidget(close);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(12);
+  layout->addWidget(label1_);
+  layout->addWidget(BuildRows(), 1);
+  layout->addLayout(buttons);
+
+  const auto onClick = [this](QPushButton* button, void (Ranking::*action)()) {
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, action] { Act([&] { (ranking_.*action)(); }); });
+  };
+  onClick(nextpage_, &Ranking::nextpage_Click);
+  onClick(prevpage_, &Ranking::prevpage_Click);
+  onClick(close, &Ranking::Close_Click);
+  close->setDefault(true);
+  for (const auto& [key, step] : {std::pair(Qt::Key_Up, -1), std::pair(Qt::Key_Down, 1)}) {
+    auto* const arrow = new QShortcut(key, this);
+    connect(arrow, &QShortcut::activated, this,
+            [this, by = step] { MoveBar(ranking_.Pages.Highlight + by); });
+  }
+  Show();
+}
+
+QWidget* RankingWindow::BuildRows() {
+  auto* const rows = new QFrame;
+  rows->setFrameShape(QFrame::StyledPanel);
+  bar_ = new QFrame(rows);
+  bar_->setObjectName("Bar");
+  bar_->setAutoFillBackground(true);
+  bar_->setBackgroundRole(QPalette::Highlight);
+  auto* const grid = new QGridLayout(rows);
+  grid->setSpacing(0);
+  labels_.resize(columns_.size());
+  for (std::size_t c = 0; c < columns_.size(); ++c) {
+    const RankingColumn& column = columns_[c];
+    const int place = static_cast<int>(c);
+    const Qt::Alignment alignment = column.Figure ? Qt::AlignRight : Qt::AlignLeft;
+    QLabel* const header = MakeCaption(column.Header, nullptr);
+    header->setObjectName(ArrayName(column.Name, 0));
+    header->setAlignment(alignment | Qt::AlignVCenter);
+    header->setContentsMargins(8, 2, 8, 6);
+    grid->addWidget(header, 0, place);
+    grid->setColumnStretch(place, column.Figure ? 0 : 1);
+    for (int r = 1; r <= Paging::Rows; ++r) {
+      QLabel* const label = MakeText(ArrayName(column.Name, r), {}, alignment);
+      label->setContentsMargins(8, 3, 8, 3);
+      labels_[c][static_cast<std::size_t>(r - 1)] = label;
+      grid->addWidget(label, r, place);
+    }
+  }
+  for (int r = 1; r <= Paging::Rows; ++r) {
+    auto* const marker = new QWidget;
+    marker->setObjectName(ArrayName("Marker", r));
+    marker->setMouseTracking(true);
+    marker->setMinimumHeight(fontMetrics().height() + 6);
+    marker->installEventFilter(this);
+    markers_[static_cast<std::size_t>(r - 1)] = marker;
+    grid->addWidget(marker, r, 0, 1, static_cast<int>(columns_.size()));  // Over the labels of its row.
+    grid->setRowMinimumHeight(r, marker->minimumHeight());
+  }
+  return rows;
+}
+
+bool RankingWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseMove) {
+    const auto marker = std::find(markers_.begin(), markers_.end(), watched);
+    if (marker != markers_.end()) {
+      MoveBar(static_cast<int>(marker - markers_.begin()) + 1);
+    }
+  }
+  return ScreenWindow::eventFilter(watched, event);
+}
+
+void RankingWindow::MoveBar(int row) {
+  ranking_.Marker_MouseMove(row);
+  PlaceBar();
+}
+
+void RankingWindow::resizeEvent(QResizeEvent* event) {
+  ScreenWindow::resizeEvent(event);
+  PlaceBar();
+}
+
+void RankingWindow::PlaceBar() {
+  layout()->activate();
+  bar_->parentWidget()->layout()->activate();
+  const Paging& pages = ranking_.Pages;
+  bar_->setVisible(pages.RowCount() > 0);
+  bar_->setGeometry(bar_->parentWidget()->layout()->itemAt(0)->geometry());
+  for (int r = 1; r <= Paging::Rows; ++r) {
+    const auto at = static_cast<std::size_t>(r - 1);
+    const bool marked = r == pages.Highlight && pages.RowCount() > 0;
+    QRect row;
+    for (const auto& column : labels_) {
+      column[at]->setForegroundRole(marked ? QPalette::HighlightedText : QPalette::WindowText);
+      row = row.united(column[at]->geometry());
+    }
+    if (marked) bar_->setGeometry(row);
+  }
+  bar_->lower();
+}
+
+void RankingWindow::Show() {
+  label1_->setText(ToQt(ranking_.Label1));
+  const Paging& pages = ranking_.Pages;
+  for (int r = 0; r < Paging::Rows; ++r) {
+    const auto at = static_cast<std::size_t>(r);
+    const bool filled = r < pages.RowCount();
+    QStringList whole;
+    for (std::size_t c = 0; c < labels_.size(); ++c) {
+      const QString text =
+          filled ? ToQt(ranking_.Rows[static_cast<std::size_t>(pages.Offset() + r)][c]) : QString();
+      labels_[c][at]->setText(text);
+      if (!columns_[c].Figure) whole.append(text);
+    }
+    markers_[at]->setVisible(filled);
+    markers_[at]->setToolTip(PlainTip(whole.join(", ")));
+  }
+  nextpage_->setEnabled(pages.NextEnabled());
+  prevpage_->setEnabled(pages.BackEnabled());
+  PlaceBar();
+}
+
+RankingWindow* MakeTableWindow(Ranking& table, QWidget* parent) {
+  const auto tr = [](const char* text) { return RankingWindow::tr(text); };
+  auto* const window = new RankingWindow(table, "Table", tr("Kickwell League Table"),
+                                         {{"Pos", tr("Rank"), true},
+                                          {"Team", tr("Team"), false},
+                                          {"Played", tr("Played"), true},
+                                          {"Won", tr("Won"), true},
+                                          {"Tied", tr("Tied"), true},
+                                          {"Lost", tr("Lost"), true},
+                                          {"GF", tr("GF"), true},
+                                          {"GA", tr("GA"), true},
+                                          {"Points", tr("Points"), true}},
+                                         parent);
+  window->resize(720, window->sizeHint().height());
+  return window;
+}
+
+RankingWindow* MakeTopScorersWindow(Ranking& scorers, QWidget* parent) {
+  const auto tr = [](const char* text) { return RankingWindow::tr(text); };
+  auto* const window = new RankingWindow(scorers, "TopScorers", tr("Kickwell Top Goal Scorers"),
+                                         {{"Rank", tr("Rank"), true},
+                                          {"Player", tr("Player"), false},
+                                          {"Team", tr("Team"), false},
+                                          {"Goals", tr("Goals"), true}},
+                                         parent);
+  window->resize(620, window->sizeHint().height());
+  return window;
+}
+
+}  // namespace kickwell

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QFrame>
+#include <QLabel>
+#include <QPushButton>
+#include <array>
+#include <vector>
+
+#include "championship/ranking.h"
+#include "ui/screen_window.h"
+
+namespace kickwell {
+
+/// One column of a ranking: its header, the name of its labels, and whether it holds figures.
+struct RankingColumn {
+  const char* Name;
+  QString Header;
+  bool Figure;
+};
+
+/// Pages of ranked rows with a bar that follows the mouse and the arrow keys: the league table and the top
+/// scorers.
+class RankingWindow final : public ScreenWindow {
+ public:
+  RankingWindow(Ranking& ranking, const char* name, const QString& caption,
+                std::vector<RankingColumn> columns, QWidget* parent);
+
+ protected:
+  void Show() override;
+  bool IsClosed() const override { return ranking_.Closed; }
+  void Leave() override { ranking_.Close_Click(); }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QWidget* BuildRows();
+  void MoveBar(int row);
+  void PlaceBar();
+
+  Ranking& ranking_;
+  std::vector<RankingColumn> columns_;
+  QLabel* label1_;
+  std::vector<std::array<QLabel*, Paging::Rows>> labels_;  ///< By column.
+  std::array<QWidget*, Paging::Rows> markers_{};
+  QFrame* bar_ = nullptr;
+  QPushButton *nextpage_, *prevpage_;
+};
+
+/// The two rankings with their captions and columns.
+RankingWindow* MakeTableWindow(Ranking& table, QWidget* parent);
+RankingWindow* MakeTopScorersWindow(Ranking& scorers, QWidget* parent);
+
+}  // namespace kickwell

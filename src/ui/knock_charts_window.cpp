@@ -27,7 +27,7 @@ Bracket::Bracket(const KnockCharts& charts) : charts_(charts) {
     font.setBold(known && beyondFirstRound);  // A winner stands out from those to come.
     font.setItalic(!known);
     label->setFont(font);
-    label->setEnabled(known);
+    if (!known) label->setForegroundRole(QPalette::PlaceholderText);
     team_[static_cast<std::size_t>(slot)] = label;
   }
 }

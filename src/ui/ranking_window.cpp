@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -57,6 +58,7 @@ QWidget* RankingWindow::BuildRows() {
   bar_->setObjectName("Bar");
   bar_->setAutoFillBackground(true);
   bar_->setBackgroundRole(QPalette::Highlight);
+  rows->installEventFilter(this);
   auto* const grid = new QGridLayout(rows);
   grid->setSpacing(0);
   labels_.resize(columns_.size());
@@ -91,7 +93,9 @@ QWidget* RankingWindow::BuildRows() {
 }
 
 bool RankingWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::MouseMove) {
+  if (watched == bar_->parentWidget() && event->type() == QEvent::Resize) {
+    QTimer::singleShot(0, this, [this] { PlaceBar(); });  // When the rows have found their places.
+  } else if (event->type() == QEvent::MouseMove) {
     const auto marker = std::find(markers_.begin(), markers_.end(), watched);
     if (marker != markers_.end()) {
       MoveBar(static_cast<int>(marker - markers_.begin()) + 1);
@@ -105,17 +109,10 @@ void RankingWindow::MoveBar(int row) {
   PlaceBar();
 }
 
-void RankingWindow::resizeEvent(QResizeEvent* event) {
-  ScreenWindow::resizeEvent(event);
-  PlaceBar();
-}
-
 void RankingWindow::PlaceBar() {
-  layout()->activate();
   bar_->parentWidget()->layout()->activate();
   const Paging& pages = ranking_.Pages;
   bar_->setVisible(pages.RowCount() > 0);
-  bar_->setGeometry(bar_->parentWidget()->layout()->itemAt(0)->geometry());
   for (int r = 1; r <= Paging::Rows; ++r) {
     const auto at = static_cast<std::size_t>(r - 1);
     const bool marked = r == pages.Highlight && pages.RowCount() > 0;

@@ -30,7 +30,6 @@ class RankingWindow final : public ScreenWindow {
   bool IsClosed() const override { return ranking_.Closed; }
   void Leave() override { ranking_.Close_Click(); }
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
 
  private:
   QWidget* BuildRows();

@@ -10,6 +10,7 @@
 #include "support/fakes.h"
 #include "support/folders.h"
 #include "ui/app.h"
+#include "ui/widgets.h"
 #include "user.h"
 
 namespace kickwell {
@@ -81,6 +82,56 @@ class ChampionshipTest : public testing::Test {
     }
   }
 
+  /// Opens each statistics screen of the championship played last and compares it with what the log says.
+  void LookAtStatistics(ChampionshipKind kind) {
+    const auto open = [this](Qt::Key item) {
+      user_.In("Opening", [item](QWidget& window) { User::Choose(window, Qt::Key_S, item); });
+    };
+    open(Qt::Key_T);
+    user_.In("TopScorers", [this](QWidget& window) {
+      int last = 1000;
+      for (int r = 1; r <= std::min(15, static_cast<int>(goals_.size())); ++r) {
+        const int goals = User::TextOf(window, ArrayName("Goals", r)).toInt();
+        EXPECT_EQ(goals, goals_[User::TextOf(window, ArrayName("Player", r)).toStdString()]);
+        EXPECT_LE(goals, last);
+        last = goals;
+      }
+      EXPECT_EQ(window.findChild<QWidget*>("nextpage")->isEnabled(), goals_.size() > 15);
+      User::Click(window, "Close");
+    });
+    open(Qt::Key_M);
+    user_.In("LegResults", [this](QWidget& window) {
+      EXPECT_EQ(window.findChild<QListWidget*>("List1")->count(), static_cast<int>(shown_.size()) * 6 - 1);
+      User::Click(window, "Command1");
+    });
+    if (kind == League) {
+      open(Qt::Key_L);
+      user_.In("Table", [this](QWidget& window) {
+        std::map<std::string, StandingsRow> rows = StandingsOfLog();
+        for (int r = 1; r <= static_cast<int>(rows.size()); ++r) {
+          const StandingsRow& row = rows[User::TextOf(window, ArrayName("Team", r)).toStdString()];
+          QStringList shown;
+          for (const char* column : {"Played", "Won", "Tied", "Lost", "GF", "GA", "Points"}) {
+            shown.append(User::TextOf(window, ArrayName(column, r)));
+          }
+          EXPECT_EQ(shown.join(' ').toStdString(),
+                    std::to_string(row.Played) + " " + std::to_string(row.Won) + " " +
+                        std::to_string(row.Drawn) + " " + std::to_string(row.Lost) + " " +
+                        std::to_string(row.GoalsFor) + " " + std::to_string(row.GoalsAgainst) + " " +
+                        std::to_string(row.Points));
+        }
+        User::Click(window, "Close");
+      });
+    } else {
+      open(Qt::Key_K);
+      user_.In("KnockCharts", [this](QWidget& window) {
+        EXPECT_EQ("Winner: " + User::TextOf(window, "team(14)").toStdString(),
+                  ReadResults(folder_.Folder, KnockOut, "Test").back());
+        User::Click(window, "Command3");
+      });
+    }
+  }
+
   void Quit() {
     user_.In("Opening", [](QWidget& window) { User::Choose(window, Qt::Key_P, Qt::Key_X); });
   }
@@ -104,9 +155,9 @@ class ChampionshipTest : public testing::Test {
   }
 
   /// The standings, worked out from the results log.
-  void ExpectStandings() {
-    const Championship league = ReadChampionship(folder_.Folder, League, "Test.leg").value();
+  std::map<std::string, StandingsRow> StandingsOfLog() const {
     std::map<std::string, StandingsRow> rows;
+    const Championship league = ReadChampionship(folder_.Folder, League, "Test.leg").value();
     for (const std::string& team : league.Teams) rows[team].Team = team;
     const auto add = [&rows](const QString& team, int goals, int against) {
       StandingsRow& row = rows[team.toStdString()];
@@ -119,10 +170,17 @@ class ChampionshipTest : public testing::Test {
     const Lines log = ReadResults(folder_.Folder, League, "Test");
     for (std::size_t i = 1; i < log.size(); i += 6) {
       const QStringList sides = QString::fromStdString(log[i]).split(" vs ");
-      const QString team1 = sides[0].section(' ', 0, 0), team2 = sides[1].section(' ', 0, 0);
-      add(team1, sides[0].section(' ', 1).toInt(), sides[1].section(' ', 1).toInt());
-      add(team2, sides[1].section(' ', 1).toInt(), sides[0].section(' ', 1).toInt());
+      const int goals1 = sides[0].section(' ', 1).toInt();
+      const int goals2 = sides[1].section(' ', 1).toInt();
+      add(sides[0].section(' ', 0, 0), goals1, goals2);
+      add(sides[1].section(' ', 0, 0), goals2, goals1);
     }
+    return rows;
+  }
+
+  void ExpectStandings() const {
+    const Championship league = ReadChampionship(folder_.Folder, League, "Test.leg").value();
+    std::map<std::string, StandingsRow> rows = StandingsOfLog();
     for (const StandingsRow& row : ReadStandings(folder_.Folder, league))
       EXPECT_EQ(row, rows[row.Team]) << row.Team;
   }
@@ -144,6 +202,7 @@ TEST_F(ChampionshipTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   ExpectRecorded(League);
   ExpectStandings();
   Play(League, 4, 12);
+  LookAtStatistics(League);
   Quit();
   Run(12);
   ExpectRecorded(League);
@@ -157,6 +216,7 @@ TEST_F(ChampionshipTest, AKnockOutIsPlayedToItsChampion) {
   AddTeams({"Albion", "Borough", "City", "Dynamo", "Eagles", "Forest", "Grange", "Harbour"});
   Build(KnockOut, 8);
   Play(KnockOut, 1, 7);
+  LookAtStatistics(KnockOut);
   Quit();
   Run(17);
   ExpectRecorded(KnockOut);

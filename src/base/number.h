@@ -6,6 +6,12 @@
 
 namespace kickwell {
 
+/// Whether `text` is decimal digits, with at most one "-" before them, of any length.
+inline bool IsNumber(std::string_view text) {
+  if (text.starts_with('-')) text.remove_prefix(1);
+  return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 /// The whole number that `text` spells in decimal digits, with at most one "-" before them; 0 when it is no
 /// such number or does not fit an int.
 inline int ToNumber(std::string_view text) {

@@ -13,6 +13,8 @@ constexpr const char* Standings = ".rec";
 constexpr const char* Scorers = ".sco";
 constexpr const char* Results = ".lrs";
 
+constexpr std::size_t StandingsLines = 8;  ///< Of a row.
+
 constexpr std::string_view WinnerOf = "Winner ";
 
 const char* MainExtension(ChampionshipKind kind) {
@@ -159,13 +161,12 @@ FileResult DeleteChampionship(const ProgramFolder& folder, ChampionshipKind kind
 }
 
 std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const Championship& league) {
-  constexpr std::size_t RowLines = 8;
   Reader reader(ReadFile(folder, ChampionshipKind::League, league.Name + Standings));
   std::vector<StandingsRow> standings;
   standings.reserve(league.Teams.size());
   for (const std::string& team : league.Teams) {
     StandingsRow& row = standings.emplace_back();
-    if (reader.Left() < RowLines) {
+    if (reader.Left() < StandingsLines) {
       row.Team = team;
       continue;
     }
@@ -188,6 +189,15 @@ FileResult WriteStandings(const ProgramFolder& folder, const std::string& league
       lines.push_back(std::to_string(figure));
     }
   }
+  return WriteFile(folder, ChampionshipKind::League, league + Standings, lines);
+}
+
+FileResult AppendStandings(const ProgramFolder& folder, const std::string& league, const std::string& team) {
+  Lines lines = ReadFile(folder, ChampionshipKind::League, league + Standings);
+  if (lines.empty()) return {};
+  lines.resize(lines.size() / StandingsLines * StandingsLines);
+  lines.push_back(team);
+  lines.resize(lines.size() + StandingsLines - 1, "0");
   return WriteFile(folder, ChampionshipKind::League, league + Standings, lines);
 }
 

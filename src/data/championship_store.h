@@ -95,6 +95,9 @@ std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const Champ
 FileResult WriteStandings(const ProgramFolder& folder, const std::string& league,
                           const std::vector<StandingsRow>& standings);
 
+/// Adds a row of zeros for `team` behind the rows of a standings file that exists; there may be none.
+FileResult AppendStandings(const ProgramFolder& folder, const std::string& league, const std::string& team);
+
 /// All scorers, in the order in which they first scored.
 std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind kind,
                                    const std::string& name);

@@ -8,6 +8,8 @@
 #include "championship/leg_results.h"
 #include "championship/standings_table.h"
 #include "championship/top_scorers.h"
+#include "editors/stad_editor.h"
+#include "editors/team_editor.h"
 #include "engine/match.h"
 #include "engine/recording.h"
 #include "setup/selection.h"
@@ -21,6 +23,8 @@
 #include "ui/ranking_window.h"
 #include "ui/selection_window.h"
 #include "ui/settings_window.h"
+#include "ui/stad_editor_window.h"
+#include "ui/team_editor_window.h"
 
 namespace kickwell {
 App::App(ProgramFolder folder, Desktop& desktop, Random& random, MatchTimings timings)
@@ -48,6 +52,8 @@ OpeningScreens App::Screens() {
   screens.LegSettings = [this] { OpenPlay(ChampionshipKind::League); };
   screens.KnockSettings = [this] { OpenPlay(ChampionshipKind::KnockOut); };
   screens.LegEditor = [this] { OpenLegEditor(); };
+  screens.TeamEditor = [this] { OpenTeamEditor(); };
+  screens.StadEditor = [this] { OpenStadEditor(); };
   screens.Table = [this] { OpenTable(); };
   screens.TopScorers = [this] { OpenTopScorers(); };
   screens.LegResults = [this] { OpenLegResults(); };
@@ -63,6 +69,16 @@ void App::OpenSettings() {
 void App::OpenLegEditor() {
   LegEditor editor(folder_, desktop_, random_);
   LegEditorWindow(editor, Owner()).exec();
+}
+
+void App::OpenTeamEditor() {
+  TeamEditor editor(folder_, desktop_, opening_.ChampionshipName);
+  TeamEditorWindow(editor, Owner()).exec();
+}
+
+void App::OpenStadEditor() {
+  StadEditor editor(folder_, desktop_);
+  StadEditorWindow(editor, Owner()).exec();
 }
 
 void App::OpenPlay(ChampionshipKind kind) {

@@ -30,6 +30,8 @@ class App {
   OpeningScreens Screens();
   void OpenSettings();
   void OpenLegEditor();
+  void OpenTeamEditor();
+  void OpenStadEditor();
   void OpenPlay(ChampionshipKind kind);
   void OpenTable();
   void OpenTopScorers();

@@ -1,0 +1,72 @@
+#include "editors/stad_editor.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "base/number.h"
+#include "data/team_store.h"
+
+namespace kickwell {
+
+StadEditor::StadEditor(ProgramFolder folder, Desktop& desktop)
+    : folder_(std::move(folder)), desktop_(desktop) {
+  Form_Load();
+}
+
+void StadEditor::Form_Load() {
+  Combo1 = {{"Neutral"}, 0};
+  for (std::string& team : ListTeams(folder_)) Combo1.Add(std::move(team));
+  stadiums_ = LoadStadiums(folder_);
+  ShowStadiums(0);
+}
+
+void StadEditor::ShowStadiums(int selected) {
+  List1 = {};
+  for (const Stadium& stadium : stadiums_) List1.Add(stadium.Name);
+  List1.Picked = selected < List1.Count() ? selected : Chooser::None;
+}
+
+/// Makes these the stadiums, on disk and here; neither when saving fails.
+bool StadEditor::Save(std::vector<Stadium> stadiums) {
+  if (!Report(desktop_, SaveStadiums(folder_, stadiums))) return false;
+  stadiums_ = std::move(stadiums);
+  return true;
+}
+
+void StadEditor::Command2_Click() {
+  const auto isNamed = [this](const Stadium& stadium) { return stadium.Name == Text1; };
+  if (Text1.empty() || Text2.empty() || Text3.empty()) {
+    desktop_.Warn("Please enter all the Stadium Details properly.");
+  } else if (!IsNumber(Text3)) {
+    desktop_.Warn("Please enter a numerical value for Capacity.");
+  } else if (ToNumber(Text3) <= 0) {
+    desktop_.Warn("Please enter a capacity value from 1 to 99999.");
+  } else if (std::any_of(stadiums_.begin(), stadiums_.end(), isNamed)) {
+    desktop_.Inform(Text1 + " already exists");
+  } else if (desktop_.Ask("Are you sure you want to add this stadium?")) {
+    std::vector<Stadium> more = stadiums_;
+    more.push_back({Combo1.Text(), Text1, Text2, Text3});
+    if (!Save(std::move(more))) return;
+    Text1.clear();
+    Text2.clear();
+    Text3.clear();
+    Combo1.Picked = 0;
+    ShowStadiums(static_cast<int>(stadiums_.size()) - 1);
+  }
+}
+
+void StadEditor::Command1_Click() {
+  if (List1.Count() <= 1) {
+    desktop_.Warn("You can't delete any more stadium.");
+    return;
+  }
+  if (List1.Picked == Chooser::None || !desktop_.Ask("Are you sure you want to remove " + List1.Text() + "?"))
+    return;
+  std::vector<Stadium> fewer = stadiums_;
+  fewer.erase(fewer.begin() + List1.Picked);
+  if (!Save(std::move(fewer))) return;
+  Report(desktop_, DeleteFile(folder_.Settings()));
+  ShowStadiums(0);
+}
+
+}  // namespace kickwell

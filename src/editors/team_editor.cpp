@@ -1,0 +1,161 @@
+#include "editors/team_editor.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include "base/number.h"
+#include "data/championship_store.h"
+#include "data/file_names.h"
+#include "engine/match_setup.h"
+
+namespace kickwell {
+namespace {
+
+constexpr int SmallestSquad = 11;  ///< That a match can be played with.
+constexpr int FewestTeams = 2;
+
+int PlaceOf(const Chooser& chooser, const std::string& entry) {
+  const auto place = std::find(chooser.Entries.begin(), chooser.Entries.end(), entry);
+  return place == chooser.Entries.end() ? Chooser::None : static_cast<int>(place - chooser.Entries.begin());
+}
+
+}  // namespace
+
+TeamEditor::TeamEditor(ProgramFolder folder, Desktop& desktop, std::string league)
+    : folder_(std::move(folder)), desktop_(desktop), league_(std::move(league)) {
+  Form_Load();
+}
+
+void TeamEditor::Form_Load() {
+  Combo3.Entries = ListTeams(folder_);
+  Combo1.Entries = {"FD", "MF", "DF", "GK"};
+  Combo2.Entries = {"L", "R", "C"};
+  PresetPosition();
+  if (Combo3.Count() > 0) Combo3_Click(0);
+}
+
+void TeamEditor::PresetPosition() {
+  Combo1.Picked = Combo2.Picked = 0;
+}
+
+void TeamEditor::Combo3_Click(int entry) {
+  std::optional<Team> loaded = LoadTeam(folder_, Combo3.Entries.at(static_cast<std::size_t>(entry)));
+  if (!loaded) return;
+  Combo3.Picked = entry;
+  team_ = std::move(*loaded);
+  ShowSquad(0);
+}
+
+void TeamEditor::ShowSquad(int selected) {
+  List1 = {};
+  for (const Player& player : team_.Players) List1.Add(player.Name);
+  List1.Picked = selected < List1.Count() ? selected : Chooser::None;
+}
+
+/// Saves the squad and shows it; what is on disk when that fails.
+void TeamEditor::Save(int selected) {
+  if (Report(desktop_, SaveTeam(folder_, team_))) {
+    ShowSquad(selected);
+  } else {
+    Combo3_Click(Combo3.Picked);
+  }
+}
+
+const Player* TeamEditor::Selected() const {
+  return List1.Picked == Chooser::None ? nullptr : &team_.Players.at(static_cast<std::size_t>(List1.Picked));
+}
+
+bool TeamEditor::SkillIsFine(const std::string& skill) {
+  if (!IsNumber(skill)) {
+    desktop_.Warn("Please enter a numerical value for Skill.");
+  } else if (ToNumber(skill) <= 0) {
+    desktop_.Warn("Please enter a skill value from 1 to 99.");
+  } else {
+    return true;
+  }
+  return false;
+}
+
+void TeamEditor::Command7_Click() {
+  const std::string name = Text1;
+  if (name.empty() || Text5.empty()) {
+    desktop_.Warn("Please enter all the Team Details properly.");
+    return;
+  }
+  if (!SkillIsFine(Text5)) return;
+  // A file of that name that is not in the list is one that differs in letter case alone, where that is no
+  // difference.
+  if (PlaceOf(Combo3, name) != Chooser::None || LoadTeam(folder_, name)) {
+    desktop_.Inform(name + " already exists");
+    return;
+  }
+  if (!IsFileName(name)) {
+    desktop_.Warn(FileNameRefusal(name));
+    return;
+  }
+  if (!desktop_.Ask("Are you sure you want to add " + name + "?")) return;
+  if (!Report(desktop_, CreateTeam(folder_, name, Text5))) return;
+  Combo3.Add(name);
+  if (league_ != NoChampionship) Report(desktop_, AppendStandings(folder_, league_, name));
+  Text1.clear();
+  Text5.clear();
+  Combo3_Click(Combo3.Count() - 1);
+}
+
+void TeamEditor::Command8_Click() {
+  if (Combo3.Picked == Chooser::None) return;
+  if (Text2.empty() || Text4.empty()) {
+    desktop_.Warn("Please enter all the Player Details properly.");
+    return;
+  }
+  if (!SkillIsFine(Text4)) return;
+  if (PlaceOf(List1, Text2) != Chooser::None) {
+    desktop_.Inform(Text2 + " already exists");
+    return;
+  }
+  if (!desktop_.Ask("Are you sure you want to add " + Text2 + "?")) return;
+  const std::string line = Combo1.Text();
+  team_.Players.push_back({Text2, Text4, line == "GK" ? line : line + Combo2.Text()});
+  Text2.clear();
+  Text4.clear();
+  PresetPosition();
+  Save(List1.Count());
+}
+
+void TeamEditor::Command6_Click() {
+  if (List1.Count() == SmallestSquad || List1.Count() == 0) {
+    desktop_.Warn("You can't delete any more players.");
+    return;
+  }
+  if (Selected() == nullptr || !desktop_.Ask("Are you sure you want to delete " + Selected()->Name + "?"))
+    return;
+  team_.Players.erase(team_.Players.begin() + List1.Picked);
+  Save(0);
+}
+
+void TeamEditor::Move(int direction) {
+  const int from = List1.Picked;
+  if (from == Chooser::None) return;
+  const int to = from + direction;
+  const bool possible = to >= 0 && to < List1.Count();
+  if (possible) {
+    std::swap(team_.Players[static_cast<std::size_t>(from)], team_.Players[static_cast<std::size_t>(to)]);
+  }
+  Save(possible ? to : from);
+}
+
+void TeamEditor::Command5_Click() {
+  if (Combo3.Count() <= FewestTeams) {
+    desktop_.Warn("You can't delete any more team.");
+    return;
+  }
+  const std::string name = Combo3.Text();
+  if (name.empty() || !desktop_.Ask("Are you sure you want to delete " + name + "?")) return;
+  if (!Report(desktop_, DeleteTeam(folder_, name))) return;
+  Combo3.Entries.erase(Combo3.Entries.begin() + Combo3.Picked);
+  Combo3.Picked = Chooser::None;
+  Combo3_Click(0);
+}
+
+}  // namespace kickwell

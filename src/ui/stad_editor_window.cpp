@@ -1,0 +1,118 @@
+#include "ui/stad_editor_window.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "ui/editor_parts.h"
+#include "ui/text_label.h"
+#include "ui/widgets.h"
+
+namespace kickwell {
+namespace {
+
+constexpr int LongestName = 25, LongestCity = 10, LongestCapacity = 5;
+
+const char* const Removing =
+    "To Remove an existing stadium, select the stadium from the list and click on Remove Stadium button. ";
+const char* const Adding =
+    "To add a new stadium to the list, write the Stadium Name, City or Country of its existence and Crowd "
+    "Capacity "
+    "and then click on Add Stadium button. Remember that each and every field is compulsory and the Capacity "
+    "field "
+    "will only accept numerical values.";
+
+QLabel* Instruction(const QString& name, const QString& text) {
+  QLabel* const label = MakeCaption(text);
+  label->setObjectName(name);
+  label->setWordWrap(true);
+  return label;
+}
+
+}  // namespace
+
+StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
+    : ScreenWindow("StadEditor", tr("Kickwell Stadium Editor"), parent),
+      editor_(editor),
+      list1_(MakeList("List1")),
+      label8_(MakeText("Label8", {})),
+      text1_(MakeTextBox("Text1", LongestName, editor.Text1)),
+      text2_(MakeTextBox("Text2", LongestCity, editor.Text2)),
+      text3_(MakeTextBox("Text3", LongestCapacity, editor.Text3)),
+      combo1_(MakeCombo("Combo1")) {
+  list1_->setAccessibleName(tr("Stadiums"));
+  connect(list1_, &QListWidget::currentRowChanged, this, [this](int row) {
+    if (row >= 0) Act([&] { editor_.List1_Click(row); });
+  });
+  connect(combo1_, &QComboBox::activated, this,
+          [this](int entry) { Act([&] { editor_.Combo1_Click(entry); }); });
+  auto* const instructions = new QGroupBox(tr("Instructions"));
+  auto* const texts = new QVBoxLayout(instructions);
+  texts->addWidget(Instruction("Label9", tr(Removing)));
+  texts->addWidget(Instruction("Label10", tr(Adding)));
+  auto* const right = new QVBoxLayout;
+  right->setSpacing(10);
+  right->addWidget(BuildAddition());
+  right->addWidget(instructions);
+  right->addStretch();
+  auto* const columns = new QHBoxLayout;
+  columns->setSpacing(20);
+  columns->addWidget(BuildRemoval(), 1);
+  columns->addLayout(right, 1);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(12);
+  layout->addLayout(columns, 1);
+  layout->addWidget(Button("Command3", tr("E&xit Kickwell Stadium Editor"), &StadEditor::Command3_Click), 0,
+                    Qt::AlignRight);
+  Show();
+  resize(760, 460);
+}
+
+QPushButton* StadEditorWindow::Button(const char* name, const QString& caption,
+                                      void (StadEditor::*action)()) {
+  QPushButton* const button = MakeButton(name, caption);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, [this, action] { Act([&] { (editor_.*action)(); }); });
+  return button;
+}
+
+QWidget* StadEditorWindow::BuildRemoval() {
+  auto* const box = new QGroupBox(tr("Remove Stadiums"));
+  auto* const total = new QHBoxLayout;
+  total->addWidget(MakeCaption(tr("Total number of stadiums:")));
+  total->addWidget(label8_);
+  total->addStretch();
+  auto* const layout = new QVBoxLayout(box);
+  layout->addWidget(list1_, 1);
+  layout->addLayout(total);
+  layout->addWidget(Button("Command1", tr("&Remove Stadium"), &StadEditor::Command1_Click), 0, Qt::AlignLeft);
+  return box;
+}
+
+QWidget* StadEditorWindow::BuildAddition() {
+  Section add(tr("Add Stadiums"));
+  add.Add(tr("Name:"), text1_);
+  add.Add(tr("City/Country:"), text2_);
+  add.Add(tr("Capacity:"), text3_);
+  add.Add(tr("Home To:"), combo1_);
+  add.Form->addRow(Button("Command2", tr("&Add Stadium"), &StadEditor::Command2_Click));
+  return add.Box;
+}
+
+void StadEditorWindow::Show() {
+  ShowList(list1_, editor_.List1);
+  for (int i = 0; i < list1_->count(); ++i) {
+    const Stadium& stadium = editor_.Stadiums()[static_cast<std::size_t>(i)];
+    list1_->item(i)->setToolTip(PlainTip(
+        ToQt(stadium.Name + ", " + stadium.City + " (" + stadium.Capacity + "), " + stadium.HomeTeam)));
+  }
+  label8_->setText(ToQt(editor_.Label8()));
+  ShowText(text1_, editor_.Text1);
+  ShowText(text2_, editor_.Text2);
+  ShowText(text3_, editor_.Text3);
+  ShowChooser(combo1_, editor_.Combo1);
+}
+
+}  // namespace kickwell

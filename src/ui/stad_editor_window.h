@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "editors/stad_editor.h"
+#include "ui/screen_window.h"
+
+namespace kickwell {
+
+class StadEditorWindow final : public ScreenWindow {
+ public:
+  StadEditorWindow(StadEditor& editor, QWidget* parent);
+
+ protected:
+  void Show() override;
+  bool IsClosed() const override { return editor_.Closed; }
+  void Leave() override { editor_.Command3_Click(); }
+
+ private:
+  QPushButton* Button(const char* name, const QString& caption, void (StadEditor::*action)());
+  QWidget* BuildRemoval();
+  QWidget* BuildAddition();
+
+  StadEditor& editor_;
+  QListWidget* list1_;
+  QLabel* label8_;
+  QLineEdit *text1_, *text2_, *text3_;
+  QComboBox* combo1_;
+};
+
+}  // namespace kickwell

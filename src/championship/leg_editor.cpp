@@ -29,6 +29,13 @@ void RemoveAt(Chooser& list, int place) {
   }
 }
 
+/// The number of teams of a knock-out that is nearest to `count` from below: 2, 4, 8 or 16.
+int BracketSize(int count) {
+  int size = 2;
+  while (size < MostTeamsOfKnockOut && size * 2 <= count) size *= 2;
+  return size;
+}
+
 void PickFirst(Chooser& list) {
   list.Picked = list.Entries.empty() ? Chooser::None : 0;
 }
@@ -123,16 +130,22 @@ void LegEditor::AddFixture_Click() {
   }
 }
 
-bool LegEditor::IsKnockOut(const EditorSide& side) const {
-  const std::vector<std::string>& teams = side.Selected.Entries;
+bool LegEditor::IsKnockOut(const EditorSide& side) {
+  const std::set<std::string> teams(side.Selected.Entries.begin(), side.Selected.Entries.end());
   const auto count = static_cast<int>(teams.size());
-  if (count != side.NumberOfTeams || static_cast<int>(side.Table.size()) != count - 1) return false;
-  const std::set<std::string> names(teams.begin(), teams.end());
-  const auto known = [&names](const std::string& entry) {
-    return names.contains(entry) || names.contains(WithoutToss(entry)) || PlaceholderNumber(entry) > 0;
+  if (count != side.Selected.Count() || count != side.NumberOfTeams ||
+      side.FixtureList.Count() != count - 1) {
+    return false;
+  }
+  int number = 0;
+  const auto known = [&](const std::string& entry) {
+    const int earlier = PlaceholderNumber(entry);
+    return (earlier > 0 && earlier < number) || teams.contains(entry) || teams.contains(WithoutToss(entry));
   };
-  return std::all_of(side.Table.begin(), side.Table.end(),
-                     [&known](const Pairing& fixture) { return known(fixture.Home) && known(fixture.Away); });
+  return std::all_of(side.Table.begin(), side.Table.end(), [&](const Pairing& fixture) {
+    ++number;
+    return known(fixture.Home) && known(fixture.Away);
+  });
 }
 
 bool LegEditor::MayBeSaved(const EditorSide& side) {
@@ -156,7 +169,7 @@ bool LegEditor::MayBeSaved(const EditorSide& side) {
 void LegEditor::Save_Click(EditorSide& side) {
   if (!MayBeSaved(side)) return;
   const std::string fileName = MainFileName(side.Kind, side.Name);
-  const bool known = ReadChampionship(folder_, side.Kind, fileName).has_value();
+  const bool known = ChampionshipExists(folder_, side.Kind, fileName);
   if (!desktop_.Ask(known ? "Do you want to overwrite " + side.Name + "?"
                           : "Are you sure you want to add " + side.Name + "?")) {
     return;
@@ -189,7 +202,7 @@ void LegEditor::Load_Click(EditorSide& side, int entry) {
   }
   PickFirst(side.Available);
   side.Home.Entries = side.Away.Entries = side.Selected.Entries;
-  side.NumberOfTeams = side.Selected.Count();
+  side.NumberOfTeams = BracketSize(side.Selected.Count());
   for (const Fixture& fixture : loaded->Fixtures) ShowFixture(side, {fixture.Home, fixture.Away});
   side.ManualEntry = true;
 }

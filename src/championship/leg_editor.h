@@ -59,7 +59,7 @@ class LegEditor {
 
  private:
   static void ShowFixture(EditorSide& side, Pairing fixture);
-  bool IsKnockOut(const EditorSide& side) const;
+  static bool IsKnockOut(const EditorSide& side);
   bool MayBeSaved(const EditorSide& side);
 
   ProgramFolder folder_;

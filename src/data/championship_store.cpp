@@ -104,6 +104,11 @@ std::vector<std::string> ListChampionships(const ProgramFolder& folder, Champion
   return ListFiles(FolderOf(folder, kind), MainExtension(kind));
 }
 
+bool ChampionshipExists(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName) {
+  std::error_code error;
+  return StaysInFolder(fileName) && std::filesystem::exists(FolderOf(folder, kind) / fileName, error);
+}
+
 std::optional<Championship> ReadChampionship(const ProgramFolder& folder, ChampionshipKind kind,
                                              const std::string& fileName) {
   if (!StaysInFolder(fileName)) return std::nullopt;
@@ -144,7 +149,7 @@ FileResult WriteChampionship(const ProgramFolder& folder, const Championship& ch
   lines.insert(lines.end(), championship.Teams.begin(), championship.Teams.end());
   if (league) lines.push_back(count);
   for (const Fixture& fixture : championship.Fixtures) {
-    lines.insert(lines.end(), {fixture.Status, fixture.Home, fixture.Away});
+    for (const std::string* line : {&fixture.Status, &fixture.Home, &fixture.Away}) lines.push_back(*line);
     if (!league) lines.push_back(fixture.Winner);
   }
   return WriteFile(folder, championship.Kind, MainFileName(championship.Kind, championship.Name), lines);

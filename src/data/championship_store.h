@@ -79,6 +79,8 @@ std::string NameOfMainFile(const std::string& fileName);
 /// The main files of the kind's folder, extension included, alphabetical ignoring letter case.
 std::vector<std::string> ListChampionships(const ProgramFolder& folder, ChampionshipKind kind);
 
+bool ChampionshipExists(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName);
+
 /// The championship in that main file; nothing when there is none.
 std::optional<Championship> ReadChampionship(const ProgramFolder& folder, ChampionshipKind kind,
                                              const std::string& fileName);

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <cstring>
 #include <fstream>
 #include <system_error>
 
@@ -73,6 +74,22 @@ Encoding GuessEncoding(std::string_view bytes) {
 
 constexpr std::size_t LongestOfUnit = 3;  ///< UTF-8 bytes that a UTF-16 unit or a bad byte can become.
 
+/// How many UTF-16 little-endian units at the beginning of `bytes` are ASCII, four at a time.
+std::size_t AsciiUnits(std::string_view bytes) {
+  constexpr std::size_t Four = 8;  // Bytes.
+  constexpr char NotAscii[] = "\x80\xFF\x80\xFF\x80\xFF\x80\xFF";
+  std::uint64_t mask = 0;
+  std::memcpy(&mask, NotAscii, Four);
+  std::size_t run = 0;
+  while (2 * run + Four <= bytes.size()) {
+    std::uint64_t units = 0;
+    std::memcpy(&units, bytes.data() + 2 * run, Four);
+    if ((units & mask) != 0) break;
+    run += 4;
+  }
+  return run;
+}
+
 std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
   std::string text(bytes.size() / 2 * LongestOfUnit, '\0');
   char* out = text.data();
@@ -82,6 +99,13 @@ std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
     return static_cast<char32_t>(bigEndian ? first << 8 | second : second << 8 | first);
   };
   for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    if (!bigEndian) {  // Long runs of ASCII are what files are made of, and what a processor copies at once.
+      const std::size_t run = AsciiUnits(bytes.substr(i));
+      for (std::size_t k = 0; k < run; ++k) out[k] = bytes[i + 2 * k];
+      out += run;
+      i += 2 * run;
+      if (i + 1 >= bytes.size()) break;
+    }
     char32_t c = unit(i);
     if (IsHighSurrogate(c) && i + 3 < bytes.size() && IsLowSurrogate(unit(i + 2))) {
       c = 0x10000 + ((c - 0xD800) << 10) + (unit(i + 2) - 0xDC00);
@@ -130,6 +154,15 @@ std::string Encode(const Lines& lines) {
   unit(0xFEFF);
   for (const std::string& line : lines) {
     for (std::size_t place = 0; place < line.size();) {
+      std::size_t run = 0;
+      while (place + run < line.size() && line[place + run] > '\n') ++run;
+      for (std::size_t k = 0; k < run; ++k) {
+        out[2 * k] = line[place + k];
+        out[2 * k + 1] = 0;
+      }
+      out += 2 * run;
+      place += run;
+      if (place == line.size()) break;
       const char32_t c = NextCodePoint(line, place);
       if (c >= 0x10000) {
         unit(0xD800 + ((c - 0x10000) >> 10));
@@ -147,6 +180,7 @@ std::string Encode(const Lines& lines) {
 
 Lines Split(std::string_view text) {
   Lines lines;
+  lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
   while (!text.empty()) {
     const std::size_t end = text.find('\n');
     std::string_view line = text.substr(0, end);
@@ -239,8 +273,9 @@ FileResult WriteLines(const std::filesystem::path& file, const Lines& lines,
   std::filesystem::create_directories(file.parent_path(), ignored);
   const std::filesystem::path target = BehindLinks(file);
   constexpr const char* What = " can't be saved: ";
-  // Renaming would get past the write protection of a file, which its owner meant.
-  if (::access(target.c_str(), F_OK) == 0 && ::access(target.c_str(), W_OK) != 0) {
+  // Renaming would get past the protection of a file. One that cannot be written is meant to stay, and one
+  // that cannot be read has not been taken into what is about to replace it.
+  if (::access(target.c_str(), F_OK) == 0 && ::access(target.c_str(), R_OK | W_OK) != 0) {
     return Result(file, What, errno);
   }
   const std::string bytes = Encode(lines);

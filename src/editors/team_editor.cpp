@@ -53,13 +53,12 @@ void TeamEditor::ShowSquad(int selected) {
   List1.Picked = selected < List1.Count() ? selected : Chooser::None;
 }
 
-/// Saves the squad and shows it; what is on disk when that fails.
-void TeamEditor::Save(int selected) {
-  if (Report(desktop_, SaveTeam(folder_, team_))) {
-    ShowSquad(selected);
-  } else {
-    Combo3_Click(Combo3.Picked);
-  }
+/// Makes `changed` the team, on disk and here; neither when saving fails.
+bool TeamEditor::Save(Team changed, int selected) {
+  if (!Report(desktop_, SaveTeam(folder_, changed))) return false;
+  team_ = std::move(changed);
+  ShowSquad(selected);
+  return true;
 }
 
 const Player* TeamEditor::Selected() const {
@@ -116,11 +115,12 @@ void TeamEditor::Command8_Click() {
   }
   if (!desktop_.Ask("Are you sure you want to add " + Text2 + "?")) return;
   const std::string line = Combo1.Text();
-  team_.Players.push_back({Text2, Text4, line == "GK" ? line : line + Combo2.Text()});
+  Team more = team_;
+  more.Players.push_back({Text2, Text4, line == "GK" ? line : line + Combo2.Text()});
+  if (!Save(std::move(more), List1.Count())) return;
   Text2.clear();
   Text4.clear();
   PresetPosition();
-  Save(List1.Count());
 }
 
 void TeamEditor::Command6_Click() {
@@ -130,8 +130,9 @@ void TeamEditor::Command6_Click() {
   }
   if (Selected() == nullptr || !desktop_.Ask("Are you sure you want to delete " + Selected()->Name + "?"))
     return;
-  team_.Players.erase(team_.Players.begin() + List1.Picked);
-  Save(0);
+  Team fewer = team_;
+  fewer.Players.erase(fewer.Players.begin() + List1.Picked);
+  Save(std::move(fewer), 0);
 }
 
 void TeamEditor::Move(int direction) {
@@ -139,10 +140,10 @@ void TeamEditor::Move(int direction) {
   if (from == Chooser::None) return;
   const int to = from + direction;
   const bool possible = to >= 0 && to < List1.Count();
-  if (possible) {
-    std::swap(team_.Players[static_cast<std::size_t>(from)], team_.Players[static_cast<std::size_t>(to)]);
-  }
-  Save(possible ? to : from);
+  Team moved = team_;
+  if (possible)
+    std::swap(moved.Players[static_cast<std::size_t>(from)], moved.Players[static_cast<std::size_t>(to)]);
+  Save(std::move(moved), possible ? to : from);
 }
 
 void TeamEditor::Command5_Click() {

@@ -46,7 +46,7 @@ class TeamEditor {
   void Form_Load();
   void PresetPosition();
   void ShowSquad(int selected);
-  void Save(int selected);
+  bool Save(Team changed, int selected);
   void Move(int direction);
   bool SkillIsFine(const std::string& skill);
   const Player* Selected() const;

@@ -5,6 +5,8 @@
 #include <optional>
 #include <vector>
 
+#include "data/team_store.h"
+
 namespace kickwell {
 namespace {
 
@@ -22,11 +24,6 @@ void AddMatch(StandingsRow& row, int goalsFor, int goalsAgainst) {
   ++row.Played;
   row.GoalsFor += goalsFor;
   row.GoalsAgainst += goalsAgainst;
-}
-
-/// Whether a fixture's entry names the team that has played: a toss suffix was left off for the match.
-bool Names(const std::string& entry, const std::string& team) {
-  return entry == team || WithoutToss(entry) == team;
 }
 
 /// A side's part of the result line, with its penalties after a shoot-out.
@@ -97,8 +94,12 @@ void FileRecording::FileChanges(const MatchSession& session) {
   const std::string fileName = MainFileName(kind, setup.ChampionshipName);
   std::optional<Championship> championship = ReadChampionship(folder_, kind, fileName);
   if (!championship) return;
+  // A team that has come through by toss has played without the suffix, where no team is really called so.
+  const auto names = [&](const std::string& entry, const std::string& team) {
+    return entry == team || (WithoutToss(entry) == team && !LoadTeam(folder_, entry));
+  };
   for (Fixture& fixture : championship->Fixtures) {
-    if (!Names(fixture.Home, setup.Team1Name) || !Names(fixture.Away, setup.Team2Name)) continue;
+    if (!names(fixture.Home, setup.Team1Name) || !names(fixture.Away, setup.Team2Name)) continue;
     fixture.Status = Played;
     fixture.Winner = session.ResultText;
   }

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "ui/widgets.h"
@@ -64,9 +65,8 @@ void LegEditorWindow::OnPick(QComboBox* combo, std::function<void(int)> action) 
 }
 
 void LegEditorWindow::OnPick(QListWidget* list, Chooser& chooser) {
-  connect(list, &QListWidget::currentRowChanged, this, [&chooser](int row) {
-    if (row >= 0) chooser.Picked = row;
-  });
+  connect(list, &QListWidget::itemSelectionChanged, this,
+          [list, &chooser] { chooser.Picked = SelectedRow(list); });
 }
 
 QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
@@ -228,7 +228,10 @@ void LegEditorWindow::Show() {
 }
 
 void LegEditorWindow::ShowSide(const SideWidgets& widgets, const EditorSide& side) {
-  if (widgets.Name->text() != ToQt(side.Name)) widgets.Name->setText(ToQt(side.Name));
+  const QString name = ToQt(side.Name);
+  widgets.Name->setMaxLength(
+      std::max(LongestName, static_cast<int>(name.size())));  // A loaded one is shown whole.
+  if (widgets.Name->text() != name) widgets.Name->setText(name);
   ShowList(widgets.Available, side.Available);
   ShowList(widgets.Selected, side.Selected);
   ShowList(widgets.Fixtures, side.FixtureList);

@@ -9,9 +9,6 @@
 #include "championship/leg_editor.h"
 #include "ui/screen_window.h"
 
-class QGridLayout;
-class QVBoxLayout;
-
 namespace kickwell {
 
 class LegEditorWindow final : public ScreenWindow {

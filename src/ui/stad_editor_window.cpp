@@ -42,9 +42,8 @@ StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
       text3_(MakeTextBox("Text3", LongestCapacity, editor.Text3)),
       combo1_(MakeCombo("Combo1")) {
   list1_->setAccessibleName(tr("Stadiums"));
-  connect(list1_, &QListWidget::currentRowChanged, this, [this](int row) {
-    if (row >= 0) Act([&] { editor_.List1_Click(row); });
-  });
+  connect(list1_, &QListWidget::itemSelectionChanged, this,
+          [this] { Act([this] { editor_.List1_Click(SelectedRow(list1_)); }); });
   connect(combo1_, &QComboBox::activated, this,
           [this](int entry) { Act([&] { editor_.Combo1_Click(entry); }); });
   auto* const instructions = new QGroupBox(tr("Instructions"));

@@ -38,9 +38,8 @@ TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
       text4_(MakeTextBox("Text4", LongestSkill, editor.Text4)),
       text5_(MakeTextBox("Text5", LongestSkill, editor.Text5)) {
   list1_->setAccessibleName(tr("Players"));
-  connect(list1_, &QListWidget::currentRowChanged, this, [this](int row) {
-    if (row >= 0) Act([&] { editor_.List1_Click(row); });
-  });
+  connect(list1_, &QListWidget::itemSelectionChanged, this,
+          [this] { Act([this] { editor_.List1_Click(SelectedRow(list1_)); }); });
   auto* const columns = new QHBoxLayout;
   columns->setSpacing(20);
   columns->addLayout(BuildSquad(), 1);

@@ -99,6 +99,11 @@ void ShowList(QListWidget* list, const Chooser& chooser) {
   list->setCurrentRow(chooser.Picked);
 }
 
+int SelectedRow(const QListWidget* list) {
+  const QList<QListWidgetItem*> selected = list->selectedItems();
+  return selected.isEmpty() ? Chooser::None : list->row(selected.constFirst());
+}
+
 void ShowLines(QListWidget* list, const Chooser& lines) {
   for (int i = list->count(); i < lines.Count(); ++i)
     list->addItem(ToQt(lines.Entries[static_cast<std::size_t>(i)]));

@@ -46,6 +46,9 @@ void ShowChooser(QComboBox* combo, const Chooser& chooser);
 /// Makes `list` show `chooser`, without the signals of a user's pick.
 void ShowList(QListWidget* list, const Chooser& chooser);
 
+/// The row that the user has selected, or Chooser::None.
+int SelectedRow(const QListWidget* list);
+
 /// Makes `list` show `lines`, which have only grown since the last call, and scrolls to the picked one.
 void ShowLines(QListWidget* list, const Chooser& lines);
 

@@ -31,7 +31,7 @@ class ChampionshipPlayTest : public testing::Test {
 };
 
 TEST_F(ChampionshipPlayTest, OffersTheFixturesAndPlaysARange) {
-  WriteBytes(folder_ / "Leagues/Top.leg", "Top\n2\nA\nB\n3\nNP\nA\nB\nP\nB\nA\nNP\nA\nB\n");
+  WriteBytes(folder_ / "Leagues/Top.leg", "Top\n2\nA\nB\n3\nNP\nA\nB\nx\nB\nA\nNP\nA\nB\n");
   WriteBytes(folder_ / "Leagues/One.leg", "One\n2\nA\nB\n1\nNP\nB\nA\n");
   ChampionshipPlay play = Open(ChampionshipKind::League);
   EXPECT_EQ(play.Championships.Entries, (Texts{"One.leg", "Top.leg"}));
@@ -73,6 +73,14 @@ TEST_F(ChampionshipPlayTest, ARangeGoesOnIntoTheNextRound) {
   EXPECT_EQ(handedOver_,
             (Texts{"1 A-C", "2 B-D", "1 A-C", "3 C-D"}));  // The toss is no part of the team's name.
   EXPECT_EQ(desktop_.Taken(), Texts{"i: Match 2 has been played already"});
+  EXPECT_EQ(setup_.Mode, MatchMode::KnockOut);
+  EXPECT_EQ(setup_.SimulationType, SimulationKind::InstantResult);
+  WriteBytes(folder_ / "Teams/C (By Toss)", "1\n");  // A team of that very name.
+  WhilePlayed = [] {};
+  play.From_Click(2);
+  play.To_Click(2);
+  play.Command1_Click();
+  EXPECT_EQ(handedOver_.back(), "3 C (By Toss)-D");
 }
 
 TEST_F(ChampionshipPlayTest, DamagedFilesAreListedAndLoadedAsFarAsTheyGo) {
@@ -84,6 +92,9 @@ TEST_F(ChampionshipPlayTest, DamagedFilesAreListedAndLoadedAsFarAsTheyGo) {
   WriteBytes(folder_ / "Leagues/b.leg", "Other\n2\nA\nB\n1\nNP\nA\nB\n");
   WriteBytes(folder_ / "Leagues/c.leg", "c\n0\n0\n");
   WriteBytes(folder_ / "Leagues/d.leg", "");
+  std::string binary(3000, '\0');
+  for (std::size_t i = 0; i < binary.size(); ++i) binary[i] = static_cast<char>(i * 197 % 256);
+  WriteBytes(folder_ / "Leagues/e.leg", binary);
   ChampionshipPlay play = Open(ChampionshipKind::League);
   EXPECT_EQ(play.FixtureList.Count(), 1);
   play.Championships_Click(1);
@@ -92,6 +103,9 @@ TEST_F(ChampionshipPlayTest, DamagedFilesAreListedAndLoadedAsFarAsTheyGo) {
   play.Championships_Click(2);
   play.Command1_Click();
   EXPECT_EQ(desktop_.Taken(), Texts{proper});
+  play.Championships_Click(4);
+  EXPECT_EQ(desktop_.Taken().size(), 1U);  // Holds another name than its own, if any.
+  EXPECT_EQ(ReadBytes(folder_ / "Leagues/e.leg"), binary);
   std::filesystem::remove(folder_ / "Leagues/a.leg");
   play.Championships_Click(0);
   EXPECT_EQ(play.Championships.Text(), "c.leg");

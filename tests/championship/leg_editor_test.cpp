@@ -224,5 +224,66 @@ TEST_F(LegEditorTest, EachSideSavesItsOwnFixtures) {
   EXPECT_EQ(editor.KnockOut.NumberOfTeams, 4);
 }
 
+TEST_F(LegEditorTest, ManualEntryEndsWithAutoFixturesAndGoesOnAfterALoad) {
+  WriteBytes(folder_ / "Leagues/Old.leg", "Old\n2\nT100\nT101\n1\nP\nT101\nT100\n");
+  LegEditor editor = Open();
+  EditorSide& side = editor.League;
+  const auto add = [&](int home, int away) {
+    side.Home.Picked = home;
+    side.Away.Picked = away;
+    editor.AddFixture_Click();
+  };
+  Select(side, 3);
+  add(0, 1);
+  add(0, 1);
+  editor.AutoFixtures_Click(side);
+  add(1, 2);  // Starts again.
+  EXPECT_EQ(side.FixtureList.Entries, Texts{"Match 1: T101 v T102"});
+  LegEditor fresh = Open();
+  fresh.Load_Click(fresh.League, 0);
+  EXPECT_EQ(fresh.League.Available.Picked, 0);
+  fresh.League.Home.Picked = 0;
+  fresh.League.Away.Picked = 1;
+  fresh.AddFixture_Click();
+  EXPECT_EQ(fresh.League.FixtureList.Entries, (Texts{"Match 1: T101 v T100", "Match 2: T100 v T101"}));
+  fresh.League.Name.clear();
+  fresh.Delete_Click(fresh.League);
+  EXPECT_EQ(Told(), Texts{"i: Please load a championship to delete"});
+}
+
+TEST_F(LegEditorTest, OnlyAKnockOutIsSavedAsOne) {
+  const std::pair<const char*, bool> files[] = {
+      {"1\nK\n2\nT100\nT101\nNP\nT100\nT101\nWinner 1\n", true},
+      {"1\nK\n2\nT100\nT101\nNP\nT100 (By Toss)\nT101\nWinner 1\n", true},
+      {"1\nK\n2\nT100\nT101\nNP\nT100\nT105\nWinner 1\n", false},          // A team that is not selected.
+      {"1\nK\n2\nT100\nT101\nNP\nWinner 7\nWinner 1\nWinner 1\n", false},  // Waits for itself.
+      {"1\nK\n2\nT100\nT100\nNP\nT100\nT100\nWinner 1\n", false},
+      {"2\nK\n3\nT100\nT101\nT102\nNP\nT100\nT101\nWinner 1\nNP\nWinner 1\nT102\nWinner 2\n", false},
+      {"", false},
+  };
+  for (const auto& [text, fine] : files) {
+    SCOPED_TRACE(text);
+    WriteBytes(folder_ / "Tournies/K.trn", text);
+    WriteBytes(folder_ / "Tournies/K.lrs", "x");
+    LegEditor editor = Open();
+    editor.Load_Click(editor.KnockOut, 0);
+    editor.KnockOut.Name = "K";
+    for (int more = 0; more < 4; ++more) editor.MoreTeams_Click();
+    EXPECT_EQ(editor.KnockOut.NumberOfTeams, 16);
+    editor.Load_Click(editor.KnockOut, 0);
+    editor.KnockOut.Name = "K";
+    editor.Save_Click(editor.KnockOut);
+    EXPECT_EQ(Told().back(), fine ? "?: Do you want to overwrite K?"
+                             : editor.KnockOut.Selected.Count() == 0
+                                 ? "i: Please select the championship teams properly"
+                                 : "i: Please add the championship fixtures properly");
+    EXPECT_EQ(std::filesystem::exists(folder_ / "Tournies/K.lrs"), !fine);
+  }
+  LegEditor editor = Open();
+  Select(editor.KnockOut, 1);
+  editor.AutoFixtures_Click(editor.KnockOut);
+  EXPECT_EQ(Told(), Texts{"i: Total teams selected doesn't match the number of teams"});
+}
+
 }  // namespace
 }  // namespace kickwell

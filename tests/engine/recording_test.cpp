@@ -66,7 +66,7 @@ TEST_F(RecordingTest, GoalsAddUpByPlayersName) {
 TEST_F(RecordingTest, LeagueMatchesUpdateStandingsResultsAndMarks) {
   WriteBytes(
       folder_ / "Leagues/Cup.leg",
-      "Cup\n3\nAlbion\nRovers\nUnited\n3\nNP\nUnited\nRovers\nNP\nRovers\nUnited\nNP\nAlbion\nUnited\n");
+      "Cup\n3\nAlbion\nRovers\nUnited\n3\nNP\nRovers\nAlbion\nNP\nRovers\nUnited\nNP\nAlbion\nUnited\n");
   const auto play = [this](int goals1, int goals2, const char* result) {
     const MatchSession s = Ended(MatchMode::League, goals1, goals2, result);
     recording_.StoreResult(s);
@@ -79,7 +79,7 @@ TEST_F(RecordingTest, LeagueMatchesUpdateStandingsResultsAndMarks) {
   EXPECT_EQ(
       ReadBytes(folder_ / "Leagues/Cup.leg"),
       AsWritten(
-          "Cup\n3\nAlbion\nRovers\nUnited\n3\nNP\nUnited\nRovers\nP\nRovers\nUnited\nNP\nAlbion\nUnited\n"));
+          "Cup\n3\nAlbion\nRovers\nUnited\n3\nNP\nRovers\nAlbion\nP\nRovers\nUnited\nNP\nAlbion\nUnited\n"));
   EXPECT_EQ(ReadBytes(folder_ / "Leagues/Cup.lrs"),
             AsWritten("Match 1:\nRovers 3 vs United 1\nVenue: The Mill, Leat\nTotal Attendence: 500 (50%)\n"
                       "Winner: Rovers\n"));
@@ -114,6 +114,23 @@ TEST_F(RecordingTest, AKnockOutWinnerMovesOnAndAShootOutIsTold) {
                 "Winner: United (By Toss)\n"));
   EXPECT_FALSE(std::filesystem::exists(folder_ / "Tournies/Cup.rec"));
   EXPECT_EQ(selected_, std::vector<std::string>{"Cup.trn"});
+}
+
+TEST_F(RecordingTest, AShootOutWinnerOnSideTwoGoesWhereHisNumberWaits) {
+  const std::string before = "2\nCup\n2\nX\nY\nNP\nRovers\nUnited\nWinner 1\nNP\nX\nWinner 4\nWinner 2\n";
+  WriteBytes(folder_ / "Tournies/Cup.trn", before);
+  MatchSession s = Ended(MatchMode::KnockOut, 1, 1, "United");
+  s.Setup.MatchNumber = 4;
+  s.DecidedByShootOut = true;
+  s.Side1Penalties = 4;
+  s.Side2Penalties = 5;
+  recording_.StoreLeagueResult(s);
+  EXPECT_EQ(ReadBytes(folder_ / "Tournies/Cup.trn"),
+            AsWritten("2\nCup\n2\nX\nY\nP\nRovers\nUnited\nUnited\nNP\nX\nUnited\nWinner 2\n"));
+  EXPECT_EQ(
+      ReadBytes(folder_ / "Tournies/Cup.lrs"),
+      AsWritten("Match 4:\nRovers 1(4) vs United 1(5)\nVenue: The Mill, Leat\nTotal Attendence: 500 (50%)\n"
+                "Winner: United\n"));
 }
 
 TEST_F(RecordingTest, AFileThatCannotBeSavedIsTold) {

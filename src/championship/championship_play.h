@@ -36,6 +36,9 @@ class ChampionshipPlay {
   void Command1_Click();
   void Command2_Click() { Closed = true; }
 
+  /// Whether the fixture at `place` of the list (from 0) has been played.
+  bool IsPlayed(int place) const { return fixtures_.at(static_cast<std::size_t>(place)).Status != NotPlayed; }
+
   Chooser Championships;  ///< Main files.
   Chooser FixtureList;
   Chooser From, To;  ///< Match numbers.

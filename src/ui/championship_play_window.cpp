@@ -70,6 +70,11 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
 void ChampionshipPlayWindow::Show() {
   ShowChooser(championships_, play_.Championships);
   ShowList(fixtures_, play_.FixtureList);
+  for (int i = 0; i < fixtures_->count(); ++i) {
+    const bool played = play_.IsPlayed(i);
+    fixtures_->item(i)->setForeground(palette().brush(played ? QPalette::PlaceholderText : QPalette::Text));
+    fixtures_->item(i)->setToolTip(played ? tr("Played") : QString());
+  }
   ShowChooser(from_, play_.From);
   ShowChooser(to_, play_.To);
   ShowChooser(simulationType_, play_.SimulationType);

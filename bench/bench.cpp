@@ -12,6 +12,9 @@
 
 #include "championship/championship_play.h"
 #include "championship/fixtures.h"
+#include "championship/leg_results.h"
+#include "championship/standings_table.h"
+#include "championship/top_scorers.h"
 #include "data/championship_store.h"
 #include "data/stadium_store.h"
 #include "data/team_store.h"
@@ -270,7 +273,7 @@ class FullLeague {
     for (int i = 0; i < Scorers; ++i) scorers.push_back({"Player " + std::to_string(i), "Team 1", 3});
     Lines log(5951, "Total Attendence: 40632 (83%)");
     const bool written = WriteChampionship(Folder, league).Ok() &&
-                         WriteStandings(Folder, "Full", ReadStandings(Folder, league)).Ok() &&
+                         WriteStandings(Folder, "Full", ReadStandings(Folder, "Full", league.Teams)).Ok() &&
                          WriteScorers(Folder, ChampionshipKind::League, "Full", scorers).Ok() &&
                          WriteLines(Folder.Leagues() / "Full.lrs", log, Folder.Root).Ok();
     if (!written) std::abort();
@@ -345,6 +348,25 @@ void OpenPlaySettings(benchmark::State& state) {
   }
 }
 BENCHMARK(OpenPlaySettings)->Unit(benchmark::kMillisecond);
+
+/// The loading of the statistics screens at the limits: 100 rows, 5,000 scorers, 15,001 log lines.
+void LoadStatistics(benchmark::State& state) {
+  const FullLeague league;
+  SilentDesktop desktop;
+  Championship large{ChampionshipKind::League, "Large", {}, {}};
+  for (int i = 0; i < MostTeamsOfLeague; ++i) large.Teams.push_back("Team " + std::to_string(i));
+  const bool written = WriteChampionship(league.Folder, large).Ok() &&
+                       WriteLines(league.Folder.Leagues() / "Large.lrs",
+                                  Lines(15001, "Total Attendence: 1 (50%)"), league.Folder.Root)
+                           .Ok();
+  if (!written) std::abort();
+  for ([[maybe_unused]] auto iteration : state) {
+    benchmark::DoNotOptimize(StandingsTable(league.Folder, "Large"));
+    benchmark::DoNotOptimize(TopScorers(league.Folder, ChampionshipKind::League, "Full"));
+    benchmark::DoNotOptimize(LegResults(league.Folder, desktop, ChampionshipKind::League, "Large"));
+  }
+}
+BENCHMARK(LoadStatistics)->Unit(benchmark::kMillisecond);
 
 void OpenMainMenu(benchmark::State& state) {
   SilentDesktop desktop;

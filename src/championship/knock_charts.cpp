@@ -18,7 +18,7 @@ const std::array<ChartSlot, SlotTotal>& ChartSlots() {
   return Slots;
 }
 
-std::vector<ChartMatch> ChartMatches(std::size_t teams) {
+std::vector<ChartMatch> ChartMatches(int teams) {
   switch (teams) {
     case 2:
       return {{0, 1, 2}};
@@ -36,12 +36,11 @@ std::vector<ChartMatch> ChartMatches(std::size_t teams) {
 }
 
 KnockCharts::KnockCharts(const ProgramFolder& folder, const std::string& championship) {
-  const std::optional<Championship> read = ReadChampionship(
-      folder, ChampionshipKind::KnockOut, MainFileName(ChampionshipKind::KnockOut, championship));
+  const std::optional<Bracket> read = ReadBracket(folder, championship);
   if (!read) return;
   Label1 = read->Name + " Table";
-  Matches = ChartMatches(read->Teams.size());
-  if (!Matches.empty()) VisibleSlots = static_cast<int>(2 * read->Teams.size() - 1);
+  Matches = ChartMatches(read->TeamCount);
+  if (!Matches.empty()) VisibleSlots = 2 * read->TeamCount - 1;
   for (std::size_t k = 0; k < std::min(Matches.size(), read->Fixtures.size()); ++k) {
     const Fixture& fixture = read->Fixtures[k];
     const auto [home, away, winner] = Matches[k];

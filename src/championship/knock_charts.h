@@ -23,7 +23,7 @@ using ChartMatch = std::array<int, 3>;
 const std::array<ChartSlot, SlotTotal>& ChartSlots();
 
 /// The matches of a bracket of 2, 4, 8 or 16 teams in the order of the fixtures; none for another number.
-std::vector<ChartMatch> ChartMatches(std::size_t teams);
+std::vector<ChartMatch> ChartMatches(int teams);
 
 class KnockCharts {
  public:

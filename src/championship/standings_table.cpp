@@ -15,7 +15,7 @@ Ranking StandingsTable(const ProgramFolder& folder, const std::string& league) {
       ReadChampionship(folder, ChampionshipKind::League, MainFileName(ChampionshipKind::League, league));
   if (!read) return table;
   table.Label1 = read->Name + " Standings";
-  std::vector<StandingsRow> standings = ReadStandings(folder, *read);
+  std::vector<StandingsRow> standings = ReadStandings(folder, league, read->Teams);
   // A stable sort by the three keys at once gives what sorting by each in turn among the rows still level
   // gives.
   const auto keys = [](const StandingsRow& row) {

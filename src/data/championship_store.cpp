@@ -61,6 +61,17 @@ std::vector<std::string> TakeTeams(Reader& reader) {
   return teams;
 }
 
+std::vector<Fixture> TakeFixtures(Reader& reader, std::size_t count, bool withWinner) {
+  std::vector<Fixture> fixtures(count);
+  for (Fixture& fixture : fixtures) {
+    fixture.Status = reader.Take();
+    fixture.Home = reader.Take();
+    fixture.Away = reader.Take();
+    if (withWinner) fixture.Winner = reader.Take();
+  }
+  return fixtures;
+}
+
 /// The first of these deletions that fails.
 FileResult DeleteFiles(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
                        std::initializer_list<const char*> extensions) {
@@ -129,14 +140,21 @@ std::optional<Championship> ReadChampionship(const ProgramFolder& folder, Champi
     read.Teams = TakeTeams(reader);
     fixtures = std::min(static_cast<std::size_t>(std::max(promised, 0)), reader.Left() / fixtureLines);
   }
-  read.Fixtures.resize(fixtures);
-  for (Fixture& fixture : read.Fixtures) {
-    fixture.Status = reader.Take();
-    fixture.Home = reader.Take();
-    fixture.Away = reader.Take();
-    if (!league) fixture.Winner = reader.Take();
-  }
+  read.Fixtures = TakeFixtures(reader, fixtures, !league);
   return read;
+}
+
+std::optional<Bracket> ReadBracket(const ProgramFolder& folder, const std::string& name) {
+  const std::string fileName = MainFileName(ChampionshipKind::KnockOut, name);
+  if (!ChampionshipExists(folder, ChampionshipKind::KnockOut, fileName)) return std::nullopt;
+  Reader reader(ReadFile(folder, ChampionshipKind::KnockOut, fileName));
+  reader.Take();  // The number of fixtures.
+  Bracket bracket;
+  bracket.Name = reader.Take();
+  bracket.TeamCount = ToNumber(reader.Take());
+  for (int i = 0; i < bracket.TeamCount && reader.Left() > 0; ++i) reader.Take();
+  bracket.Fixtures = TakeFixtures(reader, reader.Left() / 4, true);
+  return bracket;
 }
 
 FileResult WriteChampionship(const ProgramFolder& folder, const Championship& championship) {
@@ -165,21 +183,21 @@ FileResult DeleteChampionship(const ProgramFolder& folder, ChampionshipKind kind
   return deleted.Ok() ? DeleteCompanions(folder, kind, name) : deleted;
 }
 
-std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const Championship& league) {
-  Reader reader(ReadFile(folder, ChampionshipKind::League, league.Name + Standings));
-  std::vector<StandingsRow> standings;
-  standings.reserve(league.Teams.size());
-  for (const std::string& team : league.Teams) {
-    StandingsRow& row = standings.emplace_back();
-    if (reader.Left() < StandingsLines) {
-      row.Team = team;
-      continue;
-    }
+std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const std::string& league,
+                                        const std::vector<std::string>& teams) {
+  Reader reader(ReadFile(folder, ChampionshipKind::League, league + Standings));
+  std::vector<StandingsRow> standings(std::min(teams.size(), reader.Left() / StandingsLines));
+  for (StandingsRow& row : standings) {
     row.Team = reader.Take();
     for (int* figure :
          {&row.Played, &row.Won, &row.Drawn, &row.Lost, &row.GoalsFor, &row.GoalsAgainst, &row.Points}) {
       *figure = ToNumber(reader.Take());
     }
+  }
+  for (const std::string& team : teams) {
+    const auto isTeam = [&team](const StandingsRow& row) { return row.Team == team; };
+    if (standings.size() == teams.size()) break;
+    if (std::none_of(standings.begin(), standings.end(), isTeam)) standings.push_back({team});
   }
   return standings;
 }
@@ -198,8 +216,8 @@ FileResult WriteStandings(const ProgramFolder& folder, const std::string& league
 }
 
 FileResult AppendStandings(const ProgramFolder& folder, const std::string& league, const std::string& team) {
+  if (!ChampionshipExists(folder, ChampionshipKind::League, league + Standings)) return {};
   Lines lines = ReadFile(folder, ChampionshipKind::League, league + Standings);
-  if (lines.empty()) return {};
   lines.resize(lines.size() / StandingsLines * StandingsLines);
   lines.push_back(team);
   lines.resize(lines.size() + StandingsLines - 1, "0");

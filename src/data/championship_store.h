@@ -85,6 +85,15 @@ bool ChampionshipExists(const ProgramFolder& folder, ChampionshipKind kind, cons
 std::optional<Championship> ReadChampionship(const ProgramFolder& folder, ChampionshipKind kind,
                                              const std::string& fileName);
 
+/// A knock-out as its chart takes it: by the team count of line 3, whatever team lines there are, and with
+/// all the fixtures that follow them.
+struct Bracket {
+  std::string Name;
+  int TeamCount = 0;
+  std::vector<Fixture> Fixtures;
+};
+std::optional<Bracket> ReadBracket(const ProgramFolder& folder, const std::string& name);
+
 /// Writes the main file anew, its counts from what there is.
 FileResult WriteChampionship(const ProgramFolder& folder, const Championship& championship);
 
@@ -92,8 +101,10 @@ FileResult WriteChampionship(const ProgramFolder& folder, const Championship& ch
 FileResult DeleteCompanions(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name);
 FileResult DeleteChampionship(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name);
 
-/// A row for each of the league's teams, in the order of its list; all figures 0 where the file has none.
-std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const Championship& league);
+/// A row for each of the teams: the complete rows of the file, then zeros for those that it has not. All
+/// zeros, in the order of `teams`, without a file.
+std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const std::string& league,
+                                        const std::vector<std::string>& teams);
 FileResult WriteStandings(const ProgramFolder& folder, const std::string& league,
                           const std::vector<StandingsRow>& standings);
 

@@ -55,7 +55,7 @@ void FileRecording::StoreResult(const MatchSession& session) {
   const std::optional<Championship> league =
       ReadChampionship(folder_, ChampionshipKind::League, MainFileName(ChampionshipKind::League, name));
   if (!league) return;
-  std::vector<StandingsRow> standings = ReadStandings(folder_, *league);
+  std::vector<StandingsRow> standings = ReadStandings(folder_, name, league->Teams);
   const bool level = session.Side1FinalGoals == session.Side2FinalGoals;
   for (StandingsRow& row : standings) {
     const bool winner = row.Team == session.WinnerName;

@@ -4,6 +4,7 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QString>
 #include <string>
 
@@ -15,11 +16,15 @@ struct Section {
 
   void Add(const QString& caption, QWidget* control);  ///< The caption names the control to screen readers.
 
+  /// Adds the section's button; Enter in a text box of the section presses it.
+  void AddButton(QPushButton* button);
+
   QGroupBox* Box;
   QFormLayout* Form;
 };
 
-/// A text box that takes at most `length` characters and keeps `text` in step.
+/// A text box that keeps `text` in step with what is typed: at most `length` characters as a reader counts
+/// them, line breaks and other control characters of pasted text as blanks.
 QLineEdit* MakeTextBox(const QString& objectName, int length, std::string& text);
 
 /// Shows `text` without moving the cursor where it is shown already.

@@ -12,10 +12,11 @@ namespace {
 
 constexpr qreal ChartWidth = 8775, ChartTop = 360,
                 ChartHeight = 5175;  ///< What of the screen units is shown.
+constexpr qreal SmallestType = 6;    ///< In points.
 
 }  // namespace
 
-Bracket::Bracket(const KnockCharts& charts) : charts_(charts) {
+BracketView::BracketView(const KnockCharts& charts) : charts_(charts) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   for (int slot = 0; slot < SlotTotal; ++slot) {
     QLabel* const label = MakeText(ArrayName("team", slot), ToQt(charts.Text(slot)), Qt::AlignHCenter);
@@ -32,20 +33,29 @@ Bracket::Bracket(const KnockCharts& charts) : charts_(charts) {
   }
 }
 
-QRectF Bracket::BoxOf(int slot) const {
+QRectF BracketView::BoxOf(int slot) const {
   const ChartSlot& place = ChartSlots()[static_cast<std::size_t>(slot)];
   const qreal x = width() / ChartWidth;
   const qreal y = height() / ChartHeight;
   return {place.Left * x, (place.Top - ChartTop) * y, SlotWidth * x, SlotHeight * y};
 }
 
-void Bracket::resizeEvent(QResizeEvent* /*event*/) {
+void BracketView::resizeEvent(QResizeEvent* /*event*/) {
   for (int slot = 0; slot < SlotTotal; ++slot) {
-    team_[static_cast<std::size_t>(slot)]->setGeometry(BoxOf(slot).toRect().adjusted(3, 1, -3, -1));
+    QLabel* const label = team_[static_cast<std::size_t>(slot)];
+    label->setGeometry(BoxOf(slot).toRect().adjusted(3, 1, -3, -1));
+    // A long name is made to fit: its end, the toss, must be seen.
+    QFont fitting = label->font();
+    fitting.setPointSizeF(font().pointSizeF());
+    while (fitting.pointSizeF() > SmallestType &&
+           QFontMetrics(fitting).horizontalAdvance(label->text()) > label->width()) {
+      fitting.setPointSizeF(fitting.pointSizeF() - 0.5);
+    }
+    label->setFont(fitting);
   }
 }
 
-void Bracket::paintEvent(QPaintEvent* /*event*/) {
+void BracketView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(palette().color(QPalette::Mid), 1.5));
@@ -74,7 +84,7 @@ KnockChartsWindow::KnockChartsWindow(KnockCharts& charts, QWidget* parent)
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addWidget(label1);
-  layout->addWidget(new Bracket(charts), 1);
+  layout->addWidget(new BracketView(charts), 1);
   layout->addWidget(command3, 0, Qt::AlignRight);
   resize(980, 640);
 }

@@ -9,9 +9,9 @@
 namespace kickwell {
 
 /// The bracket: a box for each slot and lines from each pair to its winner's slot.
-class Bracket final : public QWidget {
+class BracketView final : public QWidget {
  public:
-  explicit Bracket(const KnockCharts& charts);
+  explicit BracketView(const KnockCharts& charts);
 
   QSize minimumSizeHint() const override { return {640, 400}; }
 

@@ -5,9 +5,9 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <utility>
 
+#include "ui/editor_parts.h"
 #include "ui/widgets.h"
 
 namespace kickwell {
@@ -73,12 +73,8 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   const QString prefix = IsLeague(side) ? "League" : "KnockOut";
   widgets.Page = new QWidget;
   widgets.Page->setObjectName(prefix);
-  widgets.Name = new QLineEdit;
-  widgets.Name->setObjectName(prefix + "Name");
-  widgets.Name->setMaxLength(LongestName);
+  widgets.Name = MakeTextBox(prefix + "Name", LongestName, side.Name);
   widgets.Name->setMinimumWidth(widgets.Name->fontMetrics().horizontalAdvance(QString(LongestName, 'M')));
-  connect(widgets.Name, &QLineEdit::textEdited, this,
-          [&side](const QString& text) { side.Name = text.toStdString(); });
 
   QLabel* const heading = MakeCaption(IsLeague(side) ? tr("League Details") : tr("Tournie Details"));
   QFont large = heading->font();
@@ -228,10 +224,7 @@ void LegEditorWindow::Show() {
 }
 
 void LegEditorWindow::ShowSide(const SideWidgets& widgets, const EditorSide& side) {
-  const QString name = ToQt(side.Name);
-  widgets.Name->setMaxLength(
-      std::max(LongestName, static_cast<int>(name.size())));  // A loaded one is shown whole.
-  if (widgets.Name->text() != name) widgets.Name->setText(name);
+  ShowText(widgets.Name, side.Name);
   ShowList(widgets.Available, side.Available);
   ShowList(widgets.Selected, side.Selected);
   ShowList(widgets.Fixtures, side.FixtureList);

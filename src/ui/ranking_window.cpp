@@ -15,14 +15,14 @@
 namespace kickwell {
 
 RankingWindow::RankingWindow(Ranking& ranking, const char* name, const QString& caption,
-                             std::vector<RankingColumn> columns, QWidget* parent)
+                             const char* closeName, std::vector<RankingColumn> columns, QWidget* parent)
     : ScreenWindow(name, caption, parent),
       ranking_(ranking),
       columns_(std::move(columns)),
       label1_(MakeHeading("Label1")),
       nextpage_(MakeButton("nextpage", tr("&Next >>"))),
       prevpage_(MakeButton("prevpage", tr("<< &Back"))) {
-  QPushButton* const close = MakeButton("Close", tr("Close"));
+  QPushButton* const close = MakeButton(closeName, tr("Close"));
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(prevpage_);
   buttons->addWidget(nextpage_);
@@ -43,6 +43,7 @@ RankingWindow::RankingWindow(Ranking& ranking, const char* name, const QString& 
   onClick(prevpage_, &Ranking::prevpage_Click);
   onClick(close, &Ranking::Close_Click);
   close->setDefault(true);
+  nextpage_->setFocus();
   for (const auto& [key, step] : {std::pair(Qt::Key_Up, -1), std::pair(Qt::Key_Down, 1)}) {
     auto* const arrow = new QShortcut(key, this);
     connect(arrow, &QShortcut::activated, this,
@@ -96,7 +97,7 @@ bool RankingWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == bar_->parentWidget() && event->type() == QEvent::Resize) {
     QTimer::singleShot(0, this, [this] { PlaceBar(); });  // When the rows have found their places.
   } else if (event->type() == QEvent::MouseMove) {
-    const auto marker = std::find(markers_.begin(), markers_.end(), watched);
+    auto* const* const marker = std::find(markers_.begin(), markers_.end(), watched);
     if (marker != markers_.end()) {
       MoveBar(static_cast<int>(marker - markers_.begin()) + 1);
     }
@@ -129,18 +130,26 @@ void RankingWindow::PlaceBar() {
 void RankingWindow::Show() {
   label1_->setText(ToQt(ranking_.Label1));
   const Paging& pages = ranking_.Pages;
+  const auto offset = static_cast<std::size_t>(pages.Offset());
   for (int r = 0; r < Paging::Rows; ++r) {
     const auto at = static_cast<std::size_t>(r);
     const bool filled = r < pages.RowCount();
     QStringList whole;
     for (std::size_t c = 0; c < labels_.size(); ++c) {
-      const QString text =
-          filled ? ToQt(ranking_.Rows[static_cast<std::size_t>(pages.Offset() + r)][c]) : QString();
+      const QString text = filled ? ToQt(ranking_.Rows[offset + at][c]) : QString();
       labels_[c][at]->setText(text);
       if (!columns_[c].Figure) whole.append(text);
     }
     markers_[at]->setVisible(filled);
     markers_[at]->setToolTip(PlainTip(whole.join(", ")));
+  }
+  // The page button that goes dark hands its focus to the other one, never to "Close".
+  if (focusWidget() == nextpage_ && !pages.NextEnabled()) {
+    prevpage_->setEnabled(pages.BackEnabled());
+    prevpage_->setFocus();
+  } else if (focusWidget() == prevpage_ && !pages.BackEnabled()) {
+    nextpage_->setEnabled(pages.NextEnabled());
+    nextpage_->setFocus();
   }
   nextpage_->setEnabled(pages.NextEnabled());
   prevpage_->setEnabled(pages.BackEnabled());
@@ -149,7 +158,7 @@ void RankingWindow::Show() {
 
 RankingWindow* MakeTableWindow(Ranking& table, QWidget* parent) {
   const auto tr = [](const char* text) { return RankingWindow::tr(text); };
-  auto* const window = new RankingWindow(table, "Table", tr("Kickwell League Table"),
+  auto* const window = new RankingWindow(table, "Table", tr("Kickwell League Table"), "Command1",
                                          {{"Pos", tr("Rank"), true},
                                           {"Team", tr("Team"), false},
                                           {"Played", tr("Played"), true},
@@ -166,7 +175,7 @@ RankingWindow* MakeTableWindow(Ranking& table, QWidget* parent) {
 
 RankingWindow* MakeTopScorersWindow(Ranking& scorers, QWidget* parent) {
   const auto tr = [](const char* text) { return RankingWindow::tr(text); };
-  auto* const window = new RankingWindow(scorers, "TopScorers", tr("Kickwell Top Goal Scorers"),
+  auto* const window = new RankingWindow(scorers, "TopScorers", tr("Kickwell Top Goal Scorers"), "Command3",
                                          {{"Rank", tr("Rank"), true},
                                           {"Player", tr("Player"), false},
                                           {"Team", tr("Team"), false},

@@ -22,7 +22,8 @@ struct RankingColumn {
 /// scorers.
 class RankingWindow final : public ScreenWindow {
  public:
-  RankingWindow(Ranking& ranking, const char* name, const QString& caption,
+  /// `closeName` is the name of the button that closes the screen.
+  RankingWindow(Ranking& ranking, const char* name, const QString& caption, const char* closeName,
                 std::vector<RankingColumn> columns, QWidget* parent);
 
  protected:

@@ -16,6 +16,8 @@ class ScreenWindow : public QDialog {
   void reject() override;
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;  ///< Enter presses the button that has the focus.
+
   /// Runs one action of the user and shows what has become of it.
   void Act(const std::function<void()>& action);
 

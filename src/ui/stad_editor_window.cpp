@@ -96,7 +96,7 @@ QWidget* StadEditorWindow::BuildAddition() {
   add.Add(tr("City/Country:"), text2_);
   add.Add(tr("Capacity:"), text3_);
   add.Add(tr("Home To:"), combo1_);
-  add.Form->addRow(Button("Command2", tr("&Add Stadium"), &StadEditor::Command2_Click));
+  add.AddButton(Button("Command2", tr("&Add Stadium"), &StadEditor::Command2_Click));
   return add.Box;
 }
 

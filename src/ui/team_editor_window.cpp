@@ -113,11 +113,11 @@ QLayout* TeamEditorWindow::BuildChanges() {
   players.Add(tr("Skill (1 - 99):"), text4_);
   players.Add(tr("Field Position:"), combo1_);
   players.Add(tr("Side:"), combo2_);
-  players.Form->addRow(Button("Command8", tr("&Add Player"), &TeamEditor::Command8_Click));
+  players.AddButton(Button("Command8", tr("&Add Player"), &TeamEditor::Command8_Click));
   Section teams(tr("Add Team"));
   teams.Add(tr("Team Name:"), text1_);
   teams.Add(tr("Skill (1 - 99):"), text5_);
-  teams.Form->addRow(Button("Command7", tr("Add &Team"), &TeamEditor::Command7_Click));
+  teams.AddButton(Button("Command7", tr("Add &Team"), &TeamEditor::Command7_Click));
   auto* const layout = new QVBoxLayout;
   layout->setSpacing(10);
   layout->addWidget(players.Box);

@@ -43,7 +43,7 @@ TEST(StandingsTable, SortsByPointsDifferenceAndGoalsAndKeepsTies) {
 
   EXPECT_EQ(StandingsTable(folder.Folder, "Gone").Label1, "Kickwell Current League Standings");
   EXPECT_TRUE(StandingsTable(folder.Folder, "N/A").Rows.empty());
-  league.Teams.resize(120, "X");
+  for (int i = 0; i < 113; ++i) league.Teams.push_back("X" + std::to_string(i));
   ASSERT_TRUE(WriteChampionship(folder.Folder, league).Ok());
   EXPECT_EQ(StandingsTable(folder.Folder, "Top").Rows.size(), 100U);
 }
@@ -123,8 +123,7 @@ TEST(KnockCharts, FollowsTheBracketOfEverySize) {
     Championship cup{ChampionshipKind::KnockOut, "Cup", {}, {}};
     for (int i = 0; i < teams; ++i) cup.Teams.push_back("T" + std::to_string(i));
     Texts waiting = cup.Teams;
-    for (int k = 0; k < teams - 1; ++k) {
-      const auto at = static_cast<std::size_t>(2 * k);
+    for (std::size_t at = 0; at + 2 <= static_cast<std::size_t>(teams - 1) * 2; at += 2) {
       cup.Fixtures.push_back({Played, waiting[at], waiting[at + 1], waiting[at]});
       waiting.push_back(waiting[at]);
     }
@@ -153,6 +152,11 @@ TEST(KnockCharts, ShowsWhatADamagedFileHolds) {
   EXPECT_EQ(KnockCharts(folder.Folder, "Cup").Label1, "Knock Out Table");
   WriteBytes(folder / "Tournies/Cup.trn", "3\nCup\n3\nA\nB\nC\nNP\nA\nB\nWinner 1\n");
   EXPECT_EQ(KnockCharts(folder.Folder, "Cup").VisibleSlots, 0);
+  WriteBytes(
+      folder / "Tournies/Cup.trn",
+      "0\nCup\n4\nA\nB\nC\nD\nNP\nA\nC\nWinner 1\nNP\nB\nD\nWinner 2\nNP\nWinner 1\nWinner 2\nWinner 3\n");
+  const KnockCharts fresh(folder.Folder, "Cup");  // The count of fixtures is not asked.
+  EXPECT_EQ(fresh.Text(0) + fresh.Text(2) + fresh.Text(5) + fresh.Text(6), "AWinner 1Winner 2Winner 3");
   WriteBytes(folder / "Tournies/Cup.trn", "9\nCup\n2\nA\nB\nNP\nA\nB\nB (By Toss)\nNP\nC\nD\nWinner 2\n");
   const KnockCharts more(folder.Folder, "Cup");
   EXPECT_EQ(more.VisibleSlots, 3);

@@ -58,14 +58,14 @@ TEST(ChampionshipStore, TakesWhatADamagedMainFileHolds) {
 TEST(ChampionshipStore, KeepsStandingsScorersAndResults) {
   const TestFolder folder;
   const Championship league{League, "Top", {"A", "B"}, {}};
-  EXPECT_EQ(ReadStandings(folder.Folder, league), (std::vector<StandingsRow>{{"A"}, {"B"}}));
+  EXPECT_EQ(ReadStandings(folder.Folder, "Top", league.Teams), (std::vector<StandingsRow>{{"A"}, {"B"}}));
   const std::vector<StandingsRow> standings = {{"A", 3, 1, 1, 1, 5, 4, 4}, {"B", 3, 0, 2, 1, 1, 9, 2}};
   ASSERT_TRUE(WriteStandings(folder.Folder, "Top", standings).Ok());
   EXPECT_EQ(ReadBytes(folder / "Leagues/Top.rec"),
             AsWritten("A\n3\n1\n1\n1\n5\n4\n4\nB\n3\n0\n2\n1\n1\n9\n2\n"));
-  EXPECT_EQ(ReadStandings(folder.Folder, league), standings);
+  EXPECT_EQ(ReadStandings(folder.Folder, "Top", league.Teams), standings);
   WriteBytes(folder / "Leagues/Top.rec", "A\nx\n1\n0\n0\n2\n1\n3\nB\n1");  // No number; a row cut short.
-  EXPECT_EQ(ReadStandings(folder.Folder, league),
+  EXPECT_EQ(ReadStandings(folder.Folder, "Top", league.Teams),
             (std::vector<StandingsRow>{{"A", 0, 1, 0, 0, 2, 1, 3}, {"B"}}));
 
   EXPECT_TRUE(ReadScorers(folder.Folder, League, "Top").empty());

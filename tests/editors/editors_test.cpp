@@ -77,7 +77,7 @@ TEST_F(EditorsTest, ATeamIsAddedToTheListAndToTheStandings) {
   EXPECT_EQ(editor.List1.Picked, Chooser::None);
   TeamEditor none = OpenTeams();
   AddTeam(none, "Other", "1");
-  EXPECT_FALSE(std::filesystem::exists(folder_ / "Leagues/Other.rec"));
+  EXPECT_EQ(ReadLines(folder_ / "Leagues/Top.rec")->size(), 24U);
 }
 
 TEST_F(EditorsTest, PlayersAreTestedAddedMovedAndDeleted) {

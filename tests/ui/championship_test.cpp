@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QtTest/QTest>
 #include <map>
+#include <set>
 
 #include "data/championship_store.h"
 #include "support/fakes.h"
@@ -97,18 +98,28 @@ class ChampionshipTest : public testing::Test {
         last = goals;
       }
       EXPECT_EQ(window.findChild<QWidget*>("nextpage")->isEnabled(), goals_.size() > 15);
-      User::Click(window, "Close");
+      User::Click(window, "Command3");
     });
     open(Qt::Key_M);
     user_.In("LegResults", [this](QWidget& window) {
-      EXPECT_EQ(window.findChild<QListWidget*>("List1")->count(), static_cast<int>(shown_.size()) * 6 - 1);
+      const auto* const list = window.findChild<QListWidget*>("List1");
+      ASSERT_EQ(list->count(), static_cast<int>(shown_.size()) * 6 - 1);
+      for (std::size_t i = 0; i < shown_.size(); ++i) {
+        EXPECT_EQ(list->item(static_cast<int>(i) * 6 + 1)->text().toStdString(), shown_[i]);
+      }
       User::Click(window, "Command1");
     });
     if (kind == League) {
       open(Qt::Key_L);
       user_.In("Table", [this](QWidget& window) {
         std::map<std::string, StandingsRow> rows = StandingsOfLog();
+        std::set<QString> seen;
+        int points = 1000;
         for (int r = 1; r <= static_cast<int>(rows.size()); ++r) {
+          ASSERT_TRUE(rows.contains(User::TextOf(window, ArrayName("Team", r)).toStdString()));
+          EXPECT_TRUE(seen.insert(User::TextOf(window, ArrayName("Team", r))).second);
+          EXPECT_LE(User::TextOf(window, ArrayName("Points", r)).toInt(), points);
+          points = User::TextOf(window, ArrayName("Points", r)).toInt();
           const StandingsRow& row = rows[User::TextOf(window, ArrayName("Team", r)).toStdString()];
           QStringList shown;
           for (const char* column : {"Played", "Won", "Tied", "Lost", "GF", "GA", "Points"}) {
@@ -120,13 +131,18 @@ class ChampionshipTest : public testing::Test {
                         std::to_string(row.GoalsFor) + " " + std::to_string(row.GoalsAgainst) + " " +
                         std::to_string(row.Points));
         }
-        User::Click(window, "Close");
+        User::Click(window, "Command1");
       });
     } else {
       open(Qt::Key_K);
       user_.In("KnockCharts", [this](QWidget& window) {
-        EXPECT_EQ("Winner: " + User::TextOf(window, "team(14)").toStdString(),
-                  ReadResults(folder_.Folder, KnockOut, "Test").back());
+        const Lines log = ReadResults(folder_.Folder, KnockOut, "Test");
+        const int winners[] = {2, 5,  9, 12,
+                               6, 13, 14};  // Of matches 1 to 7, which were played in this order.
+        for (std::size_t k = 0; k < std::size(winners); ++k) {
+          EXPECT_EQ("Winner: " + User::TextOf(window, ArrayName("team", winners[k])).toStdString(),
+                    log[6 * k + 4]);
+        }
         User::Click(window, "Command3");
       });
     }
@@ -181,7 +197,7 @@ class ChampionshipTest : public testing::Test {
   void ExpectStandings() const {
     const Championship league = ReadChampionship(folder_.Folder, League, "Test.leg").value();
     std::map<std::string, StandingsRow> rows = StandingsOfLog();
-    for (const StandingsRow& row : ReadStandings(folder_.Folder, league))
+    for (const StandingsRow& row : ReadStandings(folder_.Folder, "Test", league.Teams))
       EXPECT_EQ(row, rows[row.Team]) << row.Team;
   }
 

@@ -65,9 +65,41 @@ TEST(Editors, AClubIsBuiltFromNothingAndPlaysInItsStadium) {
   });
   user.In("Main", [](QWidget& window) {
     EXPECT_EQ(User::TextOf(window, "ven"), "Newcomers Field, Newtown");
+    User::Click(window, "instant");
     User::Click(window, "Command1");
   });
   user.In("LegSettings", [](QWidget& window) { User::Click(window, "Command2"); });
+  user.In("Opening", [](QWidget& window) { User::Choose(window, Qt::Key_E, Qt::Key_T); });
+  user.In("TeamEditor", [](QWidget& window) {
+    Type(window, "Text1", "Third");
+    Type(window, "Text5", "50");
+    QTest::keyClick(window.findChild<QLineEdit*>("Text5"), Qt::Key_Return);  // Enter adds, too.
+    User::Click(window, "Command4");
+  });
+  user.In("Opening", [&folder](QWidget& window) {
+    EXPECT_EQ(ReadLines(folder / "Leagues/Test.rec")->size(), 24U);  // The league of the menu takes it in,
+    User::Choose(window, Qt::Key_S, Qt::Key_L);
+  });
+  user.In("Table", [](QWidget& window) {
+    EXPECT_EQ(User::TextOf(window, "Team(3)"), "");  // and its table shows its own teams.
+    User::Click(window, "Command1");
+  });
+  user.In("Opening", [](QWidget& window) { User::Choose(window, Qt::Key_P, Qt::Key_S); });
+  user.In("Settings", [](QWidget& window) {
+    EXPECT_EQ(window.findChild<QComboBox*>("Combo1")->count(), 3);
+    User::Pick(window, "Combo1", 1);
+    User::Pick(window, "Combo2", 0);
+    User::Click(window, "Command1");
+  });
+  user.In("Selection", [&user](QWidget& window) {
+    user.Wait(40);
+    User::Click(window, "Command1");
+  });
+  user.In("Main", [](QWidget& window) {
+    User::Click(window, "instant");
+    EXPECT_NE(User::TextOf(window, "PosMet(0)"), "0%");
+    User::Click(window, "Command1");
+  });
   user.In("Opening", [](QWidget& window) { User::Choose(window, Qt::Key_P, Qt::Key_X); });
   app.Start();
   EXPECT_TRUE(user.Finish());

@@ -18,6 +18,7 @@
 #include "ui/leg_editor_window.h"
 #include "ui/match_window.h"
 #include "ui/opening_window.h"
+#include "ui/ranking_window.h"
 #include "ui/selection_window.h"
 #include "ui/settings_window.h"
 #include "ui/widgets.h"
@@ -208,6 +209,34 @@ TEST_F(WindowsTest, ChampionshipScreensNameTheirControls) {
   ChampionshipPlay play(ChampionshipKind::League, folder_.Folder, desktop_, [](const std::string&) {}, {});
   ChampionshipPlayWindow playWindow(play, ChampionshipKind::League, nullptr);
   ExpectNames(playWindow);
+}
+
+TEST_F(WindowsTest, ARankingIsTurnedByKeyboardAndItsBarFollows) {
+  Ranking table;
+  for (int i = 1; i <= 16; ++i) table.Rows.push_back({std::to_string(i), "Team", "", "", "", "", "", "", ""});
+  table.Pages.Open(16);
+  const std::unique_ptr<RankingWindow> window(MakeTableWindow(table, nullptr));
+  window->show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  ExpectNames(*window);
+  const auto* const bar = window->findChild<QWidget*>("Bar");
+  const auto row = [&window](int r) { return window->findChild<QWidget*>(ArrayName("Marker", r)); };
+  QTest::qWait(20);
+  EXPECT_EQ(bar->y(), row(1)->y());
+  QTest::keyClick(window.get(), Qt::Key_Down);
+  EXPECT_EQ(bar->y(), row(2)->y());
+  QTest::mouseMove(row(9));
+  QTest::qWait(20);
+  EXPECT_EQ(table.Pages.Highlight, 9);
+  User::Press(*window, Qt::Key_Return);  // "Next" has the focus.
+  ASSERT_TRUE(window->isVisible());
+  EXPECT_EQ(User::TextOf(*window, "Pos(1)"), "16");
+  EXPECT_EQ(User::TextOf(*window, "Pos(2)"), "");
+  EXPECT_TRUE(row(1)->isVisible() && !row(2)->isVisible());
+  EXPECT_EQ(bar->y(), row(1)->y());
+  User::Press(*window, Qt::Key_Space);  // The focus is on "Back" now, not on "Close".
+  EXPECT_EQ(User::TextOf(*window, "Pos(1)"), "1");
+  EXPECT_TRUE(window->isVisible());
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <string>
 
+#include "data/championship_store.h"
 #include "data/stadium_store.h"
 #include "data/team_store.h"
 #include "data/text_file.h"
@@ -27,8 +28,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const bool removedAtExit =
       std::atexit([] { std::filesystem::remove_all(std::filesystem::path(folder.Root)); }) == 0;
   Expect(removedAtExit);
-  std::filesystem::create_directories(folder.Teams());
-  for (const auto& file : {folder.Teams() / "Fuzz", folder.Stadiums()}) {
+  constexpr auto League = ChampionshipKind::League;
+  constexpr auto KnockOut = ChampionshipKind::KnockOut;
+  for (const auto& made : {folder.Teams(), folder.Leagues(), folder.Tournies()}) {
+    std::filesystem::create_directories(made);
+  }
+  for (const auto& file :
+       {folder.Teams() / "Fuzz", folder.Stadiums(), folder.Leagues() / "Fuzz.leg",
+        folder.Leagues() / "Fuzz.rec", folder.Leagues() / "Fuzz.sco", folder.Tournies() / "Fuzz.trn"}) {
     std::ofstream(file, std::ios::binary)
         .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
   }
@@ -38,5 +45,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const auto stadiums = LoadStadiums(folder);
   Expect(SaveStadiums(folder, stadiums).Ok());
   Expect(LoadStadiums(folder).size() == stadiums.size());
+  for (const auto kind : {League, KnockOut}) {
+    auto read = ReadChampionship(folder, kind, MainFileName(kind, "Fuzz"));
+    Expect(read.has_value());
+    read->Name = "Fuzz";
+    Expect(WriteChampionship(folder, *read).Ok());
+    const auto again = ReadChampionship(folder, kind, MainFileName(kind, "Fuzz"));
+    Expect(again->Teams.size() == read->Teams.size() && again->Fixtures.size() == read->Fixtures.size());
+    Expect(kind == KnockOut || ReadStandings(folder, "Fuzz", read->Teams).size() <= read->Teams.size());
+  }
+  Expect(ReadBracket(folder, "Fuzz").has_value());
+  ReadScorers(folder, League, "Fuzz");
   return 0;
 }

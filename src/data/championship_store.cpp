@@ -251,10 +251,9 @@ Lines ReadResults(const ProgramFolder& folder, ChampionshipKind kind, const std:
 
 FileResult AppendResult(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
                         const std::array<std::string, 5>& block) {
-  Lines lines = ReadResults(folder, kind, name);
-  if (!lines.empty()) lines.emplace_back();
-  lines.insert(lines.end(), block.begin(), block.end());
-  return WriteFile(folder, kind, name + Results, lines);
+  const std::string fileName = name + Results;
+  if (!StaysInFolder(fileName)) return {FileNameRefusal(fileName)};
+  return AppendBlock(FolderOf(folder, kind) / fileName, {block.begin(), block.end()}, folder.Root);
 }
 
 }  // namespace kickwell

@@ -15,6 +15,7 @@ namespace kickwell {
 namespace {
 
 constexpr char32_t Replacement = 0xFFFD;
+constexpr std::string_view Mark = "\xFF\xFE";  ///< Of UTF-16 little-endian.
 
 bool IsHighSurrogate(char32_t c) {
   return c >= 0xD800 && c <= 0xDBFF;
@@ -127,7 +128,7 @@ std::string DecodeUtf8(std::string_view bytes) {
 
 std::string Decode(std::string_view bytes) {
   Encoding encoding = Encoding::Utf8;
-  if (bytes.starts_with("\xFF\xFE")) {
+  if (bytes.starts_with(Mark)) {
     encoding = Encoding::Utf16Little;
     bytes.remove_prefix(2);
   } else if (bytes.starts_with("\xFE\xFF")) {
@@ -253,9 +254,7 @@ FileResult Result(const std::filesystem::path& file, const char* what, Error err
   return {"The file " + file.string() + what + std::generic_category().message(error) + "."};
 }
 
-}  // namespace
-
-std::optional<Lines> ReadLines(const std::filesystem::path& file) {
+std::optional<std::string> ReadBytes(const std::filesystem::path& file) {
   std::error_code error;
   if (!std::filesystem::is_regular_file(file, error)) return std::nullopt;
   std::ifstream stream(file, std::ios::binary);
@@ -264,10 +263,10 @@ std::optional<Lines> ReadLines(const std::filesystem::path& file) {
   if (error) return std::nullopt;
   stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   bytes.resize(static_cast<std::size_t>(stream.gcount()));
-  return Split(Decode(bytes));
+  return bytes;
 }
 
-FileResult WriteLines(const std::filesystem::path& file, const Lines& lines,
+FileResult WriteBytes(const std::filesystem::path& file, std::string_view bytes,
                       const std::filesystem::path& temporaryFolder) {
   std::error_code ignored;
   std::filesystem::create_directories(file.parent_path(), ignored);
@@ -278,11 +277,50 @@ FileResult WriteLines(const std::filesystem::path& file, const Lines& lines,
   if (::access(target.c_str(), F_OK) == 0 && ::access(target.c_str(), R_OK | W_OK) != 0) {
     return Result(file, What, errno);
   }
-  const std::string bytes = Encode(lines);
   Error error = ReplaceFrom(temporaryFolder, target, bytes);
   // A folder on another disk cannot be renamed into; beside the file is then the only safe place.
   if (error == EXDEV) error = ReplaceFrom(target.parent_path(), target, bytes);
   return Result(file, What, error);
+}
+
+/// Whether these are the bytes of whole lines as Encode writes them, so that more can simply follow.
+bool IsAsEncoded(std::string_view bytes) {
+  constexpr std::string_view End("\r\0\n\0", 4);
+  if (!bytes.starts_with(Mark) || bytes.size() % 2 != 0 || !bytes.ends_with(End)) return false;
+  for (std::size_t place = bytes.find('\n'); place != std::string_view::npos;
+       place = bytes.find('\n', place + 1)) {
+    if (place % 2 != 0 || bytes[place + 1] != 0) continue;  // Half of another character.
+    if (place < Mark.size() + 2 || bytes.substr(place - 2, End.size()) != End) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+std::optional<Lines> ReadLines(const std::filesystem::path& file) {
+  const std::optional<std::string> bytes = ReadBytes(file);
+  if (!bytes) return std::nullopt;
+  return Split(Decode(*bytes));
+}
+
+FileResult WriteLines(const std::filesystem::path& file, const Lines& lines,
+                      const std::filesystem::path& temporaryFolder) {
+  return WriteBytes(file, Encode(lines), temporaryFolder);
+}
+
+FileResult AppendBlock(const std::filesystem::path& file, const Lines& block,
+                       const std::filesystem::path& temporaryFolder) {
+  std::string bytes = ReadBytes(file).value_or(std::string());
+  if (IsAsEncoded(bytes)) {
+    const std::string more = Encode(block);
+    bytes += std::string_view("\r\0\n\0", 4);
+    bytes += std::string_view(more).substr(Mark.size());
+    return WriteBytes(file, bytes, temporaryFolder);
+  }
+  Lines lines = Split(Decode(bytes));
+  if (!lines.empty()) lines.emplace_back();
+  lines.insert(lines.end(), block.begin(), block.end());
+  return WriteLines(file, lines, temporaryFolder);
 }
 
 FileResult DeleteFile(const std::filesystem::path& file) {

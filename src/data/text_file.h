@@ -36,6 +36,11 @@ struct [[nodiscard]] FileResult {
 FileResult WriteLines(const std::filesystem::path& file, const Lines& lines,
                       const std::filesystem::path& temporaryFolder);
 
+/// Rewrites `file`, as WriteLines does, with its lines unchanged and those of `block` behind them, after an
+/// empty line unless they are the first.
+FileResult AppendBlock(const std::filesystem::path& file, const Lines& block,
+                       const std::filesystem::path& temporaryFolder);
+
 /// Deletes `file`; a file that is not there is no failure.
 FileResult DeleteFile(const std::filesystem::path& file);
 

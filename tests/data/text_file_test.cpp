@@ -68,6 +68,31 @@ TEST(TextFile, WritesUtf16WithMarkAndLineEnds) {
   EXPECT_EQ(ReadBytes(file), "\xFF\xFE");
 }
 
+TEST(TextFile, AppendsBlocksToWhateverIsThere) {
+  const TestFolder folder;
+  const std::pair<std::string, std::string> cases[] = {
+      {"", "x\ny\n"},
+      {"\xFF\xFE", "x\ny\n"},
+      {AsWritten("a\n\nb\n"), "a\n\nb\n\nx\ny\n"},
+      {AsWritten("a\nb").substr(0, 8) + "b\0"s, "a\nb\n\nx\ny\n"},  // No end of the last line,
+      {"\xFF\xFE"
+       "a\0\n\0b\0\r\0\n\0"s,
+       "a\nb\n\nx\ny\n"},            // a bare LF,
+      {"a\nb\n", "a\nb\n\nx\ny\n"},  // another encoding.
+  };
+  for (const auto& [before, after] : cases) {
+    WriteBytes(folder / "file", before);
+    ASSERT_TRUE(AppendBlock(folder / "file", {"x", "y"}, folder.Folder.Root).Ok());
+    EXPECT_EQ(ReadBytes(folder / "file"), AsWritten(after)) << testing::PrintToString(before);
+  }
+  // The unit U+010A holds the byte of a line feed and is none.
+  WriteBytes(folder / "file", "\xFF\xFE\x0A\x01\r\0\n\0"s);
+  ASSERT_TRUE(AppendBlock(folder / "file", {"x"}, folder.Folder.Root).Ok());
+  EXPECT_EQ(ReadLines(folder / "file"), (Lines{"\u010A", "", "x"}));
+  ASSERT_TRUE(AppendBlock(folder / "new", {"x"}, folder.Folder.Root).Ok());
+  EXPECT_EQ(ReadBytes(folder / "new"), AsWritten("x\n"));
+}
+
 TEST(TextFile, KeepsALoneSurrogate) {
   const TestFolder folder;
   const std::string bytes = "\xFF\xFE\x3C\xD8x\0\xC6\xDF\r\0\n\0"s;

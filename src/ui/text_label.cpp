@@ -26,7 +26,8 @@ TextLabel::TextLabel(const QString& text) : QLabel(text) {
 
 QSize TextLabel::HintUpTo(int characters) const {
   const QString some = text().left(characters);
-  return {fontMetrics().horizontalAdvance(some) + 2, fontMetrics().height()};
+  const QMargins margins = contentsMargins();
+  return QSize(fontMetrics().horizontalAdvance(some) + 2, fontMetrics().height()).grownBy(margins);
 }
 
 QSize TextLabel::sizeHint() const {

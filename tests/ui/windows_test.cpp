@@ -213,12 +213,15 @@ TEST_F(WindowsTest, ChampionshipScreensNameTheirControls) {
 
 TEST_F(WindowsTest, ARankingIsTurnedByKeyboardAndItsBarFollows) {
   Ranking table;
-  for (int i = 1; i <= 16; ++i) table.Rows.push_back({std::to_string(i), "Team", "", "", "", "", "", "", ""});
+  for (int i = 1; i <= 16; ++i)
+    table.Rows.push_back({std::to_string(i), "Team", "", "", "", "", "100", "", ""});
   table.Pages.Open(16);
   const std::unique_ptr<RankingWindow> window(MakeTableWindow(table, nullptr));
   window->show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   ExpectNames(*window);
+  const auto* const figure = window->findChild<QLabel*>("GF(1)");
+  EXPECT_GE(figure->contentsRect().width(), figure->fontMetrics().horizontalAdvance("100"));  // Never cut.
   const auto* const bar = window->findChild<QWidget*>("Bar");
   const auto row = [&window](int r) { return window->findChild<QWidget*>(ArrayName("Marker", r)); };
   QTest::qWait(20);

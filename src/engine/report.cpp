@@ -8,6 +8,19 @@
 namespace kickwell {
 namespace {
 
+/// `text` with every "<" as "&lt;", so that no name can carry markup into a page.
+std::string PageText(const std::string& text) {
+  std::string safe;
+  for (const char c : text) {
+    if (c == '<') {
+      safe += "&lt;";
+    } else {
+      safe += c;
+    }
+  }
+  return safe;
+}
+
 std::string Title(std::string_view page) {
   return "<title>" + std::string(ProgramTitle) + " " + std::string(page) + "</title>";
 }
@@ -42,18 +55,6 @@ Lines PageFooter() {
 }
 
 }  // namespace
-
-std::string PageText(const std::string& text) {
-  std::string safe;
-  for (const char c : text) {
-    if (c == '<') {
-      safe += "&lt;";
-    } else {
-      safe += c;
-    }
-  }
-  return safe;
-}
 
 Lines SummaryPage(const MatchSession& session) {
   const Side& side1 = session.Side1;

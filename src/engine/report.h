@@ -18,9 +18,6 @@ Lines CommentaryPage(const MatchSession& session);
 /// The page of a championship's results, headed `heading`, line by line.
 Lines ResultsPage(const std::string& heading, const Chooser& results);
 
-/// `text` with every "<" as "&lt;", so that no name can carry markup into a page.
-std::string PageText(const std::string& text);
-
 /// The file that the user meant by `name`: ".htm" is added unless the name ends in it or in ".html".
 std::filesystem::path PageFile(const std::string& name);
 

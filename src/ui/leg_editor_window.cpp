@@ -51,14 +51,6 @@ LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
   resize(900, 640);
 }
 
-QPushButton* LegEditorWindow::Button(const QString& name, const QString& caption,
-                                     std::function<void()> action) {
-  QPushButton* const button = MakeButton(name, caption);
-  button->setAutoDefault(false);
-  connect(button, &QPushButton::clicked, this, [this, action = std::move(action)] { Act(action); });
-  return button;
-}
-
 void LegEditorWindow::OnPick(QComboBox* combo, std::function<void(int)> action) {
   connect(combo, &QComboBox::activated, this,
           [this, action = std::move(action)](int entry) { Act([&] { action(entry); }); });
@@ -109,19 +101,12 @@ QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, con
   widgets.Selected->setAccessibleName(tr("Selected teams"));
   OnPick(widgets.Available, side.Available);
   OnPick(widgets.Selected, side.Selected);
-  const auto arrow = [&](const QString& name, QStyle::StandardPixmap picture, const QString& tip,
-                         void (*action)(EditorSide&)) {
-    QPushButton* const button = Button(prefix + name, {}, [&side, action] { action(side); });
-    button->setIcon(style()->standardIcon(picture));
-    button->setToolTip(tip);
-    button->setAccessibleName(tip);
-    return button;
-  };
   auto* const moves = new QVBoxLayout;
   moves->addStretch();
-  moves->addWidget(arrow("AddTeam", QStyle::SP_ArrowRight, tr("Add the team"), &LegEditor::AddTeam_Click));
-  moves->addWidget(
-      arrow("RemoveTeam", QStyle::SP_ArrowLeft, tr("Remove the team"), &LegEditor::RemoveTeam_Click));
+  moves->addWidget(ArrowButton(prefix + "AddTeam", QStyle::SP_ArrowRight, tr("Add the team"),
+                               [&side] { LegEditor::AddTeam_Click(side); }));
+  moves->addWidget(ArrowButton(prefix + "RemoveTeam", QStyle::SP_ArrowLeft, tr("Remove the team"),
+                               [&side] { LegEditor::RemoveTeam_Click(side); }));
   moves->addStretch();
 
   auto* const grid = new QGridLayout;
@@ -138,17 +123,14 @@ QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, con
   int row = 0;
   if (!IsLeague(side)) {
     widgets.NumberOfTeams = MakeText("NumberOfTeams", "2");
-    QPushButton* const more = Button("MoreTeams", {}, [this] { editor_.MoreTeams_Click(); });
-    QPushButton* const fewer = Button("FewerTeams", {}, [this] { editor_.FewerTeams_Click(); });
-    more->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
-    fewer->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
-    more->setToolTip(tr("More teams"));
-    fewer->setToolTip(tr("Fewer teams"));
-    for (QPushButton* const button : {more, fewer}) button->setAccessibleName(button->toolTip());
     counts->addWidget(MakeCaption(tr("Total number of teams:")), row, 0);
     counts->addWidget(widgets.NumberOfTeams, row, 1);
-    counts->addWidget(more, row, 2);
-    counts->addWidget(fewer, row++, 3);
+    counts->addWidget(
+        ArrowButton("MoreTeams", QStyle::SP_ArrowUp, tr("More teams"), [this] { editor_.MoreTeams_Click(); }),
+        row, 2);
+    counts->addWidget(ArrowButton("FewerTeams", QStyle::SP_ArrowDown, tr("Fewer teams"),
+                                  [this] { editor_.FewerTeams_Click(); }),
+                      row++, 3);
   }
   counts->addWidget(
       MakeCaption(IsLeague(side) ? tr("Total teams in the League:") : tr("Total teams currently selected:")),

@@ -36,7 +36,6 @@ class LegEditorWindow final : public ScreenWindow {
   QLayout* BuildTeams(SideWidgets& widgets, EditorSide& side, const QString& prefix);
   QLayout* BuildFixtures(SideWidgets& widgets, EditorSide& side, const QString& prefix);
   QLayout* BuildFiles(SideWidgets& widgets, EditorSide& side, const QString& prefix);
-  QPushButton* Button(const QString& name, const QString& caption, std::function<void()> action);
   void OnPick(QComboBox* combo, std::function<void(int)> action);
   void OnPick(QListWidget* list, Chooser& chooser);
   static void ShowSide(const SideWidgets& widgets, const EditorSide& side);

@@ -1,7 +1,9 @@
 #include "ui/screen_window.h"
 
 #include <QKeyEvent>
-#include <QPushButton>
+#include <utility>
+
+#include "ui/widgets.h"
 
 namespace kickwell {
 
@@ -33,6 +35,22 @@ void ScreenWindow::Act(const std::function<void()>& action) {
   } else if (isVisible()) {  // An action within this one may have closed the window already.
     done(Accepted);
   }
+}
+
+QPushButton* ScreenWindow::Button(const QString& name, const QString& caption, std::function<void()> action) {
+  QPushButton* const button = MakeButton(name, caption);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, [this, action = std::move(action)] { Act(action); });
+  return button;
+}
+
+QPushButton* ScreenWindow::ArrowButton(const QString& name, QStyle::StandardPixmap arrow, const QString& tip,
+                                       std::function<void()> action) {
+  QPushButton* const button = Button(name, {}, std::move(action));
+  button->setIcon(style()->standardIcon(arrow));
+  button->setToolTip(tip);
+  button->setAccessibleName(tip);
+  return button;
 }
 
 }  // namespace kickwell

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QDialog>
+#include <QPushButton>
+#include <QStyle>
 #include <functional>
 
 namespace kickwell {
@@ -20,6 +22,13 @@ class ScreenWindow : public QDialog {
 
   /// Runs one action of the user and shows what has become of it.
   void Act(const std::function<void()>& action);
+
+  /// A button that runs `action` and never takes Enter from a text box.
+  QPushButton* Button(const QString& name, const QString& caption, std::function<void()> action);
+
+  /// The same with an arrow for its caption; `tip` says what it does.
+  QPushButton* ArrowButton(const QString& name, QStyle::StandardPixmap arrow, const QString& tip,
+                           std::function<void()> action);
 
   virtual void Show() = 0;
   virtual bool IsClosed() const = 0;

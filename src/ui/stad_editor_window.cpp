@@ -63,18 +63,11 @@ StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addLayout(columns, 1);
-  layout->addWidget(Button("Command3", tr("E&xit Kickwell Stadium Editor"), &StadEditor::Command3_Click), 0,
-                    Qt::AlignRight);
+  layout->addWidget(
+      Button("Command3", tr("E&xit Kickwell Stadium Editor"), [this] { editor_.Command3_Click(); }), 0,
+      Qt::AlignRight);
   Show();
   resize(760, 460);
-}
-
-QPushButton* StadEditorWindow::Button(const char* name, const QString& caption,
-                                      void (StadEditor::*action)()) {
-  QPushButton* const button = MakeButton(name, caption);
-  button->setAutoDefault(false);
-  connect(button, &QPushButton::clicked, this, [this, action] { Act([&] { (editor_.*action)(); }); });
-  return button;
 }
 
 QWidget* StadEditorWindow::BuildRemoval() {
@@ -86,7 +79,8 @@ QWidget* StadEditorWindow::BuildRemoval() {
   auto* const layout = new QVBoxLayout(box);
   layout->addWidget(list1_, 1);
   layout->addLayout(total);
-  layout->addWidget(Button("Command1", tr("&Remove Stadium"), &StadEditor::Command1_Click), 0, Qt::AlignLeft);
+  layout->addWidget(Button("Command1", tr("&Remove Stadium"), [this] { editor_.Command1_Click(); }), 0,
+                    Qt::AlignLeft);
   return box;
 }
 
@@ -96,7 +90,7 @@ QWidget* StadEditorWindow::BuildAddition() {
   add.Add(tr("City/Country:"), text2_);
   add.Add(tr("Capacity:"), text3_);
   add.Add(tr("Home To:"), combo1_);
-  add.AddButton(Button("Command2", tr("&Add Stadium"), &StadEditor::Command2_Click));
+  add.AddButton(Button("Command2", tr("&Add Stadium"), [this] { editor_.Command2_Click(); }));
   return add.Box;
 }
 

@@ -21,7 +21,6 @@ class StadEditorWindow final : public ScreenWindow {
   void Leave() override { editor_.Command3_Click(); }
 
  private:
-  QPushButton* Button(const char* name, const QString& caption, void (StadEditor::*action)());
   QWidget* BuildRemoval();
   QWidget* BuildAddition();
 

@@ -48,18 +48,11 @@ TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addLayout(columns, 1);
-  layout->addWidget(Button("Command4", tr("E&xit Kickwell Team/Player Editor"), &TeamEditor::Command4_Click),
-                    0, Qt::AlignRight);
+  layout->addWidget(
+      Button("Command4", tr("E&xit Kickwell Team/Player Editor"), [this] { editor_.Command4_Click(); }), 0,
+      Qt::AlignRight);
   Show();
   resize(820, 620);
-}
-
-QPushButton* TeamEditorWindow::Button(const char* name, const QString& caption,
-                                      void (TeamEditor::*action)()) {
-  QPushButton* const button = MakeButton(name, caption);
-  button->setAutoDefault(false);
-  connect(button, &QPushButton::clicked, this, [this, action] { Act([&] { (editor_.*action)(); }); });
-  return button;
 }
 
 QComboBox* TeamEditorWindow::Combo(const char* name, void (TeamEditor::*action)(int)) {
@@ -78,26 +71,18 @@ QLayout* TeamEditorWindow::BuildSquad() {
   player->addRow(MakeCaption(tr("Player Skill:")), label4_);
   player->addRow(MakeCaption(tr("Position:")), label5_);
 
-  const auto arrow = [this](const char* name, QStyle::StandardPixmap picture, const QString& tip,
-                            void (TeamEditor::*action)()) {
-    QPushButton* const button = Button(name, {}, action);
-    button->setIcon(style()->standardIcon(picture));
-    button->setToolTip(tip);
-    button->setAccessibleName(tip);
-    return button;
-  };
   auto* const moves = new QVBoxLayout;
-  moves->addWidget(
-      arrow("Command1", QStyle::SP_ArrowUp, tr("Move the player up"), &TeamEditor::Command1_Click));
-  moves->addWidget(
-      arrow("Command2", QStyle::SP_ArrowDown, tr("Move the player down"), &TeamEditor::Command2_Click));
+  moves->addWidget(ArrowButton("Command1", QStyle::SP_ArrowUp, tr("Move the player up"),
+                               [this] { editor_.Command1_Click(); }));
+  moves->addWidget(ArrowButton("Command2", QStyle::SP_ArrowDown, tr("Move the player down"),
+                               [this] { editor_.Command2_Click(); }));
   moves->addStretch();
   auto* const squad = new QHBoxLayout;
   squad->addWidget(list1_, 1);
   squad->addLayout(moves);
 
   Section remove(tr("Remove Players"));
-  remove.Form->addRow(Button("Command6", tr("Delete &Player"), &TeamEditor::Command6_Click));
+  remove.Form->addRow(Button("Command6", tr("Delete &Player"), [this] { editor_.Command6_Click(); }));
   auto* const layout = new QVBoxLayout;
   layout->setSpacing(10);
   layout->addLayout(team);
@@ -113,11 +98,11 @@ QLayout* TeamEditorWindow::BuildChanges() {
   players.Add(tr("Skill (1 - 99):"), text4_);
   players.Add(tr("Field Position:"), combo1_);
   players.Add(tr("Side:"), combo2_);
-  players.AddButton(Button("Command8", tr("&Add Player"), &TeamEditor::Command8_Click));
+  players.AddButton(Button("Command8", tr("&Add Player"), [this] { editor_.Command8_Click(); }));
   Section teams(tr("Add Team"));
   teams.Add(tr("Team Name:"), text1_);
   teams.Add(tr("Skill (1 - 99):"), text5_);
-  teams.AddButton(Button("Command7", tr("Add &Team"), &TeamEditor::Command7_Click));
+  teams.AddButton(Button("Command7", tr("Add &Team"), [this] { editor_.Command7_Click(); }));
   auto* const layout = new QVBoxLayout;
   layout->setSpacing(10);
   layout->addWidget(players.Box);
@@ -136,7 +121,7 @@ QWidget* TeamEditorWindow::BuildTeamRemoval() {
   label23->setWordWrap(true);
   remove.Form->addRow(label22);
   remove.Form->addRow(label23);
-  remove.Form->addRow(Button("Command5", tr("&Delete Team"), &TeamEditor::Command5_Click));
+  remove.Form->addRow(Button("Command5", tr("&Delete Team"), [this] { editor_.Command5_Click(); }));
   return remove.Box;
 }
 

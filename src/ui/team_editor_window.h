@@ -21,7 +21,6 @@ class TeamEditorWindow final : public ScreenWindow {
   void Leave() override { editor_.Command4_Click(); }
 
  private:
-  QPushButton* Button(const char* name, const QString& caption, void (TeamEditor::*action)());
   QComboBox* Combo(const char* name, void (TeamEditor::*action)(int));
   QLayout* BuildSquad();
   QLayout* BuildChanges();

@@ -272,10 +272,11 @@ class FullLeague {
     scorers.reserve(Scorers);
     for (int i = 0; i < Scorers; ++i) scorers.push_back({"Player " + std::to_string(i), "Team 1", 3});
     Lines log(5951, "Total Attendence: 40632 (83%)");
-    const bool written = WriteChampionship(Folder, league).Ok() &&
-                         WriteStandings(Folder, "Full", ReadStandings(Folder, "Full", league.Teams)).Ok() &&
-                         WriteScorers(Folder, ChampionshipKind::League, "Full", scorers).Ok() &&
-                         WriteLines(Folder.Leagues() / "Full.lrs", log, Folder.Root).Ok();
+    const bool written =
+        WriteChampionship(Folder, league).Ok() &&
+        ChangeFiles(Folder, {ChangedStandings("Full", ReadStandings(Folder, "Full", league.Teams))}).Ok() &&
+        WriteScorers(Folder, ChampionshipKind::League, "Full", scorers).Ok() &&
+        WriteLines(Folder.Leagues() / "Full.lrs", log, Folder.Root).Ok();
     if (!written) std::abort();
     std::filesystem::copy(Folder.Leagues(), Folder.Root / "Fresh");
     Session.Setup.Mode = MatchMode::League;

@@ -179,10 +179,9 @@ void LegEditor::Save_Click(EditorSide& side) {
     const int number = static_cast<int>(championship.Fixtures.size()) + 1;
     championship.Fixtures.push_back({NotPlayed, fixture.Home, fixture.Away, WinnerPlaceholder(number)});
   }
-  if (!Report(desktop_, WriteChampionship(folder_, championship))) return;
   if (known) {
-    Report(desktop_, DeleteCompanions(folder_, side.Kind, side.Name));
-  } else {
+    Report(desktop_, ReplaceChampionship(folder_, championship));
+  } else if (Report(desktop_, WriteChampionship(folder_, championship))) {
     side.Load.Add(fileName);
     Load_Click(side, side.Load.Count() - 1);
   }

@@ -25,9 +25,15 @@ std::filesystem::path FolderOf(const ProgramFolder& folder, ChampionshipKind kin
   return kind == ChampionshipKind::League ? folder.Leagues() : folder.Tournies();
 }
 
-Lines ReadFile(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName) {
+/// A championship's file from the program folder, as changes name it.
+std::string FileIn(ChampionshipKind kind, const std::string& fileName) {
+  return (FolderOf({}, kind) / fileName).string();
+}
+
+Lines ReadFile(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName,
+               FileResult* failure = nullptr) {
   if (!StaysInFolder(fileName)) return {};
-  return ReadLines(FolderOf(folder, kind) / fileName).value_or(Lines{});
+  return ReadLines(FolderOf(folder, kind) / fileName, failure).value_or(Lines{});
 }
 
 FileResult WriteFile(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName,
@@ -72,15 +78,18 @@ std::vector<Fixture> TakeFixtures(Reader& reader, std::size_t count, bool withWi
   return fixtures;
 }
 
-/// The first of these deletions that fails.
-FileResult DeleteFiles(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
-                       std::initializer_list<const char*> extensions) {
-  if (!StaysInFolder(name)) return {FileNameRefusal(name)};
-  for (const char* extension : extensions) {
-    FileResult deleted = DeleteFile(FolderOf(folder, kind) / (name + extension));
-    if (!deleted.Ok()) return deleted;
-  }
-  return {};
+/// The deletion of all companions.
+std::vector<ChangedFile> DeletedCompanions(ChampionshipKind kind, const std::string& name) {
+  std::vector<ChangedFile> deleted;
+  for (const char* extension : {Scorers, Results}) deleted.push_back({FileIn(kind, name + extension), {}});
+  if (kind == ChampionshipKind::League) deleted.push_back({FileIn(kind, name + Standings), {}});
+  return deleted;
+}
+
+/// Makes `changes` after those that an interruption may have left.
+FileResult ChangeAfterFinishing(const ProgramFolder& folder, const std::vector<ChangedFile>& changes) {
+  FileResult finished = FinishChanges(folder);
+  return finished.Ok() ? ChangeFiles(folder, changes) : finished;
 }
 
 }  // namespace
@@ -121,9 +130,9 @@ bool ChampionshipExists(const ProgramFolder& folder, ChampionshipKind kind, cons
 }
 
 std::optional<Championship> ReadChampionship(const ProgramFolder& folder, ChampionshipKind kind,
-                                             const std::string& fileName) {
+                                             const std::string& fileName, FileResult* failure) {
   if (!StaysInFolder(fileName)) return std::nullopt;
-  std::optional<Lines> lines = ReadLines(FolderOf(folder, kind) / fileName);
+  std::optional<Lines> lines = ReadLines(FolderOf(folder, kind) / fileName, failure);
   if (!lines) return std::nullopt;
   Reader reader(std::move(*lines));
   Championship read{kind, {}, {}, {}};
@@ -146,8 +155,10 @@ std::optional<Championship> ReadChampionship(const ProgramFolder& folder, Champi
 
 std::optional<Bracket> ReadBracket(const ProgramFolder& folder, const std::string& name) {
   const std::string fileName = MainFileName(ChampionshipKind::KnockOut, name);
-  if (!ChampionshipExists(folder, ChampionshipKind::KnockOut, fileName)) return std::nullopt;
-  Reader reader(ReadFile(folder, ChampionshipKind::KnockOut, fileName));
+  if (!StaysInFolder(fileName)) return std::nullopt;
+  std::optional<Lines> lines = ReadLines(folder.Tournies() / fileName);
+  if (!lines) return std::nullopt;
+  Reader reader(std::move(*lines));
   reader.Take();  // The number of fixtures.
   Bracket bracket;
   bracket.Name = reader.Take();
@@ -157,7 +168,7 @@ std::optional<Bracket> ReadBracket(const ProgramFolder& folder, const std::strin
   return bracket;
 }
 
-FileResult WriteChampionship(const ProgramFolder& folder, const Championship& championship) {
+ChangedFile ChangedChampionship(const Championship& championship) {
   const bool league = championship.Kind == ChampionshipKind::League;
   const std::string count = std::to_string(championship.Fixtures.size());
   Lines lines;
@@ -170,22 +181,28 @@ FileResult WriteChampionship(const ProgramFolder& folder, const Championship& ch
     for (const std::string* line : {&fixture.Status, &fixture.Home, &fixture.Away}) lines.push_back(*line);
     if (!league) lines.push_back(fixture.Winner);
   }
-  return WriteFile(folder, championship.Kind, MainFileName(championship.Kind, championship.Name), lines);
+  return {FileIn(championship.Kind, MainFileName(championship.Kind, championship.Name)), Encode(lines)};
 }
 
-FileResult DeleteCompanions(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name) {
-  if (kind == ChampionshipKind::KnockOut) return DeleteFiles(folder, kind, name, {Results, Scorers});
-  return DeleteFiles(folder, kind, name, {Standings, Scorers, Results});
+FileResult WriteChampionship(const ProgramFolder& folder, const Championship& championship) {
+  return ChangeAfterFinishing(folder, {ChangedChampionship(championship)});
+}
+
+FileResult ReplaceChampionship(const ProgramFolder& folder, const Championship& championship) {
+  std::vector<ChangedFile> changes = DeletedCompanions(championship.Kind, championship.Name);
+  changes.insert(changes.begin(), ChangedChampionship(championship));
+  return ChangeAfterFinishing(folder, changes);
 }
 
 FileResult DeleteChampionship(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name) {
-  FileResult deleted = DeleteFiles(folder, kind, name, {MainExtension(kind)});
-  return deleted.Ok() ? DeleteCompanions(folder, kind, name) : deleted;
+  std::vector<ChangedFile> changes = DeletedCompanions(kind, name);
+  changes.insert(changes.begin(), {FileIn(kind, MainFileName(kind, name)), {}});
+  return ChangeAfterFinishing(folder, changes);
 }
 
 std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const std::string& league,
-                                        const std::vector<std::string>& teams) {
-  Reader reader(ReadFile(folder, ChampionshipKind::League, league + Standings));
+                                        const std::vector<std::string>& teams, FileResult* failure) {
+  Reader reader(ReadFile(folder, ChampionshipKind::League, league + Standings, failure));
   std::vector<StandingsRow> standings(std::min(teams.size(), reader.Left() / StandingsLines));
   for (StandingsRow& row : standings) {
     row.Team = reader.Take();
@@ -202,8 +219,7 @@ std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const std::
   return standings;
 }
 
-FileResult WriteStandings(const ProgramFolder& folder, const std::string& league,
-                          const std::vector<StandingsRow>& standings) {
+ChangedFile ChangedStandings(const std::string& league, const std::vector<StandingsRow>& standings) {
   Lines lines;
   for (const StandingsRow& row : standings) {
     lines.push_back(row.Team);
@@ -212,12 +228,14 @@ FileResult WriteStandings(const ProgramFolder& folder, const std::string& league
       lines.push_back(std::to_string(figure));
     }
   }
-  return WriteFile(folder, ChampionshipKind::League, league + Standings, lines);
+  return {FileIn(ChampionshipKind::League, league + Standings), Encode(lines)};
 }
 
 FileResult AppendStandings(const ProgramFolder& folder, const std::string& league, const std::string& team) {
   if (!ChampionshipExists(folder, ChampionshipKind::League, league + Standings)) return {};
-  Lines lines = ReadFile(folder, ChampionshipKind::League, league + Standings);
+  FileResult failure;
+  Lines lines = ReadFile(folder, ChampionshipKind::League, league + Standings, &failure);
+  if (!failure.Ok()) return failure;
   lines.resize(lines.size() / StandingsLines * StandingsLines);
   lines.push_back(team);
   lines.resize(lines.size() + StandingsLines - 1, "0");
@@ -225,9 +243,9 @@ FileResult AppendStandings(const ProgramFolder& folder, const std::string& leagu
 }
 
 std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind kind,
-                                   const std::string& name) {
+                                   const std::string& name, FileResult* failure) {
   constexpr std::size_t RowLines = 3;
-  Reader reader(ReadFile(folder, kind, name + Scorers));
+  Reader reader(ReadFile(folder, kind, name + Scorers, failure));
   std::vector<ScorerRow> scorers(reader.Left() / RowLines);
   for (ScorerRow& row : scorers) {
     row.Player = reader.Take();
@@ -249,11 +267,12 @@ Lines ReadResults(const ProgramFolder& folder, ChampionshipKind kind, const std:
   return ReadFile(folder, kind, name + Results);
 }
 
-FileResult AppendResult(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
-                        const std::array<std::string, 5>& block) {
+ChangedFile ChangedResults(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
+                           const std::array<std::string, 5>& block, FileResult* failure) {
   const std::string fileName = name + Results;
-  if (!StaysInFolder(fileName)) return {FileNameRefusal(fileName)};
-  return AppendBlock(FolderOf(folder, kind) / fileName, {block.begin(), block.end()}, folder.Root);
+  std::optional<std::string> bytes;
+  if (StaysInFolder(fileName)) bytes = ReadWholeFile(FolderOf(folder, kind) / fileName, failure);
+  return {FileIn(kind, fileName), EncodeBehind(std::move(bytes).value_or(""), {block.begin(), block.end()})};
 }
 
 }  // namespace kickwell

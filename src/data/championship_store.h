@@ -2,8 +2,8 @@
 // played.
 //
 // Readers take what is there: a count that is no number is 0, a file that ends early gives the complete
-// records that it holds, a figure that is no number is 0. Names that would leave the folder are never built
-// into a path.
+// records that it holds, a figure that is no number is 0. Of a file that is there and cannot be read they
+// tell `failure`. Names that would leave the folder are never built into a path.
 #pragma once
 
 #include <array>
@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/program.h"
+#include "data/journal.h"
 #include "data/text_file.h"
 
 namespace kickwell {
@@ -83,7 +84,7 @@ bool ChampionshipExists(const ProgramFolder& folder, ChampionshipKind kind, cons
 
 /// The championship in that main file; nothing when there is none.
 std::optional<Championship> ReadChampionship(const ProgramFolder& folder, ChampionshipKind kind,
-                                             const std::string& fileName);
+                                             const std::string& fileName, FileResult* failure = nullptr);
 
 /// A knock-out as its chart takes it: by the team count of line 3, whatever team lines there are, and with
 /// all the fixtures that follow them.
@@ -94,34 +95,39 @@ struct Bracket {
 };
 std::optional<Bracket> ReadBracket(const ProgramFolder& folder, const std::string& name);
 
-/// Writes the main file anew, its counts from what there is.
+/// The main file written anew, its counts from what there is.
+ChangedFile ChangedChampionship(const Championship& championship);
+
+/// Saves a championship that is not there yet.
 FileResult WriteChampionship(const ProgramFolder& folder, const Championship& championship);
 
-/// Deletes the companions that exist, or these and the main file. The first failure ends it.
-FileResult DeleteCompanions(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name);
+/// Saves a championship in the place of one of that name: its companions go, in one change with the main
+/// file.
+FileResult ReplaceChampionship(const ProgramFolder& folder, const Championship& championship);
+
+/// Deletes the main file and its companions in one change.
 FileResult DeleteChampionship(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name);
 
 /// A row for each of the teams: the complete rows of the file, then zeros for those that it has not. All
 /// zeros, in the order of `teams`, without a file.
 std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const std::string& league,
-                                        const std::vector<std::string>& teams);
-FileResult WriteStandings(const ProgramFolder& folder, const std::string& league,
-                          const std::vector<StandingsRow>& standings);
+                                        const std::vector<std::string>& teams, FileResult* failure = nullptr);
+ChangedFile ChangedStandings(const std::string& league, const std::vector<StandingsRow>& standings);
 
 /// Adds a row of zeros for `team` behind the rows of a standings file that exists; there may be none.
 FileResult AppendStandings(const ProgramFolder& folder, const std::string& league, const std::string& team);
 
 /// All scorers, in the order in which they first scored.
 std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind kind,
-                                   const std::string& name);
+                                   const std::string& name, FileResult* failure = nullptr);
 FileResult WriteScorers(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
                         const std::vector<ScorerRow>& scorers);
 
 /// The lines of the results log.
 Lines ReadResults(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name);
 
-/// Adds a block to the log, after an empty line unless it is the first.
-FileResult AppendResult(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
-                        const std::array<std::string, 5>& block);
+/// The log with a block behind it, after an empty line unless it is the first.
+ChangedFile ChangedResults(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
+                           const std::array<std::string, 5>& block, FileResult* failure = nullptr);
 
 }  // namespace kickwell

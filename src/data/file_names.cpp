@@ -7,7 +7,7 @@
 #include <system_error>
 #include <utility>
 
-#include "data/text_file.h"
+#include "data/text_encoding.h"
 
 namespace kickwell {
 namespace {

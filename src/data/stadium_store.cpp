@@ -27,8 +27,8 @@ bool StadiumListExists(const ProgramFolder& folder) {
   return std::filesystem::exists(folder.Stadiums(), error);
 }
 
-std::vector<Stadium> LoadStadiums(const ProgramFolder& folder) {
-  const Lines lines = ReadLines(folder.Stadiums()).value_or(Lines{});
+std::vector<Stadium> LoadStadiums(const ProgramFolder& folder, FileResult* failure) {
+  const Lines lines = ReadLines(folder.Stadiums(), failure).value_or(Lines{});
   if (lines.empty()) return {};
   constexpr std::size_t RecordLines = 4;
   const std::size_t count = std::min(CountLimit(lines.front()), (lines.size() - 1) / RecordLines);

@@ -25,8 +25,9 @@ std::string VenueText(const std::string& name, const std::string& city);
 bool StadiumListExists(const ProgramFolder& folder);
 
 /// The stadiums in file order; empty when there is no list. Of a list whose count is no number or promises
-/// more than the file holds, the complete records that are there.
-std::vector<Stadium> LoadStadiums(const ProgramFolder& folder);
+/// more than the file holds, the complete records that are there. Of a list that cannot be read `failure` is
+/// told.
+std::vector<Stadium> LoadStadiums(const ProgramFolder& folder, FileResult* failure = nullptr);
 
 /// Rewrites the whole list.
 FileResult SaveStadiums(const ProgramFolder& folder, const std::vector<Stadium>& stadiums);

@@ -8,9 +8,9 @@ std::vector<std::string> ListTeams(const ProgramFolder& folder) {
   return ListFiles(folder.Teams());
 }
 
-std::optional<Team> LoadTeam(const ProgramFolder& folder, const std::string& name) {
+std::optional<Team> LoadTeam(const ProgramFolder& folder, const std::string& name, FileResult* failure) {
   if (!StaysInFolder(name)) return std::nullopt;
-  const std::optional<Lines> lines = ReadLines(folder.Teams() / name);
+  const std::optional<Lines> lines = ReadLines(folder.Teams() / name, failure);
   if (!lines) return std::nullopt;
   Team team{name, lines->empty() ? "" : lines->front(), {}};
   for (std::size_t i = 1; i + 2 < lines->size(); i += 3) {

@@ -30,8 +30,9 @@ struct Team {
 std::vector<std::string> ListTeams(const ProgramFolder& folder);
 
 /// The team of that name; nothing when there is no such file. Texts stay as read; a last player whose three
-/// lines are not complete is left out.
-std::optional<Team> LoadTeam(const ProgramFolder& folder, const std::string& name);
+/// lines are not complete is left out. Of a file that is there and cannot be read `failure` is told.
+std::optional<Team> LoadTeam(const ProgramFolder& folder, const std::string& name,
+                             FileResult* failure = nullptr);
 
 /// Writes a team without players, over an existing one of that name. Refuses a name that cannot be a file
 /// name.

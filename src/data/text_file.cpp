@@ -1,199 +1,50 @@
 #include "data/text_file.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdint>
-#include <cstring>
-#include <fstream>
+#include <charconv>
 #include <system_error>
+
+#include "data/file_names.h"
 
 namespace kickwell {
 namespace {
 
-constexpr char32_t Replacement = 0xFFFD;
-constexpr std::string_view Mark = "\xFF\xFE";  ///< Of UTF-16 little-endian.
-
-bool IsHighSurrogate(char32_t c) {
-  return c >= 0xD800 && c <= 0xDBFF;
-}
-bool IsLowSurrogate(char32_t c) {
-  return c >= 0xDC00 && c <= 0xDFFF;
-}
-
-/// Writes UTF-8 to `out` and gives the place behind it.
-char* WriteUtf8(char* out, char32_t c) {
-  const auto byte = [&out](char32_t value) { *out++ = static_cast<char>(value); };
-  if (c < 0x80) {
-    byte(c);
-  } else if (c < 0x800) {
-    byte(0xC0 | c >> 6);
-    byte(0x80 | (c & 0x3F));
-  } else if (c < 0x10000) {
-    byte(0xE0 | c >> 12);
-    byte(0x80 | (c >> 6 & 0x3F));
-    byte(0x80 | (c & 0x3F));
-  } else {
-    byte(0xF0 | c >> 18);
-    byte(0x80 | (c >> 12 & 0x3F));
-    byte(0x80 | (c >> 6 & 0x3F));
-    byte(0x80 | (c & 0x3F));
-  }
-  return out;
-}
-
-/// The code point that starts at `place`, which moves behind it; a bad byte is passed over alone.
-char32_t NextCodePoint(std::string_view text, std::size_t& place) {
-  const auto at = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned char lead = at(place++);
-  if (lead < 0x80) return lead;
-  const std::size_t more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
-  if (lead < 0xC2 || lead > 0xF4 || text.size() - place < more) return Replacement;
-  char32_t c = lead & (0x3FU >> more);
-  for (std::size_t i = 0; i < more; ++i) {
-    if ((at(place + i) & 0xC0U) != 0x80) return Replacement;
-    c = c << 6 | (at(place + i) & 0x3FU);
-  }
-  constexpr char32_t Shortest[] = {0, 0x80, 0x800, 0x10000};  // Longer forms of a code point are refused.
-  if (c < Shortest[more] || c > 0x10FFFF) return Replacement;
-  place += more;
-  return c;
-}
-
-enum class Encoding { Utf8, Utf16Little, Utf16Big };
-
-/// Without a mark only UTF-16 holds zero bytes: the high bytes of digits and of line ends.
-Encoding GuessEncoding(std::string_view bytes) {
-  std::size_t zeros[2] = {0, 0};
-  for (std::size_t i = 0; i < bytes.size(); ++i) zeros[i % 2] += bytes[i] == '\0' ? 1 : 0;
-  if (zeros[0] == 0 && zeros[1] == 0) return Encoding::Utf8;
-  return zeros[0] > zeros[1] ? Encoding::Utf16Big : Encoding::Utf16Little;
-}
-
-constexpr std::size_t LongestOfUnit = 3;  ///< UTF-8 bytes that a UTF-16 unit or a bad byte can become.
-
-/// How many UTF-16 little-endian units at the beginning of `bytes` are ASCII, four at a time.
-std::size_t AsciiUnits(std::string_view bytes) {
-  constexpr std::size_t Four = 8;  // Bytes.
-  constexpr char NotAscii[] = "\x80\xFF\x80\xFF\x80\xFF\x80\xFF";
-  std::uint64_t mask = 0;
-  std::memcpy(&mask, NotAscii, Four);
-  std::size_t run = 0;
-  while (2 * run + Four <= bytes.size()) {
-    std::uint64_t units = 0;
-    std::memcpy(&units, bytes.data() + 2 * run, Four);
-    if ((units & mask) != 0) break;
-    run += 4;
-  }
-  return run;
-}
-
-std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
-  std::string text(bytes.size() / 2 * LongestOfUnit, '\0');
-  char* out = text.data();
-  const auto unit = [&](std::size_t i) {
-    const auto first = static_cast<unsigned char>(bytes[i]);
-    const auto second = static_cast<unsigned char>(bytes[i + 1]);
-    return static_cast<char32_t>(bigEndian ? first << 8 | second : second << 8 | first);
-  };
-  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    if (!bigEndian) {  // Long runs of ASCII are what files are made of, and what a processor copies at once.
-      const std::size_t run = AsciiUnits(bytes.substr(i));
-      for (std::size_t k = 0; k < run; ++k) out[k] = bytes[i + 2 * k];
-      out += run;
-      i += 2 * run;
-      if (i + 1 >= bytes.size()) break;
-    }
-    char32_t c = unit(i);
-    if (IsHighSurrogate(c) && i + 3 < bytes.size() && IsLowSurrogate(unit(i + 2))) {
-      c = 0x10000 + ((c - 0xD800) << 10) + (unit(i + 2) - 0xDC00);
-      i += 2;
-    }
-    out = WriteUtf8(out, c);
-  }
-  text.resize(static_cast<std::size_t>(out - text.data()));
-  return text;
-}
-
-std::string DecodeUtf8(std::string_view bytes) {
-  std::string text(bytes.size() * LongestOfUnit, '\0');
-  char* out = text.data();
-  for (std::size_t place = 0; place < bytes.size();) out = WriteUtf8(out, NextCodePoint(bytes, place));
-  text.resize(static_cast<std::size_t>(out - text.data()));
-  return text;
-}
-
-std::string Decode(std::string_view bytes) {
-  Encoding encoding = Encoding::Utf8;
-  if (bytes.starts_with(Mark)) {
-    encoding = Encoding::Utf16Little;
-    bytes.remove_prefix(2);
-  } else if (bytes.starts_with("\xFE\xFF")) {
-    encoding = Encoding::Utf16Big;
-    bytes.remove_prefix(2);
-  } else if (bytes.starts_with("\xEF\xBB\xBF")) {
-    bytes.remove_prefix(3);
-  } else {
-    encoding = GuessEncoding(bytes);
-  }
-  if (encoding != Encoding::Utf8) return DecodeUtf16(bytes, encoding == Encoding::Utf16Big);
-  return DecodeUtf8(bytes);
-}
-
-std::string Encode(const Lines& lines) {
-  std::size_t most = 2;  // Bytes: the mark, and a unit of two for each byte of UTF-8 at the most.
-  for (const std::string& line : lines) most += 2 * line.size() + 4;
-  std::string bytes(most, '\0');
-  char* out = bytes.data();
-  const auto unit = [&out](char32_t value) {
-    *out++ = static_cast<char>(value & 0xFF);
-    *out++ = static_cast<char>(value >> 8);
-  };
-  unit(0xFEFF);
-  for (const std::string& line : lines) {
-    for (std::size_t place = 0; place < line.size();) {
-      std::size_t run = 0;
-      while (place + run < line.size() && line[place + run] > '\n') ++run;
-      for (std::size_t k = 0; k < run; ++k) {
-        out[2 * k] = line[place + k];
-        out[2 * k + 1] = 0;
-      }
-      out += 2 * run;
-      place += run;
-      if (place == line.size()) break;
-      const char32_t c = NextCodePoint(line, place);
-      if (c >= 0x10000) {
-        unit(0xD800 + ((c - 0x10000) >> 10));
-        unit(0xDC00 + ((c - 0x10000) & 0x3FF));
-      } else {
-        unit(c == '\n' ? ' ' : c);
-      }
-    }
-    unit('\r');
-    unit('\n');
-  }
-  bytes.resize(static_cast<std::size_t>(out - bytes.data()));
-  return bytes;
-}
-
-Lines Split(std::string_view text) {
-  Lines lines;
-  lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
-  while (!text.empty()) {
-    const std::size_t end = text.find('\n');
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    lines.emplace_back(line);
-  }
-  return lines;
-}
+constexpr std::string_view TemporaryPrefix = "~kickwell-", TemporaryExtension = ".tmp";
 
 /// An errno value, 0 for success.
 using Error = int;
+
+FileResult Result(const std::filesystem::path& file, const char* what, Error error) {
+  if (error == 0) return {};
+  return {"The file " + file.string() + what + std::generic_category().message(error) + "."};
+}
+
+FileResult SaveResult(const std::filesystem::path& file, Error error) {
+  return Result(file, " can't be saved: ", error);
+}
+
+Error ReadWhole(int descriptor, std::string& bytes) {
+  struct stat facts {};
+  if (::fstat(descriptor, &facts) != 0) return errno;
+  if (!S_ISREG(facts.st_mode)) return EISDIR;
+  bytes.resize(static_cast<std::size_t>(facts.st_size));
+  std::size_t taken = 0;
+  while (taken < bytes.size()) {
+    const ssize_t read = ::read(descriptor, bytes.data() + taken, bytes.size() - taken);
+    if (read < 0 && errno == EINTR) continue;
+    if (read < 0) return errno;
+    if (read == 0) break;
+    taken += static_cast<std::size_t>(read);
+  }
+  bytes.resize(taken);
+  return 0;
+}
 
 Error WriteWhole(int descriptor, std::string_view bytes) {
   while (!bytes.empty()) {
@@ -205,6 +56,7 @@ Error WriteWhole(int descriptor, std::string_view bytes) {
   return ::fsync(descriptor) == 0 ? 0 : errno;
 }
 
+/// Writes and flushes `temporary` with the permissions of `target`. Nothing is left of it on failure.
 Error WriteTemporary(const std::filesystem::path& temporary, const std::filesystem::path& target,
                      std::string_view bytes) {
   const int descriptor =
@@ -215,27 +67,7 @@ Error WriteTemporary(const std::filesystem::path& temporary, const std::filesyst
   if (::stat(target.c_str(), &old) == 0 && ::fchmod(descriptor, old.st_mode & 07777) != 0) error = errno;
   if (error == 0) error = WriteWhole(descriptor, bytes);
   if (::close(descriptor) != 0 && error == 0) error = errno;
-  return error;
-}
-
-/// Makes the renaming itself last. A file system that cannot flush a folder has still renamed.
-void FlushFolder(const std::filesystem::path& folder) {
-  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  ::fsync(descriptor);
-  ::close(descriptor);
-}
-
-Error ReplaceFrom(const std::filesystem::path& folder, const std::filesystem::path& target,
-                  std::string_view bytes) {
-  const std::filesystem::path temporary = folder / ("~kickwell-" + std::to_string(::getpid()) + ".tmp");
-  Error error = WriteTemporary(temporary, target, bytes);
-  if (error == 0 && ::rename(temporary.c_str(), target.c_str()) != 0) error = errno;
-  if (error != 0) {
-    ::unlink(temporary.c_str());
-  } else {
-    FlushFolder(target.parent_path());
-  }
+  if (error != 0) ::unlink(temporary.c_str());
   return error;
 }
 
@@ -249,78 +81,102 @@ std::filesystem::path BehindLinks(std::filesystem::path file) {
   return file;
 }
 
-FileResult Result(const std::filesystem::path& file, const char* what, Error error) {
-  if (error == 0) return {};
-  return {"The file " + file.string() + what + std::generic_category().message(error) + "."};
+/// Renames; on failure the temporary file is still there.
+Error Rename(const std::filesystem::path& temporary, const std::filesystem::path& target) {
+  return ::rename(temporary.c_str(), target.c_str()) == 0 ? 0 : errno;
 }
 
-std::optional<std::string> ReadBytes(const std::filesystem::path& file) {
-  std::error_code error;
-  if (!std::filesystem::is_regular_file(file, error)) return std::nullopt;
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) return std::nullopt;
-  std::string bytes(std::filesystem::file_size(file, error), '\0');
-  if (error) return std::nullopt;
-  stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  bytes.resize(static_cast<std::size_t>(stream.gcount()));
-  return bytes;
+/// A folder on another disk cannot be renamed into; a copy beside the file can.
+Error MoveToOtherDisk(const std::filesystem::path& temporary, const std::filesystem::path& target) {
+  FileResult failure;
+  const std::optional<std::string> bytes = ReadWholeFile(temporary, &failure);
+  if (!bytes) return EIO;
+  const std::filesystem::path beside = target.parent_path() / TemporaryName();
+  Error error = WriteTemporary(beside, target, *bytes);
+  if (error != 0) return error;
+  error = Rename(beside, target);
+  ::unlink(error == 0 ? temporary.c_str() : beside.c_str());
+  return error;
 }
 
-FileResult WriteBytes(const std::filesystem::path& file, std::string_view bytes,
-                      const std::filesystem::path& temporaryFolder) {
-  std::error_code ignored;
-  std::filesystem::create_directories(file.parent_path(), ignored);
-  const std::filesystem::path target = BehindLinks(file);
-  constexpr const char* What = " can't be saved: ";
-  // Renaming would get past the protection of a file. One that cannot be written is meant to stay, and one
-  // that cannot be read has not been taken into what is about to replace it.
-  if (::access(target.c_str(), F_OK) == 0 && ::access(target.c_str(), R_OK | W_OK) != 0) {
-    return Result(file, What, errno);
-  }
-  Error error = ReplaceFrom(temporaryFolder, target, bytes);
-  // A folder on another disk cannot be renamed into; beside the file is then the only safe place.
-  if (error == EXDEV) error = ReplaceFrom(target.parent_path(), target, bytes);
-  return Result(file, What, error);
-}
-
-/// Whether these are the bytes of whole lines as Encode writes them, so that more can simply follow.
-bool IsAsEncoded(std::string_view bytes) {
-  constexpr std::string_view End("\r\0\n\0", 4);
-  if (!bytes.starts_with(Mark) || bytes.size() % 2 != 0 || !bytes.ends_with(End)) return false;
-  for (std::size_t place = bytes.find('\n'); place != std::string_view::npos;
-       place = bytes.find('\n', place + 1)) {
-    if (place % 2 != 0 || bytes[place + 1] != 0) continue;  // Half of another character.
-    if (place < Mark.size() + 2 || bytes.substr(place - 2, End.size()) != End) return false;
-  }
-  return true;
+/// The process whose temporary file this is; 0 when it is none.
+pid_t ProcessOf(std::string_view name) {
+  if (!name.starts_with(TemporaryPrefix) || !name.ends_with(TemporaryExtension)) return 0;
+  name.remove_prefix(TemporaryPrefix.size());
+  name.remove_suffix(std::min(name.size(), TemporaryExtension.size()));
+  pid_t process = 0;
+  int number = 0;
+  const char* const end = name.data() + name.size();
+  const auto [dash, error] = std::from_chars(name.data(), end, process);
+  if (error != std::errc() || process <= 0 || dash == end || *dash != '-') return 0;
+  const auto [stop, numberError] = std::from_chars(dash + 1, end, number);
+  return numberError == std::errc() && stop == end && number >= 0 ? process : 0;
 }
 
 }  // namespace
 
-std::optional<Lines> ReadLines(const std::filesystem::path& file) {
-  const std::optional<std::string> bytes = ReadBytes(file);
+std::optional<std::string> ReadWholeFile(const std::filesystem::path& file, FileResult* failure) {
+  std::string bytes;
+  // Without O_NONBLOCK the opening of a named pipe would wait for its other end.
+  const int descriptor = ::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  Error error = descriptor < 0 ? errno : ReadWhole(descriptor, bytes);
+  if (descriptor >= 0) ::close(descriptor);
+  if (error == 0) return bytes;
+  const bool missing = error == ENOENT || error == ENOTDIR;
+  if (failure != nullptr && !missing) *failure = Result(file, " can't be read: ", error);
+  return std::nullopt;
+}
+
+std::optional<Lines> ReadLines(const std::filesystem::path& file, FileResult* failure) {
+  const std::optional<std::string> bytes = ReadWholeFile(file, failure);
   if (!bytes) return std::nullopt;
-  return Split(Decode(*bytes));
+  return Decode(*bytes);
+}
+
+FileResult WriteWholeFile(const std::filesystem::path& file, std::string_view bytes,
+                          const std::filesystem::path& temporaryFolder) {
+  const std::filesystem::path temporary = temporaryFolder / TemporaryName();
+  FileResult result = PrepareFile(file, bytes, temporary);
+  if (!result.Ok()) return result;
+  result = MoveIntoPlace(temporary, file);
+  if (result.Ok()) {
+    FlushFolder(BehindLinks(file).parent_path());
+  } else {
+    ::unlink(temporary.c_str());
+  }
+  return result;
 }
 
 FileResult WriteLines(const std::filesystem::path& file, const Lines& lines,
                       const std::filesystem::path& temporaryFolder) {
-  return WriteBytes(file, Encode(lines), temporaryFolder);
+  return WriteWholeFile(file, Encode(lines), temporaryFolder);
 }
 
-FileResult AppendBlock(const std::filesystem::path& file, const Lines& block,
-                       const std::filesystem::path& temporaryFolder) {
-  std::string bytes = ReadBytes(file).value_or(std::string());
-  if (IsAsEncoded(bytes)) {
-    const std::string more = Encode(block);
-    bytes += std::string_view("\r\0\n\0", 4);
-    bytes += std::string_view(more).substr(Mark.size());
-    return WriteBytes(file, bytes, temporaryFolder);
+FileResult PrepareFile(const std::filesystem::path& file, std::string_view bytes,
+                       const std::filesystem::path& temporary) {
+  std::error_code ignored;
+  std::filesystem::create_directories(file.parent_path(), ignored);
+  const std::filesystem::path target = BehindLinks(file);
+  // Renaming would get past the protection of a file. One that cannot be written is meant to stay, and one
+  // that cannot be read has not been taken into what is about to replace it.
+  if (::access(target.c_str(), F_OK) == 0 && ::access(target.c_str(), R_OK | W_OK) != 0) {
+    return SaveResult(file, errno);
   }
-  Lines lines = Split(Decode(bytes));
-  if (!lines.empty()) lines.emplace_back();
-  lines.insert(lines.end(), block.begin(), block.end());
-  return WriteLines(file, lines, temporaryFolder);
+  return SaveResult(file, WriteTemporary(temporary, target, bytes));
+}
+
+FileResult MoveIntoPlace(const std::filesystem::path& temporary, const std::filesystem::path& file) {
+  const std::filesystem::path target = BehindLinks(file);
+  Error error = Rename(temporary, target);
+  if (error == EXDEV) error = MoveToOtherDisk(temporary, target);
+  return SaveResult(file, error);
+}
+
+void FlushFolder(const std::filesystem::path& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  ::fsync(descriptor);
+  ::close(descriptor);
 }
 
 FileResult DeleteFile(const std::filesystem::path& file) {
@@ -328,16 +184,25 @@ FileResult DeleteFile(const std::filesystem::path& file) {
   return Result(file, " can't be deleted: ", error);
 }
 
+std::string TemporaryName(int number) {
+  return std::string(TemporaryPrefix) + std::to_string(::getpid()) + "-" + std::to_string(number) +
+         std::string(TemporaryExtension);
+}
+
+bool IsTemporaryName(std::string_view name) {
+  return ProcessOf(name) != 0;
+}
+
+void DeleteLeftovers(const std::filesystem::path& folder) {
+  for (const std::string& name : ListFiles(folder, TemporaryExtension)) {
+    const pid_t process = ProcessOf(name);
+    if (process != 0 && ::kill(process, 0) != 0 && errno == ESRCH) ::unlink((folder / name).c_str());
+  }
+}
+
 bool Report(Desktop& desktop, const FileResult& result) {
   if (!result.Ok()) desktop.Warn(result.Failure);
   return result.Ok();
-}
-
-std::u32string ToCodePoints(std::string_view text) {
-  std::u32string points;
-  points.reserve(text.size());
-  for (std::size_t place = 0; place < text.size();) points.push_back(NextCodePoint(text, place));
-  return points;
 }
 
 }  // namespace kickwell

@@ -16,7 +16,7 @@ StadEditor::StadEditor(ProgramFolder folder, Desktop& desktop)
 void StadEditor::Form_Load() {
   Combo1 = {{"Neutral"}, 0};
   for (std::string& team : ListTeams(folder_)) Combo1.Add(std::move(team));
-  stadiums_ = LoadStadiums(folder_);
+  stadiums_ = LoadStadiums(folder_, &loading_);
   ShowStadiums(0);
 }
 
@@ -26,9 +26,10 @@ void StadEditor::ShowStadiums(int selected) {
   List1.Picked = selected < List1.Count() ? selected : Chooser::None;
 }
 
-/// Makes these the stadiums, on disk and here; neither when saving fails.
+/// Makes these the stadiums, on disk and here; neither when saving fails or would replace what has never been
+/// read.
 bool StadEditor::Save(std::vector<Stadium> stadiums) {
-  if (!Report(desktop_, SaveStadiums(folder_, stadiums))) return false;
+  if (!Report(desktop_, loading_) || !Report(desktop_, SaveStadiums(folder_, stadiums))) return false;
   stadiums_ = std::move(stadiums);
   return true;
 }

@@ -39,6 +39,7 @@ class StadEditor {
   ProgramFolder folder_;
   Desktop& desktop_;
   std::vector<Stadium> stadiums_;  ///< As they are on disk.
+  FileResult loading_;             ///< Why the list that is there could not be read.
 };
 
 }  // namespace kickwell

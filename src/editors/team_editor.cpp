@@ -40,8 +40,10 @@ void TeamEditor::PresetPosition() {
 }
 
 void TeamEditor::Combo3_Click(int entry) {
-  std::optional<Team> loaded = LoadTeam(folder_, Combo3.Entries.at(static_cast<std::size_t>(entry)));
-  if (!loaded) return;
+  FileResult failure;
+  std::optional<Team> loaded =
+      LoadTeam(folder_, Combo3.Entries.at(static_cast<std::size_t>(entry)), &failure);
+  if (!Report(desktop_, failure) || !loaded) return;
   Combo3.Picked = entry;
   team_ = std::move(*loaded);
   ShowSquad(0);

@@ -38,7 +38,9 @@ void FileRecording::StoreScorer(const MatchSession& session) {
   if (IsFriendly(session)) return;
   const ChampionshipKind kind = KindOf(session);
   const std::string& name = session.Setup.ChampionshipName;
-  std::vector<ScorerRow> scorers = ReadScorers(folder_, kind, name);
+  FileResult failure;
+  std::vector<ScorerRow> scorers = ReadScorers(folder_, kind, name, &failure);
+  if (!Report(desktop_, failure)) return;
   bool known = false;
   for (ScorerRow& row : scorers) {
     if (row.Player != session.LastScorer) continue;
@@ -49,13 +51,19 @@ void FileRecording::StoreScorer(const MatchSession& session) {
   Report(desktop_, WriteScorers(folder_, kind, name, scorers));
 }
 
+/// Files that an interruption has left in the middle of a change must not be built upon.
+void FileRecording::FinishEarlierChanges() {
+  Report(desktop_, FinishChanges(folder_));
+}
+
 void FileRecording::StoreResult(const MatchSession& session) {
   if (session.Setup.Mode != MatchMode::League) return;
+  FinishEarlierChanges();
   const std::string& name = session.Setup.ChampionshipName;
-  const std::optional<Championship> league =
-      ReadChampionship(folder_, ChampionshipKind::League, MainFileName(ChampionshipKind::League, name));
+  const std::optional<Championship> league = ReadChampionship(
+      folder_, ChampionshipKind::League, MainFileName(ChampionshipKind::League, name), &failure_);
   if (!league) return;
-  std::vector<StandingsRow> standings = ReadStandings(folder_, name, league->Teams);
+  std::vector<StandingsRow> standings = ReadStandings(folder_, name, league->Teams, &failure_);
   const bool level = session.Side1FinalGoals == session.Side2FinalGoals;
   for (StandingsRow& row : standings) {
     const bool winner = row.Team == session.WinnerName;
@@ -73,7 +81,7 @@ void FileRecording::StoreResult(const MatchSession& session) {
       ++row.Lost;
     }
   }
-  Report(desktop_, WriteStandings(folder_, name, standings));
+  changes_.push_back(ChangedStandings(name, standings));
 }
 
 void FileRecording::StoreLeagueResult(const MatchSession& session) {
@@ -84,15 +92,22 @@ void FileRecording::StoreLeagueResult(const MatchSession& session) {
       SideResult(session.Side1, session.Side1Penalties, shootOut) + " vs " +
           SideResult(session.Side2, session.Side2Penalties, shootOut),
       "Venue: " + session.Venue, AttendanceText(session), "Winner: " + session.ResultText};
-  Report(desktop_, AppendResult(folder_, KindOf(session), session.Setup.ChampionshipName, block));
+  if (session.Setup.Mode == MatchMode::KnockOut) FinishEarlierChanges();
+  const ChampionshipKind kind = KindOf(session);
+  const std::string& name = session.Setup.ChampionshipName;
+  changes_.push_back(ChangedResults(folder_, kind, name, block, &failure_));
   FileChanges(session);
+  Report(desktop_, failure_.Ok() ? ChangeFiles(folder_, changes_) : failure_);
+  changes_.clear();
+  failure_ = {};
+  selectAgain_(MainFileName(kind, name));
 }
 
 void FileRecording::FileChanges(const MatchSession& session) {
   const ChampionshipKind kind = KindOf(session);
   const MatchSetup& setup = session.Setup;
-  const std::string fileName = MainFileName(kind, setup.ChampionshipName);
-  std::optional<Championship> championship = ReadChampionship(folder_, kind, fileName);
+  std::optional<Championship> championship =
+      ReadChampionship(folder_, kind, MainFileName(kind, setup.ChampionshipName), &failure_);
   if (!championship) return;
   // A team that has come through by toss has played without the suffix, where no team is really called so.
   const auto names = [&](const std::string& entry, const std::string& team) {
@@ -113,8 +128,7 @@ void FileRecording::FileChanges(const MatchSession& session) {
       }
     }
   }
-  Report(desktop_, WriteChampionship(folder_, *championship));
-  selectAgain_(fileName);
+  changes_.push_back(ChangedChampionship(*championship));
 }
 
 }  // namespace kickwell

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "base/desktop.h"
 #include "base/program.h"
@@ -26,11 +27,13 @@ class Recording {
   /// The standings of a league: three points for a win, one each for a draw.
   virtual void StoreResult(const MatchSession& session) = 0;
 
-  /// The results log, the fixture's mark and, in a knock-out, the winner's way into the next round.
+  /// The last of a match: the results log, the fixture's mark and, in a knock-out, the winner's way into the
+  /// next round.
   virtual void StoreLeagueResult(const MatchSession& session) = 0;
 };
 
-/// Records into the championship's files. A file that cannot be saved is left as it was and told to the user.
+/// Records into the championship's files. A goal is on disk when it has fallen; what the end of a match
+/// changes goes there all at once in StoreLeagueResult, or not at all. Failures are told to the user.
 class FileRecording final : public Recording {
  public:
   /// Asks for the championship to be read again, by the name of its main file.
@@ -45,10 +48,13 @@ class FileRecording final : public Recording {
 
  private:
   void FileChanges(const MatchSession& session);
+  void FinishEarlierChanges();
 
   ProgramFolder folder_;
   Desktop& desktop_;
   SelectAgain selectAgain_;
+  std::vector<ChangedFile> changes_;  ///< Of the match that is being recorded.
+  FileResult failure_;                ///< What keeps it from being recorded.
 };
 
 }  // namespace kickwell

@@ -8,6 +8,7 @@
 #include "championship/leg_results.h"
 #include "championship/standings_table.h"
 #include "championship/top_scorers.h"
+#include "data/journal.h"
 #include "editors/stad_editor.h"
 #include "editors/team_editor.h"
 #include "engine/match.h"
@@ -38,7 +39,10 @@ App::App(ProgramFolder folder, Desktop& desktop, Random& random, MatchTimings ti
 App::~App() = default;
 
 void App::Start() {
+  const FileResult finished = FinishChanges(folder_);
+  DeleteLeftovers(folder_.Root);
   window_->show();
+  Report(desktop_, finished);
 }
 
 QWidget* App::Owner() const {

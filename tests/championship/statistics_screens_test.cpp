@@ -28,15 +28,11 @@ TEST(StandingsTable, SortsByPointsDifferenceAndGoalsAndKeepsTies) {
   EXPECT_EQ(zeros.Label1, "Top Standings");
   EXPECT_EQ(Names(zeros), league.Teams);
   EXPECT_EQ(zeros.Rows[1], (Texts{"2", "B", "0", "0", "0", "0", "0", "0", "0"}));
-  ASSERT_TRUE(WriteStandings(folder.Folder, "Top",
-                             {{"A", 3, 0, 0, 3, 1, 9, 0},
-                              {"B", 3, 1, 0, 2, 4, 2, 3},
-                              {"C", 3, 1, 0, 2, 5, 3, 3},
-                              {"D", 3, 2, 0, 1, 2, 9, 6},
-                              {"E", 3, 1, 0, 2, 4, 2, 3},
-                              {"F", 3, 1, 0, 2, 3, 0, 3},
-                              {"G", 3, 0, 0, 3, 0, 9, 0}})
-                  .Ok());
+  const std::vector<StandingsRow> standings = {{"A", 3, 0, 0, 3, 1, 9, 0}, {"B", 3, 1, 0, 2, 4, 2, 3},
+                                               {"C", 3, 1, 0, 2, 5, 3, 3}, {"D", 3, 2, 0, 1, 2, 9, 6},
+                                               {"E", 3, 1, 0, 2, 4, 2, 3}, {"F", 3, 1, 0, 2, 3, 0, 3},
+                                               {"G", 3, 0, 0, 3, 0, 9, 0}};
+  ASSERT_TRUE(ChangeFiles(folder.Folder, {ChangedStandings("Top", standings)}).Ok());
   const Ranking table = StandingsTable(folder.Folder, "Top");
   EXPECT_EQ(Names(table), (Texts{"D", "F", "C", "B", "E", "A", "G"}));
   EXPECT_EQ(table.Rows[5], (Texts{"6", "A", "3", "0", "0", "3", "1", "9", "0"}));

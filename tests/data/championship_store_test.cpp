@@ -60,7 +60,7 @@ TEST(ChampionshipStore, KeepsStandingsScorersAndResults) {
   const Championship league{League, "Top", {"A", "B"}, {}};
   EXPECT_EQ(ReadStandings(folder.Folder, "Top", league.Teams), (std::vector<StandingsRow>{{"A"}, {"B"}}));
   const std::vector<StandingsRow> standings = {{"A", 3, 1, 1, 1, 5, 4, 4}, {"B", 3, 0, 2, 1, 1, 9, 2}};
-  ASSERT_TRUE(WriteStandings(folder.Folder, "Top", standings).Ok());
+  ASSERT_TRUE(ChangeFiles(folder.Folder, {ChangedStandings("Top", standings)}).Ok());
   EXPECT_EQ(ReadBytes(folder / "Leagues/Top.rec"),
             AsWritten("A\n3\n1\n1\n1\n5\n4\n4\nB\n3\n0\n2\n1\n1\n9\n2\n"));
   EXPECT_EQ(ReadStandings(folder.Folder, "Top", league.Teams), standings);
@@ -73,10 +73,6 @@ TEST(ChampionshipStore, KeepsStandingsScorersAndResults) {
   EXPECT_EQ(ReadBytes(folder / "Leagues/Top.sco"), AsWritten("Ann\nA\n2\nBo\nB\n1\n"));
   WriteBytes(folder / "Leagues/Top.sco", "Ann\nA\nno\nBo\nB");
   EXPECT_EQ(ReadScorers(folder.Folder, League, "Top"), (std::vector<ScorerRow>{{"Ann", "A", 0}}));
-
-  ASSERT_TRUE(AppendResult(folder.Folder, KnockOut, "Cup", {"1", "2", "3", "4", "5"}).Ok());
-  ASSERT_TRUE(AppendResult(folder.Folder, KnockOut, "Cup", {"6", "7", "8", "9", "10"}).Ok());
-  EXPECT_EQ(ReadBytes(folder / "Tournies/Cup.lrs"), AsWritten("1\n2\n3\n4\n5\n\n6\n7\n8\n9\n10\n"));
 }
 
 TEST(ChampionshipStore, DeletesTheFilesOfOneChampionship) {
@@ -85,7 +81,8 @@ TEST(ChampionshipStore, DeletesTheFilesOfOneChampionship) {
                            "Leagues/B.leg", "Leagues/B.rec", "Tournies/A.trn", "Tournies/A.sco"}) {
     WriteBytes(folder / file, "x");
   }
-  EXPECT_TRUE(DeleteCompanions(folder.Folder, League, "A").Ok());
+  EXPECT_TRUE(ReplaceChampionship(folder.Folder, {League, "A", {}, {}}).Ok());
+  EXPECT_EQ(ReadBytes(folder / "Leagues/A.leg"), AsWritten("A\n0\n0\n"));
   EXPECT_EQ(ListFiles(folder.Folder.Leagues()), (std::vector<std::string>{"A.leg", "B.leg", "B.rec"}));
   EXPECT_TRUE(DeleteChampionship(folder.Folder, League, "B").Ok());
   EXPECT_TRUE(DeleteChampionship(folder.Folder, KnockOut, "A").Ok());

@@ -68,8 +68,7 @@ TEST(TextFile, WritesUtf16WithMarkAndLineEnds) {
   EXPECT_EQ(ReadBytes(file), "\xFF\xFE");
 }
 
-TEST(TextFile, AppendsBlocksToWhateverIsThere) {
-  const TestFolder folder;
+TEST(TextFile, PutsBlocksBehindWhateverIsThere) {
   const std::pair<std::string, std::string> cases[] = {
       {"", "x\ny\n"},
       {"\xFF\xFE", "x\ny\n"},
@@ -81,16 +80,10 @@ TEST(TextFile, AppendsBlocksToWhateverIsThere) {
       {"a\nb\n", "a\nb\n\nx\ny\n"},  // another encoding.
   };
   for (const auto& [before, after] : cases) {
-    WriteBytes(folder / "file", before);
-    ASSERT_TRUE(AppendBlock(folder / "file", {"x", "y"}, folder.Folder.Root).Ok());
-    EXPECT_EQ(ReadBytes(folder / "file"), AsWritten(after)) << testing::PrintToString(before);
+    EXPECT_EQ(EncodeBehind(before, {"x", "y"}), AsWritten(after)) << testing::PrintToString(before);
   }
   // The unit U+010A holds the byte of a line feed and is none.
-  WriteBytes(folder / "file", "\xFF\xFE\x0A\x01\r\0\n\0"s);
-  ASSERT_TRUE(AppendBlock(folder / "file", {"x"}, folder.Folder.Root).Ok());
-  EXPECT_EQ(ReadLines(folder / "file"), (Lines{"\u010A", "", "x"}));
-  ASSERT_TRUE(AppendBlock(folder / "new", {"x"}, folder.Folder.Root).Ok());
-  EXPECT_EQ(ReadBytes(folder / "new"), AsWritten("x\n"));
+  EXPECT_EQ(Decode(EncodeBehind("\xFF\xFE\x0A\x01\r\0\n\0"s, {"x"})), (Lines{"\u010A", "", "x"}));
 }
 
 TEST(TextFile, KeepsALoneSurrogate) {

@@ -125,8 +125,7 @@ std::vector<std::string> ListChampionships(const ProgramFolder& folder, Champion
 }
 
 bool ChampionshipExists(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName) {
-  std::error_code error;
-  return StaysInFolder(fileName) && std::filesystem::exists(FolderOf(folder, kind) / fileName, error);
+  return StaysInFolder(fileName) && FileExists(FolderOf(folder, kind) / fileName);
 }
 
 std::optional<Championship> ReadChampionship(const ProgramFolder& folder, ChampionshipKind kind,

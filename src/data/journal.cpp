@@ -61,8 +61,7 @@ std::optional<std::vector<Step>> FromText(const ProgramFolder& folder, const std
 FileResult Make(const ProgramFolder& folder, const Step& step) {
   const std::filesystem::path file = folder.Root / step.File, temporary = folder.Root / step.Temporary;
   if (step.Temporary == Deleted) return DeleteFile(file);
-  std::error_code error;
-  return std::filesystem::exists(temporary, error) ? MoveIntoPlace(temporary, file) : FileResult{};
+  return FileExists(temporary) ? MoveIntoPlace(temporary, file) : FileResult{};
 }
 
 /// Makes the steps and ends the journal. `made` counts the steps that have been made.
@@ -91,8 +90,7 @@ FileResult ChangeFiles(const ProgramFolder& folder, const std::vector<ChangedFil
   for (const ChangedFile& change : changes) {
     if (!IsChampionshipFile(folder, change.File)) return {FileNameRefusal(change.File)};
   }
-  std::error_code error;
-  if (std::filesystem::exists(JournalOf(folder), error)) {
+  if (FileExists(JournalOf(folder))) {
     return {"Nothing can be saved while the changes in " + JournalOf(folder).string() + " are unfinished."};
   }
   std::vector<Step> steps;

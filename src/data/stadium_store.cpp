@@ -23,8 +23,7 @@ std::string VenueText(const std::string& name, const std::string& city) {
 }
 
 bool StadiumListExists(const ProgramFolder& folder) {
-  std::error_code error;
-  return std::filesystem::exists(folder.Stadiums(), error);
+  return FileExists(folder.Stadiums());
 }
 
 std::vector<Stadium> LoadStadiums(const ProgramFolder& folder, FileResult* failure) {

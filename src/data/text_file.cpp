@@ -133,6 +133,10 @@ std::optional<Lines> ReadLines(const std::filesystem::path& file, FileResult* fa
   return Decode(*bytes);
 }
 
+bool FileExists(const std::filesystem::path& file) {
+  return ::access(file.c_str(), F_OK) == 0;
+}
+
 FileResult WriteWholeFile(const std::filesystem::path& file, std::string_view bytes,
                           const std::filesystem::path& temporaryFolder) {
   const std::filesystem::path temporary = temporaryFolder / TemporaryName();
@@ -159,7 +163,7 @@ FileResult PrepareFile(const std::filesystem::path& file, std::string_view bytes
   const std::filesystem::path target = BehindLinks(file);
   // Renaming would get past the protection of a file. One that cannot be written is meant to stay, and one
   // that cannot be read has not been taken into what is about to replace it.
-  if (::access(target.c_str(), F_OK) == 0 && ::access(target.c_str(), R_OK | W_OK) != 0) {
+  if (FileExists(target) && ::access(target.c_str(), R_OK | W_OK) != 0) {
     return SaveResult(file, errno);
   }
   return SaveResult(file, WriteTemporary(temporary, target, bytes));

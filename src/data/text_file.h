@@ -25,6 +25,9 @@ std::optional<std::string> ReadWholeFile(const std::filesystem::path& file, File
 /// The lines of `file`, under the same promises.
 std::optional<Lines> ReadLines(const std::filesystem::path& file, FileResult* failure = nullptr);
 
+/// Whether there is such a file, readable or not.
+bool FileExists(const std::filesystem::path& file);
+
 /// Replaces `file` (through symbolic links, keeping its permissions) by `bytes`. Missing folders on the way
 /// are made. The bytes go into a temporary file in `temporaryFolder` that is flushed to disk and renamed over
 /// `file`: whatever happens, the old file or the new one is there whole. On failure the old one is.

@@ -1,7 +1,7 @@
 #include "data/text_file.h"
 
 #include <fcntl.h>
-#include <signal.h>
+#include <csignal>
 #include <sys/stat.h>
 #include <unistd.h>
 

@@ -64,7 +64,7 @@ class HostileUser {
       s.Setup.Mode = kind == ChampionshipKind::League ? MatchMode::League : MatchMode::KnockOut;
       s.Setup.ChampionshipName = s.Setup.Team1Name = s.Setup.Team2Name = s.LastScorer = s.ResultText = Name;
       const auto open = [this](const MatchSetup& setup) {
-        Selection(
+        const Selection selection(
             Folder.Folder, desktop_, [](const MatchSetup&) {}, setup);
       };
       ChampionshipPlay play(

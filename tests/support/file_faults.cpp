@@ -1,7 +1,7 @@
 #include "support/file_faults.h"
 
 #include <fcntl.h>
-#include <signal.h>
+#include <csignal>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>

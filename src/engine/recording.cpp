@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -20,10 +21,17 @@ bool IsFriendly(const MatchSession& session) {
   return session.Setup.Mode == MatchMode::Friendly;
 }
 
-void AddMatch(StandingsRow& row, int goalsFor, int goalsAgainst) {
-  ++row.Played;
-  row.GoalsFor += goalsFor;
-  row.GoalsAgainst += goalsAgainst;
+/// Adds to a figure that a file may hold as large as any; it stops at the largest.
+void Add(int& figure, int more) {
+  figure += std::min(more, std::numeric_limits<int>::max() - std::max(figure, 0));
+}
+
+void AddMatch(StandingsRow& row, int& outcome, int goalsFor, int goalsAgainst, int points) {
+  Add(row.Played, 1);
+  Add(outcome, 1);
+  Add(row.GoalsFor, goalsFor);
+  Add(row.GoalsAgainst, goalsAgainst);
+  Add(row.Points, points);
 }
 
 /// A side's part of the result line, with its penalties after a shoot-out.
@@ -44,7 +52,7 @@ void FileRecording::StoreScorer(const MatchSession& session) {
   bool known = false;
   for (ScorerRow& row : scorers) {
     if (row.Player != session.LastScorer) continue;
-    ++row.Goals;
+    Add(row.Goals, 1);
     known = true;
   }
   if (!known) scorers.push_back({session.LastScorer, session.LastScoringTeam, 1});
@@ -69,16 +77,11 @@ void FileRecording::StoreResult(const MatchSession& session) {
     const bool winner = row.Team == session.WinnerName;
     if (!winner && row.Team != session.LoserName) continue;
     if (level) {
-      AddMatch(row, session.WinnerGoals, session.WinnerGoals);
-      ++row.Drawn;
-      row.Points += PointsForDraw;
+      AddMatch(row, row.Drawn, session.WinnerGoals, session.WinnerGoals, PointsForDraw);
     } else if (winner) {
-      AddMatch(row, session.WinnerGoals, session.LoserGoals);
-      ++row.Won;
-      row.Points += PointsForWin;
+      AddMatch(row, row.Won, session.WinnerGoals, session.LoserGoals, PointsForWin);
     } else {
-      AddMatch(row, session.LoserGoals, session.WinnerGoals);
-      ++row.Lost;
+      AddMatch(row, row.Lost, session.LoserGoals, session.WinnerGoals, 0);
     }
   }
   changes_.push_back(ChangedStandings(name, standings));

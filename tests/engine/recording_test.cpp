@@ -59,6 +59,10 @@ TEST_F(RecordingTest, GoalsAddUpByPlayersName) {
   Score(MatchMode::League, "Bo", "United");
   Score(MatchMode::League, "Ann", "United");  // A namesake: one tally, the first team stays.
   EXPECT_EQ(ReadBytes(folder_ / "Leagues/Cup.sco"), AsWritten("Ann\nRovers\n2\nBo\nUnited\n1\n"));
+  WriteBytes(folder_ / "Tournies/Cup.sco", "Ann\nRovers\n2147483647\n");  // The largest figure stays.
+  Score(MatchMode::KnockOut, "Ann", "Rovers");
+  EXPECT_EQ(ReadBytes(folder_ / "Tournies/Cup.sco"), AsWritten("Ann\nRovers\n2147483647\n"));
+  std::filesystem::remove(folder_ / "Tournies/Cup.sco");
   Score(MatchMode::KnockOut, "Cy", "Rovers");
   EXPECT_EQ(ReadBytes(folder_ / "Tournies/Cup.sco"), AsWritten("Cy\nRovers\n1\n"));
 }

@@ -28,7 +28,7 @@ using kickwell::User;
 constexpr MatchTimings Watched{100, 1000}, Hurried{1, 1};
 
 /// With these the matches go through what their pictures are to show.
-constexpr int MatchLuck = 41, ShootOutLuck = 99, LeagueLuck = 4, KnockOutLuck = 2;
+constexpr int MatchLuck = 41, ShootOutLuck = 99, LeagueLuck = 524, KnockOutLuck = 2;
 
 /// Picks an entry by its text.
 void PickText(QWidget& window, const QString& combo, const QString& text) {

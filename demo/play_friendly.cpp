@@ -10,31 +10,16 @@
 #include <QListWidget>
 #include <QtTest/QTest>
 #include <cstdio>
-#include <stdexcept>
 
+#include "pictures.h"
 #include "ui/app.h"
 #include "ui/qt_desktop.h"
 #include "user.h"
 
 namespace {
 
+using kickwell::Pictures;
 using kickwell::User;
-
-class Pictures {
- public:
-  Pictures(User& user, QString folder) : user_(user), folder_(std::move(folder)) {}
-
-  void Take(QWidget& window, const char* name) const {
-    user_.Wait(300);  // Let the window manager finish.
-    const QString file = folder_ + "/" + name + ".png";
-    if (!window.grab().save(file)) throw std::runtime_error("can't write " + file.toStdString());
-    std::printf("%s\n", qPrintable(file));
-  }
-
- private:
-  User& user_;
-  QString folder_;
-};
 
 bool PlayFriendly(User& user, const Pictures& pictures, const QString& page) {
   bool played = false;

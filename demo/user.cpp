@@ -43,8 +43,8 @@ void User::LookAgain() {
   QTimer::singleShot(Beat, &context_, [this] { Next(); });
 }
 
-void User::In(const QString& window, Step step) {
-  steps_.push_back({window, std::move(step)});
+void User::When(const QString& window, Condition condition, Step step) {
+  steps_.push_back({window, std::move(condition), std::move(step)});
 }
 
 void User::Next() {
@@ -57,6 +57,7 @@ void User::Next() {
     window->activateWindow();
     return;
   }
+  if (steps_.front().Ready && !steps_.front().Ready(*window)) return;
   idle_ = 0;
   const Step step = std::move(steps_.front().Run);
   steps_.pop_front();

@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <deque>
 #include <functional>
+#include <utility>
 
 namespace kickwell {
 
@@ -14,11 +15,15 @@ namespace kickwell {
 class User {
  public:
   using Step = std::function<void(QWidget& window)>;
+  using Condition = std::function<bool(QWidget& window)>;
 
   User();
 
   /// Adds a step for the window named `window` (its object name).
-  void In(const QString& window, Step step);
+  void In(const QString& window, Step step) { When(window, nullptr, std::move(step)); }
+
+  /// Adds a step for when the window is in use and `condition` holds, also in the middle of a goal's pause.
+  void When(const QString& window, Condition condition, Step step);
 
   /// Runs the event loop until all steps are done; false when none has run for `patience` milliseconds.
   bool Finish(int patience = 10000);
@@ -38,6 +43,7 @@ class User {
 
   struct Waiting {
     QString Window;
+    Condition Ready;
     Step Run;
   };
   std::deque<Waiting> steps_;

@@ -1,12 +1,29 @@
 #include <QApplication>
+#include <QIcon>
 
 #include "ui/app.h"
 #include "ui/qt_desktop.h"
+
+namespace {
+
+/// The desktop shows it with each window, picking a size. Some desktops take it from the desktop entry
+/// instead, which they must be able to find by its name.
+void SetIcon() {
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    icon.addFile(QStringLiteral(":/icons/kickwell-%1.png").arg(size));
+  }
+  QApplication::setWindowIcon(icon);
+  QGuiApplication::setDesktopFileName(QStringLiteral("kickwell"));
+}
+
+}  // namespace
 
 int main(int /*argc*/, char** argv) {
   int noArguments = 1;  // The program takes none, Qt's own neither.
   const QApplication application(noArguments, argv);
   const kickwell::ProgramFolder folder{QCoreApplication::applicationDirPath().toStdString()};
+  SetIcon();
   kickwell::QtDesktop desktop(folder);
   kickwell::SeededRandom random;
   kickwell::App app(folder, desktop, random);

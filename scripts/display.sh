@@ -1,0 +1,16 @@
+# Sourced by the project's commands, after packages.sh: a virtual display.
+
+# on_display COMMAND...: runs it on a display of its own, with a window manager, and gives its exit status.
+on_display() {
+  # shellcheck disable=SC2086
+  need $DISPLAY_PACKAGES
+  xvfb-run -a -s "-screen 0 1280x900x24" bash -c '
+    openbox >/dev/null 2>&1 & manager=$!
+    for i in $(seq 50); do  # The windows must find a manager that is ready.
+      xprop -root _NET_SUPPORTING_WM_CHECK | grep -q "window id" && break
+      sleep 0.1
+    done
+    "$@"; status=$?
+    kill $manager
+    exit $status' on_display "$@"
+}

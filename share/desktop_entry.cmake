@@ -1,0 +1,10 @@
+# Installs the desktop entry with the whole path of the program, quoted as the entry's format wants it.
+set(program "${prefix}/Kickwell/Kickwell")
+string(REGEX REPLACE "([\\\\\"`$])" "\\\\\\1" program "${program}")
+string(REPLACE "\\" "\\\\" program "${program}")
+string(REPLACE "%" "%%" program "${program}")
+file(READ "${source}/share/kickwell.desktop" text)
+string(REPLACE "Exec=Kickwell" "Exec=\"${program}\"" text "${text}")
+set(file "$ENV{DESTDIR}${prefix}/share/applications/kickwell.desktop")
+message(STATUS "Installing: ${file}")
+file(WRITE "${file}" "${text}")

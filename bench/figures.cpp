@@ -15,8 +15,8 @@ std::string Text(const char* format, double number) {
 }
 
 std::string TimeText(double seconds) {
-  if (seconds < 1e-3) return Text("%.3g us", seconds * 1e6);
-  if (seconds < 1) return Text("%.3g ms", seconds * 1e3);
+  if (seconds < 0.9995e-3) return Text("%.3g us", seconds * 1e6);
+  if (seconds < 0.9995) return Text("%.3g ms", seconds * 1e3);
   return Text("%.3g s", seconds);
 }
 

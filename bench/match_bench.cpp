@@ -138,7 +138,7 @@ void AddMatchFigures(Figures& figures) {
   const std::string early = name + " (floor: minute 10)";
   const auto add = [&](const std::string& benchmark, int until) {
     const auto work = [until](benchmark::State& state) { TickInWindow(state, until - Ticks); };
-    Figures::Register(benchmark, work)->Iterations(Ticks)->Repetitions(5)->UseManualTime();
+    Figures::Register(benchmark, work)->Iterations(Ticks)->Repetitions(10)->UseManualTime();
   };
   add(name, LastMinute);
   add(early, Ticks);

@@ -1,7 +1,6 @@
 // A match recorded into a league at its limits.
 #include <filesystem>
 #include <string>
-#include <vector>
 
 #include "engine/recording.h"
 #include "figures.h"

@@ -13,7 +13,7 @@ constexpr const char* Standings = ".rec";
 constexpr const char* Scorers = ".sco";
 constexpr const char* Results = ".lrs";
 
-constexpr std::size_t StandingsLines = 8;  ///< Of a row.
+constexpr std::size_t StandingsLines = 8, ScorerLines = 3;  ///< Of a row.
 
 constexpr std::string_view WinnerOf = "Winner ";
 
@@ -171,6 +171,7 @@ ChangedFile ChangedChampionship(const Championship& championship) {
   const bool league = championship.Kind == ChampionshipKind::League;
   const std::string count = std::to_string(championship.Fixtures.size());
   Lines lines;
+  lines.reserve(4 + championship.Teams.size() + 4 * championship.Fixtures.size());
   if (!league) lines.push_back(count);
   lines.push_back(championship.Name);
   lines.push_back(std::to_string(championship.Teams.size()));
@@ -243,9 +244,8 @@ FileResult AppendStandings(const ProgramFolder& folder, const std::string& leagu
 
 std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind kind,
                                    const std::string& name, FileResult* failure) {
-  constexpr std::size_t RowLines = 3;
   Reader reader(ReadFile(folder, kind, name + Scorers, failure));
-  std::vector<ScorerRow> scorers(reader.Left() / RowLines);
+  std::vector<ScorerRow> scorers(reader.Left() / ScorerLines);
   for (ScorerRow& row : scorers) {
     row.Player = reader.Take();
     row.Team = reader.Take();
@@ -255,10 +255,14 @@ std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind
 }
 
 FileResult WriteScorers(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
-                        const std::vector<ScorerRow>& scorers) {
+                        std::vector<ScorerRow> scorers) {
   Lines lines;
-  for (const ScorerRow& row : scorers)
-    lines.insert(lines.end(), {row.Player, row.Team, std::to_string(row.Goals)});
+  lines.reserve(ScorerLines * scorers.size());
+  for (ScorerRow& row : scorers) {
+    lines.push_back(std::move(row.Player));
+    lines.push_back(std::move(row.Team));
+    lines.push_back(std::to_string(row.Goals));
+  }
   return WriteFile(folder, kind, name + Scorers, lines);
 }
 

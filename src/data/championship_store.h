@@ -121,7 +121,7 @@ FileResult AppendStandings(const ProgramFolder& folder, const std::string& leagu
 std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind kind,
                                    const std::string& name, FileResult* failure = nullptr);
 FileResult WriteScorers(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
-                        const std::vector<ScorerRow>& scorers);
+                        std::vector<ScorerRow> scorers);
 
 /// The lines of the results log.
 Lines ReadResults(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name);

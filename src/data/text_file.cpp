@@ -1,13 +1,13 @@
 #include "data/text_file.h"
 
 #include <fcntl.h>
-#include <csignal>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
+#include <csignal>
 #include <system_error>
 
 #include "data/file_names.h"

@@ -4,6 +4,7 @@
 #include <array>
 #include <limits>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "data/team_store.h"
@@ -56,7 +57,7 @@ void FileRecording::StoreScorer(const MatchSession& session) {
     known = true;
   }
   if (!known) scorers.push_back({session.LastScorer, session.LastScoringTeam, 1});
-  Report(desktop_, WriteScorers(folder_, kind, name, scorers));
+  Report(desktop_, WriteScorers(folder_, kind, name, std::move(scorers)));
 }
 
 /// Files that an interruption has left in the middle of a change must not be built upon.

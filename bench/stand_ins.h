@@ -1,0 +1,40 @@
+// What the logic is handed while it is measured: nothing that costs anything or asks anyone.
+#pragma once
+
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+#include "base/desktop.h"
+#include "engine/match_screen.h"
+#include "engine/recording.h"
+
+namespace kickwell {
+
+/// A message means that something went wrong: what is measured then is not what should be.
+class SilentDesktop : public Desktop {
+ public:
+  void Inform(const std::string& /*text*/) override { std::abort(); }
+  void Warn(const std::string& /*text*/) override { std::abort(); }
+  bool Ask(const std::string& /*text*/) override { return true; }
+  std::optional<std::string> AskSaveName(const std::string& /*proposedName*/) override {
+    return std::nullopt;
+  }
+  void LoadSounds() override {}
+  void PlaySound(Sound /*sound*/) override {}
+};
+
+class NoRecording : public Recording {
+ public:
+  void StoreScorer(const MatchSession& /*session*/) override {}
+  void StoreResult(const MatchSession& /*session*/) override {}
+  void StoreLeagueResult(const MatchSession& /*session*/) override {}
+};
+
+class NoScreen : public MatchScreen {
+ public:
+  void Show() override {}
+  void PauseFunction() override {}
+};
+
+}  // namespace kickwell

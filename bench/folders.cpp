@@ -78,15 +78,15 @@ const ProgramFolder& FolderAtLimits() {
 }
 
 void WriteLeague(const ProgramFolder& folder, const Championship& league, int scorers, int logLines) {
-  std::vector<ScorerRow> rows;
-  rows.reserve(static_cast<std::size_t>(scorers));
+  Lines tallies;
   for (int i = 0; i < scorers; ++i) {
-    rows.push_back({"Player " + std::to_string(i), TeamName(i % 32), i % 40 + 1});
+    tallies.insert(tallies.end(),
+                   {"Player " + std::to_string(i), TeamName(i % 32), std::to_string(i % 40 + 1)});
   }
   Demand(WriteChampionship(folder, league));
   Demand(
       ChangeFiles(folder, {ChangedStandings(league.Name, ReadStandings(folder, league.Name, league.Teams))}));
-  Demand(WriteScorers(folder, ChampionshipKind::League, league.Name, rows));
+  Demand(WriteLines(folder.Leagues() / (league.Name + ".sco"), tallies, folder.Root));
   Demand(WriteLines(folder.Leagues() / (league.Name + ".lrs"), ResultsLog(logLines), folder.Root));
 }
 

@@ -1,7 +1,9 @@
 // Texts that stand for whole numbers, as users type them and files keep them.
 #pragma once
 
+#include <algorithm>
 #include <charconv>
+#include <limits>
 #include <string_view>
 
 namespace kickwell {
@@ -19,6 +21,11 @@ inline int ToNumber(std::string_view text) {
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number);
   return error == std::errc() && stop == end ? number : 0;
+}
+
+/// `figure` and `more`, which is not negative; at most the largest int, which a file may hold already.
+inline int Raised(int figure, int more) {
+  return figure + std::min(more, std::numeric_limits<int>::max() - std::max(figure, 0));
 }
 
 }  // namespace kickwell

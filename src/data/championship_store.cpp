@@ -254,15 +254,19 @@ std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind
   return scorers;
 }
 
-FileResult WriteScorers(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
-                        std::vector<ScorerRow> scorers) {
-  Lines lines;
-  lines.reserve(ScorerLines * scorers.size());
-  for (ScorerRow& row : scorers) {
-    lines.push_back(std::move(row.Player));
-    lines.push_back(std::move(row.Team));
-    lines.push_back(std::to_string(row.Goals));
+FileResult AddGoal(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
+                   const std::string& player, const std::string& team) {
+  FileResult failure;
+  Lines lines = ReadFile(folder, kind, name + Scorers, &failure);
+  if (!failure.Ok()) return failure;
+  lines.resize(lines.size() / ScorerLines * ScorerLines);
+  bool known = false;
+  for (std::size_t i = 0; i < lines.size(); i += ScorerLines) {
+    if (lines[i] != player) continue;
+    lines[i + 2] = std::to_string(Raised(ToNumber(lines[i + 2]), 1));
+    known = true;
   }
+  if (!known) lines.insert(lines.end(), {player, team, "1"});
   return WriteFile(folder, kind, name + Scorers, lines);
 }
 

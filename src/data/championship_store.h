@@ -120,8 +120,11 @@ FileResult AppendStandings(const ProgramFolder& folder, const std::string& leagu
 /// All scorers, in the order in which they first scored.
 std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind kind,
                                    const std::string& name, FileResult* failure = nullptr);
-FileResult WriteScorers(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
-                        std::vector<ScorerRow> scorers);
+
+/// Raises the tally of every scorer called `player` by one; without one, a new scorer of `team` comes last.
+/// The other scorers' lines stay as they are.
+FileResult AddGoal(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
+                   const std::string& player, const std::string& team);
 
 /// The lines of the results log.
 Lines ReadResults(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name);

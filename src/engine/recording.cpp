@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <optional>
 #include <utility>
 #include <vector>
 
+#include "base/number.h"
 #include "data/team_store.h"
 
 namespace kickwell {
@@ -22,17 +22,12 @@ bool IsFriendly(const MatchSession& session) {
   return session.Setup.Mode == MatchMode::Friendly;
 }
 
-/// Adds to a figure that a file may hold as large as any; it stops at the largest.
-void Add(int& figure, int more) {
-  figure += std::min(more, std::numeric_limits<int>::max() - std::max(figure, 0));
-}
-
 void AddMatch(StandingsRow& row, int& outcome, int goalsFor, int goalsAgainst, int points) {
-  Add(row.Played, 1);
-  Add(outcome, 1);
-  Add(row.GoalsFor, goalsFor);
-  Add(row.GoalsAgainst, goalsAgainst);
-  Add(row.Points, points);
+  row.Played = Raised(row.Played, 1);
+  outcome = Raised(outcome, 1);
+  row.GoalsFor = Raised(row.GoalsFor, goalsFor);
+  row.GoalsAgainst = Raised(row.GoalsAgainst, goalsAgainst);
+  row.Points = Raised(row.Points, points);
 }
 
 /// A side's part of the result line, with its penalties after a shoot-out.
@@ -45,34 +40,25 @@ std::string SideResult(const Side& side, int penalties, bool shootOut) {
 
 void FileRecording::StoreScorer(const MatchSession& session) {
   if (IsFriendly(session)) return;
-  const ChampionshipKind kind = KindOf(session);
-  const std::string& name = session.Setup.ChampionshipName;
-  FileResult failure;
-  std::vector<ScorerRow> scorers = ReadScorers(folder_, kind, name, &failure);
-  if (!Report(desktop_, failure)) return;
-  bool known = false;
-  for (ScorerRow& row : scorers) {
-    if (row.Player != session.LastScorer) continue;
-    Add(row.Goals, 1);
-    known = true;
-  }
-  if (!known) scorers.push_back({session.LastScorer, session.LastScoringTeam, 1});
-  Report(desktop_, WriteScorers(folder_, kind, name, std::move(scorers)));
+  Report(desktop_, AddGoal(folder_, KindOf(session), session.Setup.ChampionshipName, session.LastScorer,
+                           session.LastScoringTeam));
 }
 
-/// Files that an interruption has left in the middle of a change must not be built upon.
-void FileRecording::FinishEarlierChanges() {
+void FileRecording::ReadChampionshipOnce(const MatchSession& session) {
+  if (championship_) return;
+  // Files that an interruption has left in the middle of a change must not be built upon.
   Report(desktop_, FinishChanges(folder_));
+  const ChampionshipKind kind = KindOf(session);
+  const std::string fileName = MainFileName(kind, session.Setup.ChampionshipName);
+  championship_ = ReadChampionship(folder_, kind, fileName, &failure_);
 }
 
 void FileRecording::StoreResult(const MatchSession& session) {
   if (session.Setup.Mode != MatchMode::League) return;
-  FinishEarlierChanges();
+  ReadChampionshipOnce(session);
+  if (!championship_) return;
   const std::string& name = session.Setup.ChampionshipName;
-  const std::optional<Championship> league = ReadChampionship(
-      folder_, ChampionshipKind::League, MainFileName(ChampionshipKind::League, name), &failure_);
-  if (!league) return;
-  std::vector<StandingsRow> standings = ReadStandings(folder_, name, league->Teams, &failure_);
+  std::vector<StandingsRow> standings = ReadStandings(folder_, name, championship_->Teams, &failure_);
   const bool level = session.Side1FinalGoals == session.Side2FinalGoals;
   for (StandingsRow& row : standings) {
     const bool winner = row.Team == session.WinnerName;
@@ -96,12 +82,13 @@ void FileRecording::StoreLeagueResult(const MatchSession& session) {
       SideResult(session.Side1, session.Side1Penalties, shootOut) + " vs " +
           SideResult(session.Side2, session.Side2Penalties, shootOut),
       "Venue: " + session.Venue, AttendanceText(session), "Winner: " + session.ResultText};
-  if (session.Setup.Mode == MatchMode::KnockOut) FinishEarlierChanges();
+  ReadChampionshipOnce(session);
   const ChampionshipKind kind = KindOf(session);
   const std::string& name = session.Setup.ChampionshipName;
   changes_.push_back(ChangedResults(folder_, kind, name, block, &failure_));
   FileChanges(session);
   Report(desktop_, failure_.Ok() ? ChangeFiles(folder_, changes_) : failure_);
+  championship_.reset();
   changes_.clear();
   failure_ = {};
   selectAgain_(MainFileName(kind, name));
@@ -110,21 +97,19 @@ void FileRecording::StoreLeagueResult(const MatchSession& session) {
 void FileRecording::FileChanges(const MatchSession& session) {
   const ChampionshipKind kind = KindOf(session);
   const MatchSetup& setup = session.Setup;
-  std::optional<Championship> championship =
-      ReadChampionship(folder_, kind, MainFileName(kind, setup.ChampionshipName), &failure_);
-  if (!championship) return;
+  if (!championship_) return;
   // A team that has come through by toss has played without the suffix, where no team is really called so.
   const auto names = [&](const std::string& entry, const std::string& team) {
     return entry == team || (WithoutToss(entry) == team && !LoadTeam(folder_, entry));
   };
-  for (Fixture& fixture : championship->Fixtures) {
+  for (Fixture& fixture : championship_->Fixtures) {
     if (!names(fixture.Home, setup.Team1Name) || !names(fixture.Away, setup.Team2Name)) continue;
     fixture.Status = Played;
     fixture.Winner = session.ResultText;
   }
   if (kind == ChampionshipKind::KnockOut) {
     const std::string placeholder = WinnerPlaceholder(setup.MatchNumber);
-    for (Fixture& fixture : championship->Fixtures) {
+    for (Fixture& fixture : championship_->Fixtures) {
       if (fixture.Home == placeholder) {
         fixture.Home = session.ResultText;
       } else if (fixture.Away == placeholder) {
@@ -132,7 +117,7 @@ void FileRecording::FileChanges(const MatchSession& session) {
       }
     }
   }
-  changes_.push_back(ChangedChampionship(*championship));
+  changes_.push_back(ChangedChampionship(*championship_));
 }
 
 }  // namespace kickwell

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -48,13 +49,16 @@ class FileRecording final : public Recording {
 
  private:
   void FileChanges(const MatchSession& session);
-  void FinishEarlierChanges();
+  void ReadChampionshipOnce(const MatchSession& session);
 
   ProgramFolder folder_;
   Desktop& desktop_;
   SelectAgain selectAgain_;
-  std::vector<ChangedFile> changes_;  ///< Of the match that is being recorded.
-  FileResult failure_;                ///< What keeps it from being recorded.
+
+  // Of the match that is being recorded.
+  std::optional<Championship> championship_;
+  std::vector<ChangedFile> changes_;
+  FileResult failure_;  ///< What keeps it from being recorded.
 };
 
 }  // namespace kickwell

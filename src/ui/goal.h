@@ -34,7 +34,7 @@ class KickMark final : public QWidget {
  public:
   KickMark();
 
-  void SetMarker(const KickMarker& marker);
+  void SetMarker(const KickMarker& marker, const QString& kick);  ///< `kick` says whose and which it is.
 
  protected:
   void paintEvent(QPaintEvent* event) override;

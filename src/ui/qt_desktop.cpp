@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <utility>
 
+#include "ui/text_label.h"
 #include "ui/widgets.h"
 
 namespace kickwell {
@@ -13,7 +14,7 @@ namespace {
 /// Names from damaged files may be endless; a box must still fit the screen and say what is the matter.
 QString Shortened(const QString& text) {
   constexpr qsizetype Longest = 600;
-  return text.size() <= Longest ? text : text.left(Longest / 2) + " ... " + text.right(Longest / 2);
+  return Broken(text.size() <= Longest ? text : text.left(Longest / 2) + " ... " + text.right(Longest / 2));
 }
 
 QWidget* WindowInUse() {
@@ -23,7 +24,7 @@ QWidget* WindowInUse() {
 
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, const std::string& text,
                                  QMessageBox::StandardButtons buttons) {
-  QMessageBox box(icon, ToQt(ProgramTitle), Shortened(ToQt(text)), buttons, WindowInUse());
+  QMessageBox box(icon, ToQt(ProgramTitle), Shortened(Shown(text)), buttons, WindowInUse());
   box.setObjectName("MessageBox");
   box.setTextFormat(Qt::PlainText);
   return static_cast<QMessageBox::StandardButton>(box.exec());

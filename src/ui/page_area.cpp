@@ -1,0 +1,48 @@
+#include "ui/page_area.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QStyle>
+
+namespace kickwell {
+
+QSize RoomOnScreen(const QWidget* widget) {
+  const int title = 2 * widget->style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  const int frame = 4 * widget->style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+  return widget->screen()->availableSize() - QSize(frame, title);
+}
+
+PageArea::PageArea(QWidget* page) {
+  setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);
+  setWidgetResizable(true);
+  setWidget(page);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
+    if (now != nullptr && widget()->isAncestorOf(now)) ensureWidgetVisible(now);
+  });
+}
+
+QSize PageArea::OnScreen(const QSize& wanted) const {
+  const QSize room = RoomOnScreen(this);
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  // The bar that one direction needs takes its room from the other one.
+  const QSize bars(wanted.height() > room.height() ? bar : 0, wanted.width() > room.width() ? bar : 0);
+  return (wanted + bars).boundedTo(room);
+}
+
+QSize PageArea::sizeHint() const {
+  return OnScreen(widget()->sizeHint());
+}
+
+QSize PageArea::minimumSizeHint() const {
+  return OnScreen(widget()->minimumSizeHint());
+}
+
+bool PageArea::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  return QScrollArea::eventFilter(watched, event);
+}
+
+}  // namespace kickwell

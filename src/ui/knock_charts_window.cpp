@@ -88,7 +88,7 @@ void BracketView::resizeEvent(QResizeEvent* /*event*/) {
 void BracketView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(palette().color(QPalette::Mid), 1.5));
+  painter.setPen(QPen(FaintText(palette()), 1.2));
   for (const auto& [home, away, winner] : charts_.Matches) {
     const QRectF next = BoxOf(winner);
     const QPointF join((BoxOf(home).right() + next.left()) / 2, next.center().y());
@@ -117,6 +117,7 @@ KnockChartsWindow::KnockChartsWindow(KnockCharts& charts, QWidget* parent)
   layout->addWidget(label1);
   layout->addWidget(new BracketView(charts), 1);
   layout->addWidget(command3, 0, Qt::AlignRight);
+  command3->setFocus();
   OpenAt(980, 640);
 }
 

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyle>
+#include <algorithm>
 
 namespace kickwell {
 
@@ -19,8 +21,9 @@ PageArea::PageArea(QWidget* page) {
   setFocusPolicy(Qt::NoFocus);
   setWidgetResizable(true);
   setWidget(page);
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*old*/, QWidget* now) {
-    if (now != nullptr && widget()->isAncestorOf(now)) ensureWidgetVisible(now);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
+    const bool within = now != nullptr && widget()->isAncestorOf(now);
+    if (within && old != nullptr && widget()->isAncestorOf(old)) ensureWidgetVisible(now);
   });
 }
 
@@ -37,7 +40,11 @@ QSize PageArea::sizeHint() const {
 }
 
 QSize PageArea::minimumSizeHint() const {
-  return OnScreen(widget()->minimumSizeHint());
+  QSize smallest = widget()->minimumSizeHint();
+  const QLayout* const layout = widget()->layout();
+  if (layout != nullptr && layout->hasHeightForWidth())
+    smallest.setHeight(std::max(smallest.height(), layout->totalMinimumHeightForWidth(smallest.width())));
+  return OnScreen(smallest);
 }
 
 bool PageArea::eventFilter(QObject* watched, QEvent* event) {

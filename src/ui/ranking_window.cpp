@@ -67,6 +67,7 @@ RankingWindow::RankingWindow(Ranking& ranking, const char* name, const QString& 
             [this, by = step] { MoveBar(ranking_.Pages.Highlight + by); });
   }
   Show();
+  if (ranking_.Pages.RowCount() > 0 && !ranking_.Pages.NextEnabled()) markers_[0]->setFocus();
   OpenAt(width, 0);
 }
 

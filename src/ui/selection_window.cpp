@@ -16,6 +16,8 @@
 namespace kickwell {
 namespace {
 
+constexpr int UsualName = 14;  ///< Two choosers stand side by side.
+
 /// A figure beside its caption, in two columns of the grid.
 QLabel* AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& name,
                   const QString& text) {
@@ -86,6 +88,7 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
     column.Combos[at]->setModel(column.Squad);
     const QString player = team + tr(", player %1").arg(i + 1);
     Name(column.Combos[at], player);
+    column.Combos[at]->setMinimumContentsLength(UsualName);
     column.Posts[at] = MakeText(ArrayName(post, i), {}, Qt::AlignHCenter);
     column.Posts[at]->setMinimumWidth(fontMetrics().horizontalAdvance("MMMM"));
     SetFigureCaption(column.Posts[at], player + tr(", position"));

@@ -49,6 +49,9 @@ class Tour {
     return user_.Finish();
   }
 
+  /// Lets the program go on while a screen is looked at.
+  void Wait(int milliseconds) { user_.Wait(milliseconds); }
+
  private:
   void Open(Qt::Key menu, Qt::Key item) {
     user_.In("Opening", [=](QWidget& window) { User::Choose(window, menu, item); });

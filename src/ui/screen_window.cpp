@@ -47,6 +47,8 @@ void ScreenWindow::Act(const std::function<void()>& action) {
     Show();
   } else if (isVisible()) {  // An action within this one may have closed the window already.
     done(Accepted);
+    // Where two screens close at once, a window manager may lose the keyboard.
+    if (parentWidget() != nullptr) parentWidget()->activateWindow();
   }
 }
 

@@ -5,7 +5,6 @@
 #include <QMessageBox>
 #include <utility>
 
-#include "ui/text_label.h"
 #include "ui/widgets.h"
 
 namespace kickwell {
@@ -14,7 +13,7 @@ namespace {
 /// Names from damaged files may be endless; a box must still fit the screen and say what is the matter.
 QString Shortened(const QString& text) {
   constexpr qsizetype Longest = 600;
-  return Broken(text.size() <= Longest ? text : text.left(Longest / 2) + " ... " + text.right(Longest / 2));
+  return text.size() <= Longest ? text : text.left(Longest / 2) + " ... " + text.right(Longest / 2);
 }
 
 QWidget* WindowInUse() {

@@ -15,12 +15,13 @@ constexpr int UsualLength = 40;    ///< Characters that a label asks room for at
 constexpr int SmallestLength = 8;  ///< Characters that it insists on at most.
 constexpr int LongestTip = 600;
 
-}  // namespace
-
+/// With places where a run without blanks may be broken, or the tip would be as long as the run.
 QString Broken(QString text) {
   static const QRegularExpression longRun(QStringLiteral("(\\S{40})(?=\\S)"));
   return text.replace(longRun, QStringLiteral("\\1\u200B"));
 }
+
+}  // namespace
 
 QString PlainTip(const QString& text) {
   if (text.isEmpty()) return {};

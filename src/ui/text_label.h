@@ -5,9 +5,6 @@
 
 namespace kickwell {
 
-/// `text` with places where a run without blanks may be broken, so that it fits any box that wraps.
-QString Broken(QString text);
-
 /// A tool tip that shows `text` as it stands: Qt would guess at markup. No tip for an empty text.
 QString PlainTip(const QString& text);
 

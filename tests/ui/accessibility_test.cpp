@@ -30,8 +30,11 @@ std::vector<QWidget*> Seen(QWidget& window) {
   return seen;
 }
 
+/// What Tab stops at; of a ranking that is the marked row.
 bool IsControl(const QWidget* widget) {
-  return widget->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(widget) != nullptr;
+  static const QStringList pictures{"Picture1", "Picture2", "Marker(1)"};
+  return widget->focusPolicy() != Qt::NoFocus || qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+         pictures.contains(widget->objectName());
 }
 
 auto Letters(const QString& text) {

@@ -22,7 +22,8 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   for (QComboBox* const number : {from_, to_}) number->setMinimumContentsLength(6);
   auto* const range = new QHBoxLayout;
   range->addWidget(from_);
-  range->addWidget(MakeCaption(tr("To"), to_));
+  QLabel* const to = MakeCaption(tr("To"), to_);
+  range->addWidget(to);
   range->addWidget(to_);
   range->addStretch();
 
@@ -35,7 +36,7 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   buttons->addWidget(command1);
   buttons->addWidget(command2);
 
-  auto* const layout = new QVBoxLayout(this);
+  auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(24, 20, 24, 20);
   layout->setSpacing(4);
   const auto add = [layout](QWidget* caption, auto&& content) {
@@ -48,6 +49,9 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   add(MakeCaption(league ? tr("League Fixtures:") : tr("Knock Out Fixtures:"), fixtures_),
       [&] { layout->addWidget(fixtures_, 1); });
   add(MakeCaption(tr("Play Matches:"), from_), [&] { layout->addLayout(range); });
+  Name(from_, tr("Play Matches from"));
+  Name(to_, tr("Play Matches to"));
+  to->setAccessibleName(tr("Play Matches to"));
   add(MakeCaption(tr("Match Simulation Type:"), simulationType_),
       [&] { layout->addWidget(simulationType_); });
   layout->addLayout(buttons);
@@ -64,7 +68,7 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   connect(command2, &QPushButton::clicked, this, [this] { Act([this] { play_.Command2_Click(); }); });
   play_.Changed = [this] { Show(); };
   Show();
-  resize(460, 560);
+  OpenAt(460, 560);
 }
 
 void ChampionshipPlayWindow::Show() {
@@ -72,8 +76,10 @@ void ChampionshipPlayWindow::Show() {
   ShowList(fixtures_, play_.FixtureList);
   for (int i = 0; i < fixtures_->count(); ++i) {
     const bool played = play_.IsPlayed(i);
-    fixtures_->item(i)->setForeground(palette().brush(played ? QPalette::PlaceholderText : QPalette::Text));
+    fixtures_->item(i)->setForeground(played ? FaintText(palette()) : palette().color(QPalette::Text));
     fixtures_->item(i)->setToolTip(played ? tr("Played") : QString());
+    fixtures_->item(i)->setData(Qt::AccessibleTextRole,
+                                fixtures_->item(i)->text() + (played ? ", " + tr("Played") : QString()));
   }
   ShowChooser(from_, play_.From);
   ShowChooser(to_, play_.To);

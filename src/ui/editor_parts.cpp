@@ -26,6 +26,10 @@ Section::Section(const QString& title) : Box(new QGroupBox(title)), Form(new QFo
 
 void Section::Add(const QString& caption, QWidget* control) {
   Form->addRow(MakeCaption(caption, control), control);
+  // The sections have fields of the same captions.
+  const QString name = Box->title() + ", " + control->accessibleName();
+  control->setAccessibleName(name);
+  if (auto* const combo = qobject_cast<QComboBox*>(control)) Name(combo, name);
 }
 
 void Section::AddButton(QPushButton* button) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "ui/accessible.h"
 #include "ui/ball.h"
 #include "ui/widgets.h"
 
@@ -97,6 +98,9 @@ QColor LampColour(Lamp lamp) {
 
 Goal::Goal(int glide) : ball_(PenaltySpot.Left, PenaltySpot.Top), target_(PenaltySpot) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setFocusPolicy(Qt::TabFocus);
+  SetRole(this, QAccessible::Graphic);
+  setAccessibleName(tr("Goal"));
   flight_.setDuration(glide);
   flight_.setEasingCurve(QEasingCurve::OutQuad);
   connect(&flight_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
@@ -130,20 +134,23 @@ void Goal::paintEvent(QPaintEvent* /*event*/) {
   painter.resetTransform();
   const qreal near = ball_.y() / PenaltySpot.Top;
   DrawBall(painter, scene.map(OnScene(ball_)), std::max(4.0, height() * (0.032 + 0.035 * near)));
+  DrawFocus(this);
 }
 
 KickMark::KickMark() {
+  SetRole(this, QAccessible::Graphic);
   const int size = Twips(this, ColumnWidth);
   setFixedSize(size, size);
 }
 
-void KickMark::SetMarker(const KickMarker& marker) {
+void KickMark::SetMarker(const KickMarker& marker, const QString& kick) {
   if (colour_ != marker.Colour) update();
   colour_ = marker.Colour;
   setVisible(marker.Visible);
-  setAccessibleName(colour_ == Lamp::Black   ? tr("To come")
-                    : colour_ == Lamp::Green ? tr("Goal")
-                                             : tr("Miss"));
+  setAccessibleName(kick + ": " +
+                    (colour_ == Lamp::Black   ? tr("To come")
+                     : colour_ == Lamp::Green ? tr("Goal")
+                                              : tr("Miss")));
 }
 
 void KickMark::paintEvent(QPaintEvent* /*event*/) {

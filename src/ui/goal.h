@@ -18,7 +18,7 @@ class Goal final : public QWidget {
   void SetBall(SpotPoint point);
 
   QSize sizeHint() const override { return {560, 240}; }
-  QSize minimumSizeHint() const override { return {320, 130}; }
+  QSize minimumSizeHint() const override { return {240, 100}; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -34,7 +34,7 @@ class KickMark final : public QWidget {
  public:
   KickMark();
 
-  void SetMarker(const KickMarker& marker);
+  void SetMarker(const KickMarker& marker, const QString& kick);  ///< `kick` says whose and which it is.
 
  protected:
   void paintEvent(QPaintEvent* event) override;

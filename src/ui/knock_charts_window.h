@@ -8,12 +8,13 @@
 
 namespace kickwell {
 
-/// The bracket: a box for each slot and lines from each pair to its winner's slot.
+/// The bracket: a box for each slot and lines from each pair to its winner's slot. Screen readers are told
+/// the matches in their order.
 class BracketView final : public QWidget {
  public:
   explicit BracketView(const KnockCharts& charts);
 
-  QSize minimumSizeHint() const override { return {640, 400}; }
+  QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -21,6 +22,7 @@ class BracketView final : public QWidget {
 
  private:
   QRectF BoxOf(int slot) const;
+  void NameSlots();
 
   const KnockCharts& charts_;
   std::array<QLabel*, SlotTotal> team_{};

@@ -38,7 +38,7 @@ LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
   kind->addStretch();
   OnPick(kind_, [this](int entry) { editor_.Kind_Click(entry); });
 
-  auto* const layout = new QVBoxLayout(this);
+  auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addLayout(kind);
@@ -48,7 +48,7 @@ LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
       Button("Exit", tr("E&xit Kickwell Championship Editor"), [this] { editor_.Exit_Click(); }), 0,
       Qt::AlignRight);
   Show();
-  resize(900, 640);
+  OpenAt(900, 640);
 }
 
 void LegEditorWindow::OnPick(QComboBox* combo, std::function<void(int)> action) {
@@ -68,15 +68,13 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   widgets.Name = MakeTextBox(prefix + "Name", LongestName, side.Name);
   widgets.Name->setMinimumWidth(widgets.Name->fontMetrics().horizontalAdvance(QString(LongestName, 'M')));
 
-  QLabel* const heading = MakeCaption(IsLeague(side) ? tr("League Details") : tr("Tournie Details"));
-  QFont large = heading->font();
-  large.setBold(true);
-  large.setPointSizeF(large.pointSizeF() * 1.3);
-  heading->setFont(large);
+  QLabel* const heading =
+      Enlarged(MakeCaption(IsLeague(side) ? tr("League Details") : tr("Tournie Details")), 1.3);
   auto* const name = new QHBoxLayout;
   name->addWidget(MakeCaption(tr("Championship")));
   name->addSpacing(12);
   name->addWidget(MakeCaption(IsLeague(side) ? tr("League:") : tr("Knock Out:"), widgets.Name));
+  widgets.Name->setAccessibleName(IsLeague(side) ? tr("Championship League") : tr("Championship Knock Out"));
   name->addWidget(widgets.Name);
   name->addStretch();
 
@@ -123,7 +121,7 @@ QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, con
   int row = 0;
   if (!IsLeague(side)) {
     widgets.NumberOfTeams = MakeText("NumberOfTeams", "2");
-    counts->addWidget(MakeCaption(tr("Total number of teams:")), row, 0);
+    counts->addWidget(MakeFigureCaption(tr("Total number of teams:"), widgets.NumberOfTeams), row, 0);
     counts->addWidget(widgets.NumberOfTeams, row, 1);
     counts->addWidget(
         ArrowButton("MoreTeams", QStyle::SP_ArrowUp, tr("More teams"), [this] { editor_.MoreTeams_Click(); }),
@@ -132,13 +130,15 @@ QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, con
                                   [this] { editor_.FewerTeams_Click(); }),
                       row++, 3);
   }
-  counts->addWidget(
-      MakeCaption(IsLeague(side) ? tr("Total teams in the League:") : tr("Total teams currently selected:")),
-      row, 0);
+  counts->addWidget(MakeFigureCaption(IsLeague(side) ? tr("Total teams in the League:")
+                                                     : tr("Total teams currently selected:"),
+                                      widgets.TeamCount),
+                    row, 0);
   counts->addWidget(widgets.TeamCount, row++, 1);
   counts->addWidget(
-      MakeCaption(IsLeague(side) ? tr("Total matches in the League:") : tr("Total number of matches:")), row,
-      0);
+      MakeFigureCaption(IsLeague(side) ? tr("Total matches in the League:") : tr("Total number of matches:"),
+                        widgets.MatchCount),
+      row, 0);
   counts->addWidget(widgets.MatchCount, row, 1);
   counts->setColumnStretch(4, 1);
   grid->addLayout(counts, 2, 0, 1, 3);
@@ -182,11 +182,7 @@ QLayout* LegEditorWindow::BuildFiles(SideWidgets& widgets, EditorSide& side, con
   layout->addWidget(MakeCaption(tr("Open / Load"), widgets.Load));
   layout->addWidget(widgets.Load);
   layout->addStretch();
-  auto* const heading = new QLabel(tr("Save / Delete"));
-  QFont bold = heading->font();
-  bold.setBold(true);
-  heading->setFont(bold);
-  layout->addWidget(heading);
+  layout->addWidget(MakeCaption(tr("Save / Delete"), nullptr));
   layout->addWidget(Button(prefix + "Save", IsLeague(side) ? tr("&Save League") : tr("&Save Knock Out"),
                            [this, &side] { editor_.Save_Click(side); }));
   layout->addWidget(Button(prefix + "Delete", IsLeague(side) ? tr("Delete &League") : tr("Delete &Knock Out"),

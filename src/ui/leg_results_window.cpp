@@ -21,7 +21,7 @@ LegResultsWindow::LegResultsWindow(LegResults& results, QWidget* parent)
   buttons->addWidget(command2_);
   buttons->addStretch();
   buttons->addWidget(command1);
-  auto* const layout = new QVBoxLayout(this);
+  auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addWidget(label1_);
@@ -30,11 +30,11 @@ LegResultsWindow::LegResultsWindow(LegResults& results, QWidget* parent)
   connect(command2_, &QPushButton::clicked, this, [this] { Act([this] { results_.Command2_Click(); }); });
   connect(command1, &QPushButton::clicked, this, [this] { Act([this] { results_.Command1_Click(); }); });
   Show();
-  resize(560, 560);
+  OpenAt(560, 560);
 }
 
 void LegResultsWindow::Show() {
-  label1_->setText(ToQt(results_.Label1));
+  label1_->setText(Shown(results_.Label1));
   ShowList(list1_, results_.List1);
   command2_->setEnabled(results_.Command2Enabled());
 }

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/accessible.h"
 #include "ui/widgets.h"
 
 namespace kickwell {
@@ -43,14 +44,6 @@ class ScoreBoard final : public QWidget {
   }
 };
 
-QLabel* Enlarged(QLabel* label, qreal factor) {
-  QFont font = label->font();
-  font.setPointSizeF(font.pointSizeF() * factor);
-  font.setBold(true);
-  label->setFont(font);
-  return label;
-}
-
 void SetColours(QWidget* widget, const QColor& background, const QColor& text) {
   QPalette palette = widget->palette();
   if (palette.color(QPalette::Window) == background && palette.color(QPalette::WindowText) == text) return;
@@ -78,12 +71,11 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
       comSave_(MakeButton("ComSave", {})),
       command1_(MakeButton("Command1", tr("E&xit"))) {
   picture2_->setObjectName("Picture2");
-  picture2_->setAccessibleName(tr("Pitch"));
   auto* const place = new QHBoxLayout;
   place->addWidget(ven_, 1);
   place->addWidget(label1_);
 
-  QWidget* const scoreBoard = BuildScoreBoard();
+  scoreBoard_ = BuildScoreBoard();
   auto* const field = new QHBoxLayout;
   field->setSpacing(12);
   field->addWidget(BuildFacts(side1_, 1));
@@ -91,10 +83,10 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
   field->addWidget(BuildShootOut(), 1);
   field->addWidget(BuildFacts(side2_, 2));
 
-  auto* const layout = new QVBoxLayout(this);
+  auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(16, 16, 16, 16);
   layout->setSpacing(12);
-  layout->addWidget(scoreBoard);
+  layout->addWidget(scoreBoard_);
   layout->addLayout(place);
   layout->addLayout(field, 3);
   layout->addLayout(BuildLists(), 2);
@@ -106,11 +98,12 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
   timer1_.setInterval(timings_.Tick);
   Show();
   (instant_->isHidden() ? halftime_ : instant_)->setFocus();
-  resize(920, 680);
+  OpenAt(920, 680);
 }
 
 QWidget* MatchWindow::BuildScoreBoard() {
   auto* const board = new ScoreBoard;
+  SetRole(board, QAccessible::StatusBar);
   BuildScore(side1_, 1);
   BuildScore(side2_, 2);
   QLabel* const label11 = MakeCaption(tr("Match Timer"));
@@ -118,6 +111,7 @@ QWidget* MatchWindow::BuildScoreBoard() {
   label11->setAlignment(Qt::AlignCenter);
   label2_->setObjectName("Label2");
   label2_->setAutoFillBackground(true);
+  SetFigureCaption(label3_, tr("Match Timer"));
   Enlarged(label3_, 1.9);
   label3_->setMinimumWidth(label3_->fontMetrics().horizontalAdvance("000:00") + 24);
   auto* const lamp = new QHBoxLayout(label2_);  // The clock's text stands on the lamp.
@@ -187,7 +181,6 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
 QWidget* MatchWindow::BuildShootOut() {
   shootOut_ = new QWidget;
   picture1_->setObjectName("Picture1");
-  picture1_->setAccessibleName(tr("Goal"));
   QLabel* const label8 = MakeCaption(tr("PENALTY SHOOT OUT:"));
   label8->setObjectName("Label8");
   Enlarged(label8, 1.1);
@@ -232,7 +225,7 @@ QLayout* MatchWindow::BuildLists() {
     options->addWidget(option1_[at]);
     list1_[at] = MakeList(ArrayName("List1", i));
     list1_[at]->setAccessibleName(names[i]);
-    list1_[at]->setMinimumHeight(90);
+    list1_[at]->setMinimumHeight(5 * list1_[at]->fontMetrics().height() + 8);
     layout->addWidget(list1_[at]);
   }
   options->addStretch();
@@ -279,19 +272,47 @@ void MatchWindow::Show() {
   const MatchControls& controls = session.Controls;
   ShowSide(side1_, session.Side1, session.Side1Penalties, session.BallSide == 1);
   ShowSide(side2_, session.Side2, session.Side2Penalties, session.BallSide == 2);
-  ven_->setText(ToQt(session.Venue));
-  label1_->setText(ToQt(AttendanceText(session)));
+  ven_->setText(Shown(session.Venue));
+  label1_->setText(Shown(AttendanceText(session)));
   picture2_->SetBall(session.BallX, session.BallY);
   ShowClock(controls);
   ShowShootOut(controls);
   ShowLists(session);
   ShowButtons(controls);
+  TellState(session);
+}
+
+void MatchWindow::TellState(const MatchSession& session) {
+  const auto score = [](const Side& side) { return Shown(side.Team) + " " + QString::number(side.Goals); };
+  QStringList state{score(session.Side1), score(session.Side2)};
+  scoreBoard_->setAccessibleName(state.join(", "));
+  if (!session.Controls.Label3.empty()) state.append(Shown(session.Controls.Label3));
+  if (session.BallSide != 0) {
+    const bool first = session.BallSide == 1;
+    const int third = std::clamp(session.BallX * 3 / (2 * CentreSpotX), 0, 2);
+    const QString places[] = {tr("on the left"), tr("in midfield"), tr("on the right")};
+    state.append(tr("ball with ") + Shown((first ? session.Side1 : session.Side2).Team) + " " +
+                 places[third]);
+  }
+  const Chooser& lines = session.Commentary.Entries.empty() ? session.Summary : session.Commentary;
+  if (!lines.Entries.empty()) state.append(Shown(lines.Entries.back()));
+  for (QWidget* const picture : {static_cast<QWidget*>(picture1_), static_cast<QWidget*>(picture2_)})
+    picture->setAccessibleDescription(state.join(", "));
 }
 
 void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, int penalties, bool hasBall) const {
   const bool pens = match_.Session().Controls.PensVisible;
-  widgets.Team->setText(ToQt(side.Team));
-  widgets.Takers->setText(ToQt(side.Team));
+  const QString team = Shown(side.Team);
+  SetFigureCaption(widgets.Goals, team + tr(", goals"));
+  SetFigureCaption(widgets.Penalties, team + tr(", penalties"));
+  SetFigureCaption(widgets.Shots, team + tr(", shots"));
+  SetFigureCaption(widgets.Corners, team + tr(", corners"));
+  SetFigureCaption(widgets.Bookings, team + tr(", bookings"));
+  SetFigureCaption(widgets.Fouls, team + tr(", fouls"));
+  SetFigureCaption(widgets.Possession,
+                   team + (hasBall ? tr(", has the ball, possession") : tr(", possession")));
+  widgets.Team->setText(team);
+  widgets.Takers->setText(team);
   widgets.Goals->setText(QString::number(side.Goals));
   widgets.Penalties->setText(QStringLiteral("(%1)").arg(penalties));
   widgets.Penalties->setVisible(pens);
@@ -306,7 +327,9 @@ void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, int pen
 }
 
 void MatchWindow::ShowClock(const MatchControls& controls) {
-  label3_->setText(ToQt(controls.Label3));
+  label3_->setText(Shown(controls.Label3));
+  const QString lamps[] = {tr("Lamp: dark"), tr("Lamp: green"), tr("Lamp: red")};
+  label2_->setAccessibleName(lamps[static_cast<std::size_t>(controls.Label2)]);
   const bool dark = controls.Label2 == Lamp::Black;
   SetColours(label2_, LampColour(controls.Label2), LampColour(dark ? Lamp::Green : Lamp::Black));
   if (!controls.Timer1Enabled) {
@@ -317,10 +340,15 @@ void MatchWindow::ShowClock(const MatchControls& controls) {
 }
 
 void MatchWindow::ShowShootOut(const MatchControls& controls) {
+  const bool onPitch = focusWidget() == picture2_;
   picture2_->setVisible(!controls.ShootOutVisible);
   shootOut_->setVisible(controls.ShootOutVisible);
   picture1_->SetBall(controls.Shape2);
-  for (std::size_t n = 0; n < penalty_.size(); ++n) penalty_[n]->SetMarker(controls.penalty[n]);
+  if (onPitch && controls.ShootOutVisible) picture1_->setFocus();
+  for (std::size_t n = 0; n < penalty_.size(); ++n) {
+    const Side& side = n % 2 == 0 ? match_.Session().Side1 : match_.Session().Side2;
+    penalty_[n]->SetMarker(controls.penalty[n], Shown(side.Team) + tr(", kick %1").arg(n / 2 + 1));
+  }
 }
 
 void MatchWindow::ShowLists(const MatchSession& session) {
@@ -333,7 +361,7 @@ void MatchWindow::ShowLists(const MatchSession& session) {
     option1_[at]->setEnabled(session.Controls.Option1Enabled);
     option1_[at]->setChecked(onView);
   }
-  comSave_->setText(ToQt(match_.ComSaveCaption()));
+  comSave_->setText(Shown(match_.ComSaveCaption()));
 }
 
 void MatchWindow::ShowButtons(const MatchControls& controls) {
@@ -345,7 +373,7 @@ void MatchWindow::ShowButtons(const MatchControls& controls) {
                           {instant_, controls.instantVisible, controls.instantEnabled},
                           {kick_, controls.ShootOutVisible, controls.kickEnabled},
                           {nextshot_, controls.ShootOutVisible, controls.nextshotEnabled}};
-  halftime_->setText(ToQt(ToText(match_.Session().Period)));
+  halftime_->setText(Shown(ToText(match_.Session().Period)));
   // A button that goes dark would pass the focus on to the next button, and Enter with it. The list on view
   // takes it instead, from where Enter still presses the button that is lit.
   for (const Play& play : buttons) {

@@ -53,6 +53,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   void ShowShootOut(const MatchControls& controls);
   void ShowLists(const MatchSession& session);
   void ShowButtons(const MatchControls& controls);
+  void TellState(const MatchSession& session);
 
   Match& match_;
   MatchTimings timings_;
@@ -61,7 +62,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   QLabel *label1_, *ven_, *label2_, *label3_;
   Pitch* picture2_;
   Goal* picture1_;
-  QWidget* shootOut_ = nullptr;
+  QWidget *scoreBoard_ = nullptr, *shootOut_ = nullptr;
   std::array<KickMark*, KickCount> penalty_{};
   std::array<QListWidget*, 2> list1_{};
   std::array<QRadioButton*, 2> option1_{};

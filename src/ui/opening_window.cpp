@@ -6,6 +6,8 @@
 #include <QVBoxLayout>
 
 #include "base/program.h"
+#include "ui/accessible.h"
+#include "ui/page_area.h"
 #include "ui/widgets.h"
 
 namespace kickwell {
@@ -30,12 +32,17 @@ class Grass : public QWidget {
 };
 
 QLabel* AddText(QVBoxLayout* layout, const QString& name, const QString& text, qreal size, bool bold) {
-  QLabel* const label = MakeText(name, text, Qt::AlignHCenter);
+  // What is fixed is always shown whole.
+  QLabel* const label = text.isEmpty() ? MakeText(name, text) : MakeCaption(text);
+  label->setObjectName(name);
+  label->setAlignment(Qt::AlignCenter);
+  Enlarged(label, size);
   QFont font = label->font();
-  font.setPointSizeF(font.pointSizeF() * size);
   font.setBold(bold);
   label->setFont(font);
-  label->setStyleSheet("color: white");
+  QPalette white = label->palette();
+  white.setColor(QPalette::WindowText, Qt::white);
+  label->setPalette(white);
   layout->addWidget(label);
   return label;
 }
@@ -46,10 +53,10 @@ OpeningWindow::OpeningWindow(Opening& opening) : opening_(opening) {
   setObjectName("Opening");
   setWindowTitle(tr("Kickwell v4.0"));
   BuildMenus();
-  setCentralWidget(BuildTitle());
+  setCentralWidget(new PageArea(BuildTitle()));
   Show();
   opening_.Changed = [this] { Show(); };
-  resize(640, 420);
+  resize(QSize(640, 420).expandedTo(sizeHint()).boundedTo(RoomOnScreen(this)));
 }
 
 void OpeningWindow::BuildMenus() {
@@ -101,6 +108,7 @@ QWidget* OpeningWindow::BuildTitle() {
   layout->addStretch(1);
   AddText(layout, "Label4", tr("League/Tournament"), 1, false);
   league_ = AddText(layout, "league", {}, 1.5, true);
+  SetFigureCaption(league_, tr("League/Tournament"));
   layout->addStretch(2);
   AddText(layout, "Label2", tr("Programming and Design"), 0.9, false);
   AddText(layout, "Label3", ToQt(Credits), 1, true);
@@ -111,8 +119,8 @@ QWidget* OpeningWindow::BuildTitle() {
 }
 
 void OpeningWindow::Show() {
-  league_->setText(ToQt(opening_.ChampionshipName));
-  mode_->setText(ToQt(ToText(opening_.Mode)));
+  league_->setText(Shown(opening_.ChampionshipName));
+  mode_->setText(Shown(ToText(opening_.Mode)));
   statistics_->menuAction()->setEnabled(opening_.StatisticsEnabled);
   leagueMenu_->setVisible(opening_.LeagueMenuVisible);
   knockChart_->setVisible(opening_.KnockChartVisible);

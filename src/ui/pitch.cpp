@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "engine/match_session.h"
+#include "ui/accessible.h"
 #include "ui/ball.h"
 
 namespace kickwell {
@@ -76,6 +77,9 @@ void DrawLines(QPainter& painter) {
 
 Pitch::Pitch(int glide) : ball_(CentreSpotX, CentreSpotY), target_(ball_) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setFocusPolicy(Qt::TabFocus);
+  SetRole(this, QAccessible::Graphic);
+  setAccessibleName(tr("Pitch"));
   glide_.setDuration(glide);
   glide_.setEasingCurve(QEasingCurve::InOutQuad);
   connect(&glide_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
@@ -88,7 +92,6 @@ void Pitch::SetBall(int x, int y) {
   const QPointF target(x, y);
   if (target == target_) return;
   target_ = target;
-  setAccessibleDescription(tr("The ball is at %1, %2 of 5090, 740").arg(x).arg(y));
   glide_.stop();
   if (isVisible()) {
     glide_.setStartValue(ball_);
@@ -111,6 +114,7 @@ void Pitch::paintEvent(QPaintEvent* /*event*/) {
   DrawLines(painter);
   painter.resetTransform();
   DrawBall(painter, units.map(ball_), std::clamp(height() / 34.0, 4.0, 10.0));
+  DrawFocus(this);
 }
 
 }  // namespace kickwell

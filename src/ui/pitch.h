@@ -16,7 +16,7 @@ class Pitch : public QWidget {
   void SetBall(int x, int y);
 
   QSize sizeHint() const override { return {560, 250}; }
-  QSize minimumSizeHint() const override { return {320, 150}; }
+  QSize minimumSizeHint() const override { return {240, 110}; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -23,7 +23,7 @@ QWidget* WindowInUse() {
 
 QMessageBox::StandardButton Show(QMessageBox::Icon icon, const std::string& text,
                                  QMessageBox::StandardButtons buttons) {
-  QMessageBox box(icon, ToQt(ProgramTitle), Shortened(ToQt(text)), buttons, WindowInUse());
+  QMessageBox box(icon, ToQt(ProgramTitle), Shortened(Shown(text)), buttons, WindowInUse());
   box.setObjectName("MessageBox");
   box.setTextFormat(Qt::PlainText);
   return static_cast<QMessageBox::StandardButton>(box.exec());

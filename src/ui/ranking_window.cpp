@@ -9,13 +9,30 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/accessible.h"
 #include "ui/text_label.h"
 #include "ui/widgets.h"
 
 namespace kickwell {
+namespace {
+
+/// Lies over the labels of a row: takes the mouse for them, and the focus for the screen reader.
+class Marker final : public QWidget {
+ public:
+  Marker() {
+    setMouseTracking(true);
+    SetRole(this, QAccessible::ListItem);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override { DrawFocus(this); }
+};
+
+}  // namespace
 
 RankingWindow::RankingWindow(Ranking& ranking, const char* name, const QString& caption,
-                             const char* closeName, std::vector<RankingColumn> columns, QWidget* parent)
+                             const char* closeName, std::vector<RankingColumn> columns, int width,
+                             QWidget* parent)
     : ScreenWindow(name, caption, parent),
       ranking_(ranking),
       columns_(std::move(columns)),
@@ -28,7 +45,7 @@ RankingWindow::RankingWindow(Ranking& ranking, const char* name, const QString& 
   buttons->addWidget(nextpage_);
   buttons->addStretch();
   buttons->addWidget(close);
-  auto* const layout = new QVBoxLayout(this);
+  auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addWidget(label1_);
@@ -50,10 +67,14 @@ RankingWindow::RankingWindow(Ranking& ranking, const char* name, const QString& 
             [this, by = step] { MoveBar(ranking_.Pages.Highlight + by); });
   }
   Show();
+  if (ranking_.Pages.RowCount() > 0 && !ranking_.Pages.NextEnabled()) markers_[0]->setFocus();
+  OpenAt(width, 0);
 }
 
 QWidget* RankingWindow::BuildRows() {
   auto* const rows = new QFrame;
+  SetRole(rows, QAccessible::List);
+  rows->setAccessibleName(windowTitle());
   rows->setFrameShape(QFrame::StyledPanel);
   bar_ = new QFrame(rows);
   bar_->setObjectName("Bar");
@@ -69,6 +90,7 @@ QWidget* RankingWindow::BuildRows() {
     const Qt::Alignment alignment = column.Figure ? Qt::AlignRight : Qt::AlignLeft;
     QLabel* const header = MakeCaption(column.Header, nullptr);
     header->setObjectName(ArrayName(column.Name, 0));
+    header->setAccessibleName(column.Told);
     header->setAlignment(alignment | Qt::AlignVCenter);
     header->setContentsMargins(8, 2, 8, 6);
     grid->addWidget(header, 0, place);
@@ -76,14 +98,14 @@ QWidget* RankingWindow::BuildRows() {
     for (int r = 1; r <= Paging::Rows; ++r) {
       QLabel* const label = MakeText(ArrayName(column.Name, r), {}, alignment);
       label->setContentsMargins(8, 3, 8, 3);
+      SetFigureCaption(label, column.Told);
       labels_[c][static_cast<std::size_t>(r - 1)] = label;
       grid->addWidget(label, r, place);
     }
   }
   for (int r = 1; r <= Paging::Rows; ++r) {
-    auto* const marker = new QWidget;
+    auto* const marker = new Marker;
     marker->setObjectName(ArrayName("Marker", r));
-    marker->setMouseTracking(true);
     marker->setMinimumHeight(fontMetrics().height() + 6);
     marker->installEventFilter(this);
     markers_[static_cast<std::size_t>(r - 1)] = marker;
@@ -106,8 +128,10 @@ bool RankingWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void RankingWindow::MoveBar(int row) {
+  const bool focused = std::find(markers_.begin(), markers_.end(), focusWidget()) != markers_.end();
   ranking_.Marker_MouseMove(row);
   PlaceBar();
+  if (focused) markers_[static_cast<std::size_t>(ranking_.Pages.Highlight - 1)]->setFocus();
 }
 
 void RankingWindow::PlaceBar() {
@@ -123,24 +147,27 @@ void RankingWindow::PlaceBar() {
       row = row.united(column[at]->geometry());
     }
     if (marked) bar_->setGeometry(row);
+    markers_[at]->setFocusPolicy(marked ? Qt::TabFocus : Qt::NoFocus);  // Tab stops once, at the bar.
   }
   bar_->lower();
 }
 
 void RankingWindow::Show() {
-  label1_->setText(ToQt(ranking_.Label1));
+  label1_->setText(Shown(ranking_.Label1));
   const Paging& pages = ranking_.Pages;
   const auto offset = static_cast<std::size_t>(pages.Offset());
   for (int r = 0; r < Paging::Rows; ++r) {
     const auto at = static_cast<std::size_t>(r);
     const bool filled = r < pages.RowCount();
-    QStringList whole;
+    QStringList whole, told;
     for (std::size_t c = 0; c < labels_.size(); ++c) {
-      const QString text = filled ? ToQt(ranking_.Rows[offset + at][c]) : QString();
+      const QString text = filled ? Shown(ranking_.Rows[offset + at][c]) : QString();
       labels_[c][at]->setText(text);
+      told.append(columns_[c].Told + " " + text);
       if (!columns_[c].Figure) whole.append(text);
     }
     markers_[at]->setVisible(filled);
+    markers_[at]->setAccessibleName(told.join(", "));
     markers_[at]->setToolTip(PlainTip(whole.join(", ")));
   }
   // The page button that goes dark hands its focus to the other one, never to "Close".
@@ -165,11 +192,10 @@ RankingWindow* MakeTableWindow(Ranking& table, QWidget* parent) {
                                           {"Won", tr("Won"), true},
                                           {"Tied", tr("Tied"), true},
                                           {"Lost", tr("Lost"), true},
-                                          {"GF", tr("GF"), true},
-                                          {"GA", tr("GA"), true},
+                                          {"GF", tr("GF"), true, tr("Goals for")},
+                                          {"GA", tr("GA"), true, tr("Goals against")},
                                           {"Points", tr("Points"), true}},
-                                         parent);
-  window->resize(720, window->sizeHint().height());
+                                         720, parent);
   return window;
 }
 
@@ -180,8 +206,7 @@ RankingWindow* MakeTopScorersWindow(Ranking& scorers, QWidget* parent) {
                                           {"Player", tr("Player"), false},
                                           {"Team", tr("Team"), false},
                                           {"Goals", tr("Goals"), true}},
-                                         parent);
-  window->resize(620, window->sizeHint().height());
+                                         620, parent);
   return window;
 }
 

@@ -11,20 +11,23 @@
 
 namespace kickwell {
 
-/// One column of a ranking: its header, the name of its labels, and whether it holds figures.
+/// One column of a ranking: its header, the name of its labels, whether it holds figures, and what screen
+/// readers are told of a header that is cut short.
 struct RankingColumn {
   const char* Name;
   QString Header;
   bool Figure;
+  QString Told = Header;
 };
 
 /// Pages of ranked rows with a bar that follows the mouse and the arrow keys: the league table and the top
 /// scorers.
 class RankingWindow final : public ScreenWindow {
  public:
-  /// `closeName` is the name of the button that closes the screen.
+  /// `closeName` is the name of the button that closes the screen, `width` the window's where type is of the
+  /// usual size.
   RankingWindow(Ranking& ranking, const char* name, const QString& caption, const char* closeName,
-                std::vector<RankingColumn> columns, QWidget* parent);
+                std::vector<RankingColumn> columns, int width, QWidget* parent);
 
  protected:
   void Show() override;

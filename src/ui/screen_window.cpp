@@ -1,17 +1,30 @@
 #include "ui/screen_window.h"
 
 #include <QKeyEvent>
+#include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
+#include "ui/page_area.h"
 #include "ui/widgets.h"
 
 namespace kickwell {
 
-ScreenWindow::ScreenWindow(const char* name, const QString& caption, QWidget* parent) : QDialog(parent) {
+ScreenWindow::ScreenWindow(const char* name, const QString& caption, QWidget* parent)
+    : QDialog(parent), page_(new QWidget) {
   setObjectName(QLatin1String(name));
   setWindowTitle(caption);
   setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
   setSizeGripEnabled(true);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(new PageArea(page_));
+}
+
+void ScreenWindow::OpenAt(int width, int height) {
+  constexpr int UsualType = 15;  // The height of a line.
+  const qreal type = std::max(1.0, qreal(fontMetrics().height()) / UsualType);
+  resize((QSizeF(width, height) * type).toSize().expandedTo(sizeHint()).boundedTo(RoomOnScreen(this)));
 }
 
 void ScreenWindow::reject() {
@@ -34,6 +47,8 @@ void ScreenWindow::Act(const std::function<void()>& action) {
     Show();
   } else if (isVisible()) {  // An action within this one may have closed the window already.
     done(Accepted);
+    // Where two screens close at once, a window manager may lose the keyboard.
+    if (parentWidget() != nullptr) parentWidget()->activateWindow();
   }
 }
 

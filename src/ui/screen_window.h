@@ -30,9 +30,19 @@ class ScreenWindow : public QDialog {
   QPushButton* ArrowButton(const QString& name, QStyle::StandardPixmap arrow, const QString& tip,
                            std::function<void()> action);
 
+  /// Where the screen's widgets are laid out.
+  QWidget* Page() const { return page_; }
+
+  /// Opens at `width` by `height` pixels where type is of the usual size, larger with larger type, but always
+  /// on the screen.
+  void OpenAt(int width, int height);
+
   virtual void Show() = 0;
   virtual bool IsClosed() const = 0;
   virtual void Leave() = 0;  ///< The action of the button that leaves the screen.
+
+ private:
+  QWidget* page_;
 };
 
 }  // namespace kickwell

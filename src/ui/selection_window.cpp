@@ -1,5 +1,6 @@
 #include "ui/selection_window.h"
 
+#include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -9,19 +10,19 @@
 #include <optional>
 #include <utility>
 
+#include "ui/accessible.h"
 #include "ui/widgets.h"
 
 namespace kickwell {
 namespace {
 
+constexpr int UsualName = 14;  ///< Two choosers stand side by side.
+
 /// A figure beside its caption, in two columns of the grid.
 QLabel* AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& name,
                   const QString& text) {
-  QLabel* const figure = MakeText(name, text, Qt::AlignRight);
-  QFont bold = figure->font();
-  bold.setBold(true);
-  figure->setFont(bold);
-  grid->addWidget(MakeCaption(caption), row, column);
+  QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), 1);
+  grid->addWidget(MakeFigureCaption(caption, figure), row, column);
   grid->addWidget(figure, row, column + 1);
   return figure;
 }
@@ -39,8 +40,8 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   const MatchSetup& setup = selection.Setup();
   auto* const sides = new QHBoxLayout;
   sides->setSpacing(16);
-  sides->addWidget(BuildSide(side1_, 1, ToQt(setup.Team1Name), &Selection::Combo1_Click), 1);
-  sides->addWidget(BuildSide(side2_, 2, ToQt(setup.Team2Name), &Selection::Combo2_Click), 1);
+  sides->addWidget(BuildSide(side1_, 1, Shown(setup.Team1Name), &Selection::Combo1_Click), 1);
+  sides->addWidget(BuildSide(side2_, 2, Shown(setup.Team2Name), &Selection::Combo2_Click), 1);
 
   QLabel* const num = MakeText("num", QString::number(setup.MatchNumber));
   num->setVisible(false);
@@ -53,7 +54,7 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   buttons->addWidget(command1_);
   buttons->addWidget(command2);
 
-  auto* const layout = new QVBoxLayout(this);
+  auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(16);
   layout->addLayout(sides);
@@ -62,19 +63,16 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
 
   connect(command1_, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command1_Click(); }); });
   connect(command2, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command2_Click(); }); });
+  Page()->installEventFilter(this);
   Show();
   selection_.Changed = [this] { Show(); };
-  resize(860, sizeHint().height());
+  OpenAt(860, 0);
 }
 
 QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& team, Pick pick) {
   const QString number = QString::number(side);
   auto* const box = new QWidget;
-  QLabel* const name = MakeText("Team" + number, team, Qt::AlignHCenter);
-  QFont font = name->font();
-  font.setBold(true);
-  font.setPointSizeF(font.pointSizeF() * 1.4);
-  name->setFont(font);
+  QLabel* const name = Enlarged(MakeText("Team" + number, team, Qt::AlignHCenter), 1.4);
 
   auto* const slots_ = new QGridLayout;
   slots_->setVerticalSpacing(4);
@@ -88,11 +86,15 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
     const auto at = static_cast<std::size_t>(i);
     column.Combos[at] = MakeCombo(ArrayName(combo, i));
     column.Combos[at]->setModel(column.Squad);
-    column.Combos[at]->setAccessibleName(tr("%1, player %2").arg(team).arg(i + 1));
+    const QString player = team + tr(", player %1").arg(i + 1);
+    Name(column.Combos[at], player);
+    column.Combos[at]->setMinimumContentsLength(UsualName);
     column.Posts[at] = MakeText(ArrayName(post, i), {}, Qt::AlignHCenter);
-    column.Posts[at]->setMinimumWidth(44);
+    column.Posts[at]->setMinimumWidth(fontMetrics().horizontalAdvance("MMMM"));
+    SetFigureCaption(column.Posts[at], player + tr(", position"));
     column.Skills[at] = MakeText(ArrayName(skill, i), {}, Qt::AlignRight);
-    column.Skills[at]->setMinimumWidth(28);
+    column.Skills[at]->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
+    SetFigureCaption(column.Skills[at], player + tr(", skill"));
     slots_->addWidget(column.Combos[at], i, 0);
     slots_->addWidget(column.Posts[at], i, 1);
     slots_->addWidget(column.Skills[at], i, 2);
@@ -116,6 +118,7 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   column.Midfield = AddFigure(figures, 2, 3, tr("Mid-Field:"), labelName(2), {});
   column.Keeping = AddFigure(figures, 3, 3, tr("Keeping:"), labelName(3), {});
   auto* const figuresBox = new QFrame;
+  figuresBox->setAccessibleName(team);
   figuresBox->setFrameShape(QFrame::StyledPanel);
   figuresBox->setLayout(figures);
 
@@ -128,11 +131,11 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   return box;
 }
 
-void SelectionWindow::paintEvent(QPaintEvent* event) {
-  ScreenWindow::paintEvent(event);
+bool SelectionWindow::eventFilter(QObject* watched, QEvent* event) {
   // The squads are loaded when the screen has been drawn.
-  if (std::exchange(timer1Started_, true)) return;
-  QTimer::singleShot(0, this, [this] { Act([this] { selection_.Timer1_Timer(); }); });
+  if (watched == Page() && event->type() == QEvent::Paint && !std::exchange(timer1Started_, true))
+    QTimer::singleShot(0, this, [this] { Act([this] { selection_.Timer1_Timer(); }); });
+  return ScreenWindow::eventFilter(watched, event);
 }
 
 void SelectionWindow::Show() {
@@ -144,18 +147,18 @@ void SelectionWindow::Show() {
 void SelectionWindow::ShowSide(const Column& column, const LineUp& lineUp) {
   if (lineUp.CanPlay() && column.Squad->rowCount() == 0) {
     QStringList names;
-    for (const Player& player : lineUp.Squad) names.append(ToQt(player.Name));
+    for (const Player& player : lineUp.Squad) names.append(Shown(player.Name));
     column.Squad->setStringList(names);
   }
   for (std::size_t i = 0; i < SlotCount; ++i) {
     const LineUpSlot& slot = lineUp.Slots[i];
     column.Combos[i]->setCurrentIndex(slot.Player);
-    column.Posts[i]->setText(ToQt(slot.Position));
-    column.Skills[i]->setText(ToQt(slot.Skill));
+    column.Posts[i]->setText(Shown(slot.Position));
+    column.Skills[i]->setText(Shown(slot.Skill));
   }
-  column.Formation->setText(ToQt(lineUp.Formation));
+  column.Formation->setText(Shown(lineUp.Formation));
   column.Skill->setText(QString::number(lineUp.OverallSkill));
-  column.OSkill->setText(ToQt(lineUp.Reputation));
+  column.OSkill->setText(Shown(lineUp.Reputation));
   column.Attack->setText(FigureText(lineUp.Attack));
   column.Defence->setText(FigureText(lineUp.Defence));
   column.Midfield->setText(FigureText(lineUp.Midfield));

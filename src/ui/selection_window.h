@@ -20,7 +20,7 @@ class SelectionWindow final : public ScreenWindow {
   void Show() override;
   bool IsClosed() const override { return selection_.Closed; }
   void Leave() override { selection_.Command2_Click(); }
-  void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   /// One side's widgets: eleven choosers with position and skill, and the figures.

@@ -62,7 +62,7 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(1, 1);
 
-  auto* const layout = new QVBoxLayout(this);
+  auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(24, 20, 24, 20);
   layout->setSpacing(24);
   layout->addLayout(grid);
@@ -88,7 +88,7 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   connect(command1, &QPushButton::clicked, this, [this] { Act([this] { settings_.Command1_Click(); }); });
   connect(command2, &QPushButton::clicked, this, [this] { Act([this] { settings_.Command2_Click(); }); });
   Show();
-  resize(560, sizeHint().height());
+  OpenAt(560, 0);
 }
 
 void SettingsWindow::Show() {
@@ -98,10 +98,12 @@ void SettingsWindow::Show() {
   ShowChooser(combo4_, settings_.Combo4);
   ShowChooser(combo5_, settings_.Combo5);
   const Settings& chosen = settings_;
-  combo3_->setToolTip(chosen.Combo3.Picked == Chooser::None
-                          ? QString()
-                          : PlainTip(ToQt(chosen.Combo3.Text() + ", " + chosen.Combo7.Text() + " (" +
-                                          chosen.Combo6.Text() + ")")));
+  const QString stadium =
+      chosen.Combo3.Picked == Chooser::None
+          ? QString()
+          : Shown(chosen.Combo3.Text() + ", " + chosen.Combo7.Text() + " (" + chosen.Combo6.Text() + ")");
+  combo3_->setToolTip(PlainTip(stadium));
+  combo3_->setAccessibleDescription(stadium);
   check1_->setChecked(settings_.Check1);
   check2_->setChecked(settings_.Check2);
   check2_->setEnabled(settings_.Check2Enabled);

@@ -59,7 +59,7 @@ StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
   columns->setSpacing(20);
   columns->addWidget(BuildRemoval(), 1);
   columns->addLayout(right, 1);
-  auto* const layout = new QVBoxLayout(this);
+  auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addLayout(columns, 1);
@@ -67,13 +67,13 @@ StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
       Button("Command3", tr("E&xit Kickwell Stadium Editor"), [this] { editor_.Command3_Click(); }), 0,
       Qt::AlignRight);
   Show();
-  resize(760, 460);
+  OpenAt(760, 460);
 }
 
 QWidget* StadEditorWindow::BuildRemoval() {
   auto* const box = new QGroupBox(tr("Remove Stadiums"));
   auto* const total = new QHBoxLayout;
-  total->addWidget(MakeCaption(tr("Total number of stadiums:")));
+  total->addWidget(MakeFigureCaption(tr("Total number of stadiums:"), label8_));
   total->addWidget(label8_);
   total->addStretch();
   auto* const layout = new QVBoxLayout(box);
@@ -98,10 +98,12 @@ void StadEditorWindow::Show() {
   ShowList(list1_, editor_.List1);
   for (int i = 0; i < list1_->count(); ++i) {
     const Stadium& stadium = editor_.Stadiums()[static_cast<std::size_t>(i)];
-    list1_->item(i)->setToolTip(PlainTip(
-        ToQt(stadium.Name + ", " + stadium.City + " (" + stadium.Capacity + "), " + stadium.HomeTeam)));
+    const QString whole =
+        Shown(stadium.Name + ", " + stadium.City + " (" + stadium.Capacity + "), " + stadium.HomeTeam);
+    list1_->item(i)->setToolTip(PlainTip(whole));
+    list1_->item(i)->setData(Qt::AccessibleTextRole, whole);
   }
-  label8_->setText(ToQt(editor_.Label8()));
+  label8_->setText(Shown(editor_.Label8()));
   ShowText(text1_, editor_.Text1);
   ShowText(text2_, editor_.Text2);
   ShowText(text3_, editor_.Text3);

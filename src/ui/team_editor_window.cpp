@@ -44,7 +44,7 @@ TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
   columns->setSpacing(20);
   columns->addLayout(BuildSquad(), 1);
   columns->addLayout(BuildChanges(), 1);
-  auto* const layout = new QVBoxLayout(this);
+  auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addLayout(columns, 1);
@@ -52,7 +52,7 @@ TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
       Button("Command4", tr("E&xit Kickwell Team/Player Editor"), [this] { editor_.Command4_Click(); }), 0,
       Qt::AlignRight);
   Show();
-  resize(820, 620);
+  OpenAt(820, 620);
 }
 
 QComboBox* TeamEditorWindow::Combo(const char* name, void (TeamEditor::*action)(int)) {
@@ -65,11 +65,11 @@ QComboBox* TeamEditorWindow::Combo(const char* name, void (TeamEditor::*action)(
 QLayout* TeamEditorWindow::BuildSquad() {
   auto* const team = new QFormLayout;
   team->addRow(MakeCaption(tr("Team Name:"), combo3_), combo3_);
-  team->addRow(MakeCaption(tr("Team Skill:")), label13_);
-  team->addRow(MakeCaption(tr("No. of Players:")), label14_);
+  team->addRow(MakeFigureCaption(tr("Team Skill:"), label13_), label13_);
+  team->addRow(MakeFigureCaption(tr("No. of Players:"), label14_), label14_);
   auto* const player = new QFormLayout;
-  player->addRow(MakeCaption(tr("Player Skill:")), label4_);
-  player->addRow(MakeCaption(tr("Position:")), label5_);
+  player->addRow(MakeFigureCaption(tr("Player Skill:"), label4_), label4_);
+  player->addRow(MakeFigureCaption(tr("Position:"), label5_), label5_);
 
   auto* const moves = new QVBoxLayout;
   moves->addWidget(ArrowButton("Command1", QStyle::SP_ArrowUp, tr("Move the player up"),
@@ -130,10 +130,10 @@ void TeamEditorWindow::Show() {
   ShowChooser(combo2_, editor_.Combo2);
   ShowChooser(combo3_, editor_.Combo3);
   ShowList(list1_, editor_.List1);
-  label13_->setText(ToQt(editor_.Label13()));
-  label14_->setText(ToQt(editor_.Label14()));
-  label4_->setText(ToQt(editor_.Label4()));
-  label5_->setText(ToQt(editor_.Label5()));
+  label13_->setText(Shown(editor_.Label13()));
+  label14_->setText(Shown(editor_.Label14()));
+  label4_->setText(Shown(editor_.Label4()));
+  label5_->setText(Shown(editor_.Label5()));
   ShowText(text1_, editor_.Text1);
   ShowText(text2_, editor_.Text2);
   ShowText(text4_, editor_.Text4);

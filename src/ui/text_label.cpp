@@ -2,6 +2,7 @@
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QStyleOption>
 #include <QToolTip>
@@ -12,12 +13,19 @@ namespace {
 
 constexpr int UsualLength = 40;    ///< Characters that a label asks room for at most.
 constexpr int SmallestLength = 8;  ///< Characters that it insists on at most.
-constexpr int LongestTip = 2000;
+constexpr int LongestTip = 600;
+
+/// With places where a run without blanks may be broken, or the tip would be as long as the run.
+QString Broken(QString text) {
+  static const QRegularExpression longRun(QStringLiteral("(\\S{40})(?=\\S)"));
+  return text.replace(longRun, QStringLiteral("\\1\u200B"));
+}
 
 }  // namespace
 
 QString PlainTip(const QString& text) {
-  return text.isEmpty() ? QString() : "<qt>" + text.toHtmlEscaped() + "</qt>";
+  if (text.isEmpty()) return {};
+  return "<qt>" + Broken(text.left(LongestTip)).toHtmlEscaped() + "</qt>";
 }
 
 TextLabel::TextLabel(const QString& text) : QLabel(text) {
@@ -45,8 +53,8 @@ QString TextLabel::Elided() const {
 bool TextLabel::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QLabel::event(event);
   const bool whole = Elided() == text();
-  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                     whole ? QString() : PlainTip(text().left(LongestTip)), this);
+  QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole ? QString() : PlainTip(text()),
+                     this);
   return true;
 }
 

@@ -1,8 +1,10 @@
 #include "ui/widgets.h"
 
+#include <QFontInfo>
 #include <QSignalBlocker>
 #include <QStringList>
 
+#include "ui/accessible.h"
 #include "ui/text_label.h"
 
 namespace kickwell {
@@ -11,11 +13,28 @@ namespace {
 QStringList Texts(const Chooser& chooser) {
   QStringList texts;
   texts.reserve(chooser.Count());
-  for (const std::string& entry : chooser.Entries) texts.append(ToQt(entry));
+  for (const std::string& entry : chooser.Entries) texts.append(Shown(entry));
   return texts;
 }
 
+/// What opens a run of another direction, or ends one that the text around it has opened.
+bool TurnsText(QChar c) {
+  return (c >= QChar(0x202A) && c <= QChar(0x202E)) || (c >= QChar(0x2066) && c <= QChar(0x2069));
+}
+
 }  // namespace
+
+QString Shown(std::string_view text) {
+  QString shown = ToQt(text);
+  for (QChar& c : shown) {
+    if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator) {
+      c = ' ';
+    } else if (TurnsText(c)) {
+      c = QChar::ReplacementCharacter;
+    }
+  }
+  return shown;
+}
 
 QString ArrayName(const char* name, int index) {
   return QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(index);
@@ -28,13 +47,17 @@ QLabel* MakeText(const QString& objectName, const QString& text, Qt::Alignment a
   return label;
 }
 
+QLabel* Enlarged(QLabel* label, qreal factor) {
+  QFont font = label->font();
+  font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
+  font.setBold(true);
+  label->setFont(font);
+  return label;
+}
+
 QLabel* MakeHeading(const QString& objectName) {
   QLabel* const heading = MakeText(objectName, {}, Qt::AlignHCenter);
-  QFont large = heading->font();
-  large.setBold(true);
-  large.setPointSizeF(large.pointSizeF() * 1.5);
-  heading->setFont(large);
-  return heading;
+  return Enlarged(heading, 1.5);
 }
 
 QLabel* MakeCaption(const QString& text) {
@@ -53,6 +76,11 @@ QLabel* MakeCaption(const QString& text, QWidget* buddy) {
   return caption;
 }
 
+QLabel* MakeFigureCaption(const QString& text, QLabel* figure) {
+  SetFigureCaption(figure, QString(text).remove(':'));
+  return MakeCaption(text);
+}
+
 QComboBox* MakeCombo(const QString& objectName) {
   constexpr int UsualName = 22;
   auto* const combo = new QComboBox;
@@ -63,9 +91,18 @@ QComboBox* MakeCombo(const QString& objectName) {
   return combo;
 }
 
+void Name(QComboBox* combo, const QString& name) {
+  combo->setAccessibleName(name);
+  combo->setAccessibleDescription(name);
+}
+
 QPushButton* MakeButton(const QString& objectName, const QString& caption) {
   auto* const button = new QPushButton(caption);
   button->setObjectName(objectName);
+  if (caption.contains('<') || caption.contains('>') || caption.count('&') > 1) {
+    QString name = caption;
+    button->setAccessibleName(name.remove('&').remove('<').remove('>').trimmed());
+  }
   return button;
 }
 
@@ -106,8 +143,17 @@ int SelectedRow(const QListWidget* list) {
 
 void ShowLines(QListWidget* list, const Chooser& lines) {
   for (int i = list->count(); i < lines.Count(); ++i)
-    list->addItem(ToQt(lines.Entries[static_cast<std::size_t>(i)]));
+    list->addItem(Shown(lines.Entries[static_cast<std::size_t>(i)]));
   if (list->currentRow() != lines.Picked) list->setCurrentRow(lines.Picked);
+}
+
+QColor FaintText(const QPalette& palette) {
+  constexpr qreal Strength = 0.7;
+  const QColor text = palette.color(QPalette::Text);
+  const QColor ground = palette.color(QPalette::Base);
+  const auto mix = [](float of, float with) { return of * float(Strength) + with * float(1 - Strength); };
+  return QColor::fromRgbF(mix(text.redF(), ground.redF()), mix(text.greenF(), ground.greenF()),
+                          mix(text.blueF(), ground.blueF()));
 }
 
 int Twips(const QWidget* widget, int twips) {

@@ -1,10 +1,10 @@
 #include "championship/leg_editor.h"
 
-#include <gtest/gtest.h>
+#include <sstream>
+#include <tuple>
 
-#include "support/fakes.h"
-#include "support/folders.h"
-#include "support/scripted_random.h"
+#include "data/file_names.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
@@ -24,210 +24,156 @@ TEST(Fixtures, ArePairedAndThenExchangedBetweenDrawnPlaces) {
   EXPECT_EQ(Text(KnockOutFixture({"A", "B"}, random)), "A-B");
 }
 
-class LegEditorTest : public testing::Test {
+class LegEditorTest : public ScreenTest {
  protected:
   LegEditorTest() { MakeTeams(6); }
 
+  /// Teams "T100", "T101" and so on.
   void MakeTeams(int count) {
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i)
       EXPECT_TRUE(CreateTeam(folder_.Folder, "T" + std::to_string(100 + i), "50").Ok());
-    }
   }
 
   LegEditor Open() { return {folder_.Folder, desktop_, random_}; }
 
-  static void Select(EditorSide& side, int count) {
-    for (int i = 0; i < count; ++i) LegEditor::AddTeam_Click(side);
+  /// Does one after the other on a side: "team" adds the picked team and "remove" removes it, "avail2" and
+  /// "sel2" pick, "auto", "save", "delete" and "load0" are those buttons, "fix01" adds a fixture of the first
+  /// two teams, "name=N" types, and "yes" and "no" are the answers from then on. Gives the messages.
+  std::string Do(LegEditor& editor, EditorSide& side, const std::string& actions) {
+    std::istringstream words(actions);
+    for (std::string word; words >> word;) {
+      const int n = word.back() - '0';
+      if (word == "team") LegEditor::AddTeam_Click(side);
+      if (word == "remove") LegEditor::RemoveTeam_Click(side);
+      if (word.starts_with("avail")) side.Available.Picked = n;
+      if (word.starts_with("sel")) side.Selected.Picked = n;
+      if (word == "auto") editor.AutoFixtures_Click(side);
+      if (word == "save") editor.Save_Click(side);
+      if (word == "delete") editor.Delete_Click(side);
+      if (word.starts_with("load")) editor.Load_Click(side, n);
+      if (word == "more") editor.MoreTeams_Click();
+      if (word == "fewer") editor.FewerTeams_Click();
+      if (word.starts_with("name=")) side.Name = word.substr(5);
+      if (word == "yes" || word == "no") desktop_.Yes = word == "yes";
+      if (word.starts_with("fix") && word.size() == 5)
+        std::tie(side.Home.Picked, side.Away.Picked) = std::pair(word[3] - '0', n);
+      if (word.starts_with("fix")) editor.AddFixture_Click();
+    }
+    return desktop_.Told();
   }
 
-  static void Add(LegEditor& editor, int home, int away) {
-    editor.League.Home.Picked = home;
-    editor.League.Away.Picked = away;
-    editor.AddFixture_Click();
+  /// The entries of the lists with what is picked.
+  static std::string Lists(const EditorSide& side) {
+    std::string text;
+    for (const Chooser* list : {&side.Available, &side.Selected, &side.Home, &side.Away, &side.FixtureList})
+      text += Joined(list->Entries) + " " + std::to_string(list->Picked) + "; ";
+    return text;
   }
-
-  std::string Bytes(const char* file) const { return ReadBytes(folder_ / file); }
-
-  TestFolder folder_;
-  FakeDesktop desktop_;
-  QuietRandom random_;
 };
 
 TEST_F(LegEditorTest, TeamsMoveBetweenTheListsAndTheChoosers) {
   LegEditor editor = Open();
   EditorSide& side = editor.League;
-  const auto lists = [&side] {
-    std::string text;
-    for (const Chooser* list : {&side.Available, &side.Selected, &side.Home, &side.Away})
-      text += Joined(list->Entries) + " " + std::to_string(list->Picked) + "; ";
-    return text;
-  };
-  side.Available.Picked = 2;
-  LegEditor::AddTeam_Click(side);
-  LegEditor::RemoveTeam_Click(side);  // None is picked yet.
-  side.Home.Picked = side.Selected.Picked = 0;
-  LegEditor::AddTeam_Click(side);
-  EXPECT_EQ(lists(), "T101|T103|T104|T105 0; T100|T102 1; T100|T102 1; T100|T102 -1; ");
-  side.Selected.Picked = 0;
-  LegEditor::RemoveTeam_Click(side);
-  EXPECT_EQ(lists(), "T100|T101|T103|T104|T105 1; T102 0; T102 0; T102 -1; ");
-  LegEditor::RemoveTeam_Click(side);
-  EXPECT_EQ(lists(), "T100|T101|T102|T103|T104|T105 1;  -1;  -1;  -1; ");
+  Do(editor, side, "avail2 team remove sel0");  // None was picked for the removal.
+  side.Home.Picked = 0;
+  Do(editor, side, "team");
+  EXPECT_EQ(Lists(side), "T101|T103|T104|T105 0; T100|T102 1; T100|T102 1; T100|T102 -1;  -1; ");
+  Do(editor, side, "sel0 remove");
+  EXPECT_EQ(Lists(side), "T100|T101|T103|T104|T105 1; T102 0; T102 0; T102 -1;  -1; ");
+  Do(editor, side, "remove");
+  EXPECT_EQ(Lists(side), "T100|T101|T102|T103|T104|T105 1;  -1;  -1;  -1;  -1; ");
   std::string sizes;
-  for (int i = 0; i < 8; ++i) {
-    i < 4 ? editor.MoreTeams_Click() : editor.FewerTeams_Click();
+  for (const char* step : {"more", "more", "more", "more", "fewer", "fewer", "fewer", "fewer"}) {
+    Do(editor, side, step);
     sizes += std::to_string(editor.KnockOut.NumberOfTeams) + " ";
   }
   EXPECT_EQ(sizes, "4 8 16 16 8 4 2 2 ");
 }
 
-TEST_F(LegEditorTest, EveryRefusalHasItsMessage) {
+TEST_F(LegEditorTest, EveryRefusalHasItsMessageAndLimitsAreHeldWhereFixturesAreMade) {
+  MakeTeams(101);
   LegEditor editor = Open();
   EditorSide& league = editor.League;
-  EditorSide& cup = editor.KnockOut;
-  editor.AddFixture_Click();
-  Select(league, 1);
-  editor.AutoFixtures_Click(league);
-  editor.Save_Click(league);
-  Select(league, 1);
-  editor.AddFixture_Click();
-  Add(editor, 1, 1);
-  editor.Save_Click(league);
-  editor.AutoFixtures_Click(league);
-  editor.Save_Click(league);
-  league.Name = "a/b";
-  editor.Save_Click(league);
-  editor.Delete_Click(league);
-  EXPECT_EQ(desktop_.Told(),
+  EXPECT_EQ(Do(editor, league, "fix team auto save team fix fix11 save auto save name=a/b save delete"),
             "i: There must be atleast two teams in the competition|"
             "i: There must be at least two teams in the competition|"
             "i: Please select the championship teams properly|"
             "i: Select both the home and away teams properly|i: T101 can't play againt itself|"
             "i: Please add the championship fixtures properly|i: Please enter a name for the championship|"
             "!: a/b can't be used as a file name.|i: Please load a championship to delete");
-  editor.MoreTeams_Click();
-  Select(cup, 3);
-  editor.AutoFixtures_Click(cup);
-  Select(cup, 1);
-  editor.AutoFixtures_Click(cup);
-  EXPECT_EQ(league.FixtureList.Count(), 2);  // Each side has its own.
-  cup.Name = "Cup";
-  cup.Selected.Picked = 0;
-  LegEditor::RemoveTeam_Click(cup);  // The teams no longer are those of the fixtures.
-  editor.Save_Click(cup);
-  editor.FewerTeams_Click();
-  editor.Save_Click(cup);
+  // A knock-out whose teams no longer are those of the fixtures.
   EXPECT_EQ(
-      desktop_.Told(),
+      Do(editor, editor.KnockOut, "more team team team auto team auto name=C sel0 remove save fewer save"),
       "i: Total teams selected doesn't match the number of teams|"
-      "i: Please add the championship fixtures properly|i: Please add the championship fixtures properly");
-  EXPECT_FALSE(std::filesystem::exists(folder_.Folder.Tournies()));
-}
-
-TEST_F(LegEditorTest, TheLimitsAreHeldWhereFixturesAreMade) {
-  MakeTeams(101);
-  LegEditor editor = Open();
-  EditorSide& side = editor.League;
-  Select(side, 32);
-  editor.AutoFixtures_Click(side);
-  Select(side, 1);
-  editor.AutoFixtures_Click(side);
-  EXPECT_EQ(side.FixtureList.Count(), 992);
-  for (int i = 0; i < 1002; ++i) Add(editor, 0, 1);  // The first one replaces the generated list.
-  EXPECT_EQ(side.FixtureList.Entries.back(), "Match 1001: T100 v T101");
-  Select(side, 100 - 33);
-  side.Name = "Long";
-  editor.Save_Click(side);
-  Select(side, 1);
-  editor.Save_Click(side);
-  EXPECT_EQ(desktop_.Told(),
-            "i: A league with generated fixtures can have at most 32 teams|"
-            "i: A championship can have at most 1001 matches|?: Are you sure you want to add Long?|"
-            "i: A league can have at most 100 teams");
+      "i: Please add the championship fixtures properly|"
+      "i: Please add the championship fixtures properly");
+  EXPECT_EQ(league.FixtureList.Count(), 2);  // Each side has its own.
+  EXPECT_EQ(Do(editor, league, Times(30, "team") + "auto team auto"),
+            "i: A league with generated fixtures can have at most 32 teams");
+  EXPECT_EQ(league.FixtureList.Count(), 992);
+  EXPECT_EQ(Do(editor, league, Times(1002, "fix01")), "i: A championship can have at most 1001 matches");
+  EXPECT_EQ(league.FixtureList.Entries.back(), "Match 1001: T100 v T101");  // None of the generated ones.
+  EXPECT_EQ(Do(editor, league, "no name=Long " + Times(67, "team") + "save team save"),
+            "?: Are you sure you want to add Long?|i: A league can have at most 100 teams");
+  EXPECT_FALSE(Exists("Tournies") || Exists("Leagues"));
 }
 
 TEST_F(LegEditorTest, SavesOverwritesLoadsAndDeletes) {
   LegEditor editor = Open();
   EditorSide& side = editor.League;
-  Select(side, 2);
-  Add(editor, 1, 0);
-  side.Name = "Top";
-  desktop_.Yes = false;
-  editor.Save_Click(side);
-  EXPECT_FALSE(std::filesystem::exists(folder_ / "Leagues"));
-  desktop_.Yes = true;
-  WriteBytes(folder_ / "Leagues", "no folder");
-  editor.Save_Click(side);
+  Write("Leagues", "no folder");
+  const std::string failed = Do(editor, side, "team team fix10 name=Top save");
+  EXPECT_TRUE(failed.starts_with("?: Are you sure you want to add Top?|!: The file ")) << failed;
   EXPECT_EQ(side.Load.Count(), 0);  // What was not saved is not offered.
-  EXPECT_NE(desktop_.Told().find("|?: Are you sure you want to add Top?|!: The file "), std::string::npos);
   std::filesystem::remove(folder_ / "Leagues");
-  editor.Save_Click(side);
+  EXPECT_EQ(Do(editor, side, "save"), "?: Are you sure you want to add Top?");
   EXPECT_EQ(Bytes("Leagues/Top.leg"), AsWritten("Top\n2\nT100\nT101\n1\nNP\nT101\nT100\n"));
   EXPECT_EQ(side.Load.Text(), "Top.leg");
-  for (const char* companion : {"Leagues/Top.rec", "Leagues/Top.sco", "Leagues/Top.lrs"})
-    WriteBytes(folder_ / companion, "x");
-  Add(editor, 0, 1);  // Appends to the list that is loaded.
-  desktop_.Yes = false;
-  editor.Save_Click(side);
-  EXPECT_TRUE(std::filesystem::exists(folder_ / "Leagues/Top.rec"));
-  desktop_.Yes = true;
-  editor.Save_Click(side);
-  EXPECT_EQ(Bytes("Leagues/Top.leg"), AsWritten("Top\n2\nT100\nT101\n2\nNP\nT101\nT100\nNP\nT100\nT101\n"));
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.Folder.Leagues()), {}), 1);
-  editor.Delete_Click(side);
-  EXPECT_EQ(desktop_.Told(),
-            "?: Are you sure you want to add Top?|?: Do you want to overwrite Top?|"
+  for (const char* companion : {"rec", "sco", "lrs"}) Write(std::string("Leagues/Top.") + companion, "x");
+  Do(editor, side, "no fix01 save");  // Appends to the list that is loaded.
+  EXPECT_TRUE(Exists("Leagues/Top.rec"));
+  EXPECT_EQ(Do(editor, side, "yes save delete"),
             "?: Do you want to overwrite Top?|i: You can't delete any more championship");
+  EXPECT_EQ(Bytes("Leagues/Top.leg"), AsWritten("Top\n2\nT100\nT101\n2\nNP\nT101\nT100\nNP\nT100\nT101\n"));
+  EXPECT_EQ(Joined(ListFiles(folder_ / "Leagues")), "Top.leg");
 
-  WriteBytes(folder_ / "Leagues/Old.leg", "Old\n3\nT105\nT100\nGone\n1\nP\nT100\nT105\n");
+  Write("Leagues/Old.leg", "Old\n3\nT105\nT100\nGone\n1\nP\nT100\nT105\n");
   LegEditor again = Open();
   EditorSide& old = again.League;
-  again.Load_Click(old, 0);
-  EXPECT_EQ(Joined({old.Name, Joined(old.Selected.Entries), Joined(old.Home.Entries)}),
-            "Old|Gone|T100|T105|Gone|T100|T105");
-  EXPECT_EQ(Joined(old.Available.Entries) + std::to_string(old.Available.Picked), "T101|T102|T103|T1040");
-  again.AutoFixtures_Click(old);
-  Add(again, 1, 2);  // Starts again after generated fixtures.
+  Do(again, old, "load0");
+  EXPECT_EQ(old.Name + " " + Lists(old),
+            "Old T101|T102|T103|T104 0; Gone|T100|T105 -1; Gone|T100|T105 -1; "
+            "Gone|T100|T105 -1; Match 1: T100 v T105 -1; ");
+  Do(again, old, "auto fix12");  // Starts again after generated fixtures.
   EXPECT_EQ(Joined(old.FixtureList.Entries), "Match 1: T100 v T105");
-  old.Name.clear();
-  again.Delete_Click(old);
-  old.Name = "Top";  // Deletes what the question names.
-  desktop_.Yes = false;
-  again.Delete_Click(old);
-  EXPECT_TRUE(std::filesystem::exists(folder_ / "Leagues/Old.leg"));
-  desktop_.Yes = true;
-  again.Delete_Click(old);
-  EXPECT_EQ(desktop_.Told(),
-            "i: Please load a championship to delete|?: Are you sure you want to remove Old.leg?|"
-            "?: Are you sure you want to remove Old.leg?");
-  EXPECT_FALSE(std::filesystem::exists(folder_ / "Leagues/Old.leg"));
+  EXPECT_EQ(Do(again, old, "name= delete name=Top no delete"),  // Deletes what the question names.
+            "i: Please load a championship to delete|?: Are you sure you want to remove Old.leg?");
+  EXPECT_TRUE(Exists("Leagues/Old.leg"));
+  Do(again, old, "yes delete");
+  EXPECT_EQ(Joined(ListFiles(folder_ / "Leagues")), "Top.leg");
   EXPECT_EQ(old.Load.Text() + ", " + Joined(old.FixtureList.Entries), "Top.leg, Match 1: T100 v T105");
 }
 
 TEST_F(LegEditorTest, OnlyAKnockOutIsSavedAsOne) {
   const std::string two = "1\nK\n2\nT100\nT101\nNP\n";
-  const std::string teams = "i: Please select the championship teams properly";
+  const std::string overwrite = "?: Do you want to overwrite K?";
   const std::string fixtures = "i: Please add the championship fixtures properly";
   const std::pair<std::string, std::string> files[] = {
-      {two + "T100\nT101\nWinner 1\n", "?: Do you want to overwrite K?"},
-      {two + "T100 (By Toss)\nT101\nWinner 1\n", "?: Do you want to overwrite K?"},
+      {two + "T100\nT101\nWinner 1\n", overwrite},
+      {two + "T100 (By Toss)\nT101\nWinner 1\n", overwrite},
       {two + "T100\nT105\nWinner 1\n", fixtures},          // A team that is not selected.
       {two + "Winner 7\nWinner 1\nWinner 1\n", fixtures},  // Waits for itself.
       {"1\nK\n2\nT100\nT100\nNP\nT100\nT100\nWinner 1\n", fixtures},
       {"2\nK\n3\nT100\nT101\nT102\nNP\nT100\nT101\nWinner 1\nNP\nWinner 1\nT102\nWinner 2\n", fixtures},
-      {"", teams},
+      {"", "i: Please select the championship teams properly"},
   };
   for (const auto& [text, message] : files) {
     SCOPED_TRACE(text);
-    WriteBytes(folder_ / "Tournies/K.trn", text);
-    WriteBytes(folder_ / "Tournies/K.lrs", "x");
+    Write("Tournies/K.trn", text);
+    Write("Tournies/K.lrs", "x");
     LegEditor editor = Open();
-    editor.KnockOut.NumberOfTeams = 16;
-    editor.Load_Click(editor.KnockOut, 0);
-    editor.KnockOut.Name = "K";
-    editor.Save_Click(editor.KnockOut);
-    EXPECT_EQ(desktop_.Told(), message);
-    EXPECT_EQ(std::filesystem::exists(folder_ / "Tournies/K.lrs"), message[0] == 'i');
+    EXPECT_EQ(Do(editor, editor.KnockOut, "more more more load0 name=K save"), message);
+    EXPECT_EQ(Exists("Tournies/K.lrs"), message != overwrite);
   }
 }
 

@@ -1,21 +1,18 @@
 // The play settings, the rankings and the chart.
-#include <gtest/gtest.h>
-
 #include "championship/championship_play.h"
 #include "championship/knock_charts.h"
 #include "championship/leg_results.h"
 #include "championship/standings_table.h"
 #include "championship/top_scorers.h"
 #include "engine/report.h"
-#include "support/fakes.h"
-#include "support/folders.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
 
 constexpr ChampionshipKind League = ChampionshipKind::League, KnockOut = ChampionshipKind::KnockOut;
 
-class ChampionshipTest : public testing::Test {
+class ChampionshipTest : public ScreenTest {
  protected:
   ChampionshipPlay Open(ChampionshipKind kind) {
     return {kind, folder_.Folder, desktop_, [this](const std::string& name) { current_ = name; },
@@ -34,10 +31,6 @@ class ChampionshipTest : public testing::Test {
     play.Command1_Click();
   }
 
-  void Write(const char* file, const std::string& text) const { WriteBytes(folder_ / file, text); }
-
-  TestFolder folder_;
-  FakeDesktop desktop_;
   std::string current_ = "N/A";
   Texts handedOver_;
   MatchSetup setup_;

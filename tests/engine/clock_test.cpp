@@ -1,19 +1,15 @@
 // Periods and their ends.
 #include "engine/clock.h"
 
-#include <gtest/gtest.h>
-
 #include <memory>
 
 #include "engine/match.h"
-#include "support/fakes.h"
-#include "support/matches.h"
-#include "support/scripted_random.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
 
-class ClockTest : public testing::Test {
+class ClockTest : public ScreenTest {
  protected:
   /// Opens a match in which a side scores in a second; in none when that is 0.
   void Open(bool extraTime, bool shootOut, int second, const char* side) {
@@ -40,10 +36,6 @@ class ClockTest : public testing::Test {
            S().Side2.Team;
   }
 
-  QuietRandom random_;
-  FakeDesktop desktop_;
-  FakeRecording recording_;
-  FakeScreen screen_;
   std::unique_ptr<Match> match_;
 };
 

@@ -1,18 +1,13 @@
 // How a match opens, and its pages.
 #include "engine/match.h"
 
-#include <gtest/gtest.h>
-
 #include "engine/report.h"
-#include "support/fakes.h"
-#include "support/folders.h"
-#include "support/matches.h"
-#include "support/scripted_random.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
 
-class MatchTest : public testing::Test {
+class MatchTest : public ScreenTest {
  protected:
   /// Venue, crowd, deciders, ranges of the goal draws and goal number of a match that opens with these draws.
   std::string Open(const MatchSetup& setup, const std::string& draws) {
@@ -22,10 +17,6 @@ class MatchTest : public testing::Test {
            (s.PenaltyShootOut ? " / shoot-out " : " / ") + std::to_string(s.Side1.GoalRange) + " " +
            std::to_string(s.Side2.GoalRange) + " " + std::to_string(s.GoalNumber);
   }
-
-  TestFolder folder_;
-  FakeDesktop desktop_;
-  FakeRecording recording_;
 };
 
 TEST_F(MatchTest, OpensAFriendlyFromItsSetUpAndAChampionshipMatchAtHomeElseAtADrawnStadium) {
@@ -86,7 +77,7 @@ TEST_F(MatchTest, PagesAreWrittenToTheLetter) {
   for (const auto& [page, title, body] : pages) {
     EXPECT_TRUE(WritePage(folder_ / "page.htm", page).Ok());
     EXPECT_EQ(
-        ReadBytes(folder_ / "page.htm"),
+        Bytes("page.htm"),
         AsWritten("<html><head>\n<title>Kickwell " + std::string(title) +
                   "</title>\n</head><body bgcolor=#ECE9D8>\n<font face=verdana size=2 color=#CC0000>\n" +
                   body +
@@ -102,7 +93,7 @@ TEST_F(MatchTest, SavingAsksForANameAndWritesTheListOnView) {
   Match match(folder_.Folder, desktop_, random, recording_, MakeSetup());
   match.ComSave_Click();  // Cancelled.
   EXPECT_TRUE(std::filesystem::is_empty(folder_.Folder.Root));
-  WriteBytes(folder_ / "page.htm", "old");
+  Write("page.htm", "old");
   desktop_.SaveName = (folder_ / "page").string();
   match.ComSave_Click();
   EXPECT_EQ(ReadLines(folder_ / "page.htm"), SummaryPage(match.Session()));

@@ -1,12 +1,8 @@
 // Instant results and shoot-outs, and what the end of a match announces and records.
 #include "engine/shoot_out.h"
 
-#include <gtest/gtest.h>
-
 #include "engine/match.h"
-#include "support/fakes.h"
-#include "support/matches.h"
-#include "support/scripted_random.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
@@ -21,7 +17,9 @@ std::string Quiet(int seconds) {
 
 constexpr int NormalTime = 89 * 60, ExtraTime = 29 * 60;  ///< Of an instant result, in seconds.
 
-TEST(Instant, PlaysEverySecondAndAnnouncesAndRecordsTheResult) {
+using Instant = ScreenTest;
+
+TEST_F(Instant, PlaysEverySecondAndAnnouncesAndRecordsTheResult) {
   const std::string tied = "|Result:|The match was tied at ";
   struct Case {
     MatchSetup Setup;
@@ -56,16 +54,14 @@ TEST(Instant, PlaysEverySecondAndAnnouncesAndRecordsTheResult) {
     SCOPED_TRACE(c.Summary);
     const std::string opening = c.Setup.Mode == Friendly ? "100:50 100:3 " : "100:3 ";
     ScriptedRandom random(opening + c.Draws + " 70:29 70:64 4:3 3:2 4:0 0:0 5:4 5:1 5:2 5:0");
-    FakeDesktop desktop;
-    FakeRecording recording;
-    Match match({}, desktop, random, recording, c.Setup);
+    Match match({}, desktop_, random, recording_, c.Setup);
     match.instant_Click();
     match.instant_Click();  // Played once only: the script has no draws left.
     const MatchSession& s = match.Session();
     EXPECT_FALSE(s.Controls.instantEnabled);
     EXPECT_EQ(Joined(s.Summary.Entries), c.Summary);
     EXPECT_EQ(s.Summary.Picked, s.Summary.Count() - 1);
-    EXPECT_EQ(Joined(recording.Calls), c.Recorded);
+    EXPECT_EQ(Joined(std::exchange(recording_.Calls, {})), c.Recorded);
     EXPECT_EQ(Figures(s), c.Figures);
     EXPECT_EQ(s.Controls.PensVisible, s.Side1Penalties == 3);
   }
@@ -83,7 +79,7 @@ std::vector<std::pair<std::string, std::string>> ShootOuts(int last) {
       {level, "PSO was tied at " + goals + "-" + goals}};
 }
 
-class ShootOutTest : public testing::Test {
+class ShootOutTest : public ScreenTest {
  protected:
   ShootOutTest() {
     s.Setup = MakeSetup(KnockOut);
@@ -93,8 +89,6 @@ class ShootOutTest : public testing::Test {
   }
 
   MatchSession s;
-  FakeDesktop desktop_;
-  FakeRecording recording_;
 };
 
 TEST_F(ShootOutTest, AMissAndAGoalShowWhatTheyAre) {

@@ -1,17 +1,13 @@
 // A minute of play, draw by draw.
 #include "engine/simulation.h"
 
-#include <gtest/gtest.h>
-
 #include "engine/match.h"
-#include "support/fakes.h"
-#include "support/matches.h"
-#include "support/scripted_random.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
 
-class SimulationTest : public testing::Test {
+class SimulationTest : public ScreenTest {
  protected:
   /// Plays the first minute of a match with goal number 3 and these draws; gives its commentary.
   std::string Play(const std::string& minute) {
@@ -29,9 +25,6 @@ class SimulationTest : public testing::Test {
     return Joined({lines.begin() + 2, lines.end()});  // Without those of the kick-off.
   }
 
-  FakeDesktop desktop_;
-  FakeRecording recording_;
-  FakeScreen screen_;
   MatchSession session_;
   std::string paused_;
 };

@@ -1,13 +1,10 @@
 // Large samples of seeded matches against the exact expectations of the draw rules.
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <map>
 
 #include "engine/goal.h"
 #include "engine/match.h"
-#include "support/fakes.h"
-#include "support/matches.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
@@ -46,16 +43,16 @@ class CountingRandom : public Random {
   SeededRandom source_{20260202};
 };
 
-TEST(Statistics, MeansOfInstantMatchesFollowTheDrawRules) {
+using Statistics = ScreenTest;
+
+TEST_F(Statistics, GoalsOfInstantMatchesFollowTheDrawRule) {
   SeededRandom random(20260101);
-  FakeDesktop desktop;
-  FakeRecording recording;
   for (const int strength : {1, 80, 99}) {
     double goals[2] = {0, 0};
     MatchSetup setup = MakeSetup();
     setup.Team1Strength = setup.Team2Strength = strength;
     for (int i = 0; i < Matches; ++i) {
-      Match match({}, desktop, random, recording, setup);
+      Match match({}, desktop_, random, recording_, setup);
       match.instant_Click();
       goals[0] += match.Session().Side1.Goals;
       goals[1] += match.Session().Side2.Goals;
@@ -64,31 +61,24 @@ TEST(Statistics, MeansOfInstantMatchesFollowTheDrawRules) {
   }
 }
 
-TEST(Statistics, MeansOfFullSimulationsFollowTheDrawRules) {
+TEST_F(Statistics, FirstHalvesOfFullSimulationsFollowTheDrawRules) {
   CountingRandom random;
-  FakeDesktop desktop;
-  FakeRecording recording;
-  FakeScreen screen;
-  // Goals, shots without goals, corners, fouls and bookings, by end of the pitch. The first halves tell all:
-  // side 1's team and side 2's then change ends.
   double sums[2][5] = {};
   for (int i = 0; i < Matches; ++i) {
-    Match match({}, desktop, random, recording, MakeFullSetup());
+    Match match({}, desktop_, random, recording_, MakeFullSetup());
     match.halftime_Click();
-    for (int minute = 0; minute < 45; ++minute) match.Timer1_Timer(screen);
+    for (int minute = 0; minute < 45; ++minute) match.Timer1_Timer(screen_);
     for (const int n : {0, 1}) {
       const Side& side = n == 0 ? match.Session().Side1 : match.Session().Side2;
       const int figures[] = {side.Goals, side.Shots - side.Goals, side.Corners, side.Fouls, side.Bookings};
-      for (std::size_t k = 0; k < 5; ++k) sums[n][k] += figures[k];
+      for (int k = 0; k < 5; ++k) sums[n][k] += figures[k];
     }
   }
-  const double shots[] = {0.5 * 1011 / 5091, 0.5 * 961 / 5091};
   for (const int n : {0, 1}) {
+    const double shot = 0.5 * (n == 0 ? 1011 : 961) / 5091;
+    const double chances[] = {shot, shot / 3, 0.5 / 70, 0.5 / 210};
     ExpectMean(sums[n][0], 2700, GoalChance(4000), "goals");
-    ExpectMean(sums[n][1], 45, shots[n], "shots");
-    ExpectMean(sums[n][2], 45, shots[n] / 3, "corners");
-    ExpectMean(sums[n][3], 45, 0.5 / 70, "fouls");
-    ExpectMean(sums[n][4], 45, 0.5 / 210, "bookings");
+    for (int k = 0; k < 4; ++k) ExpectMean(sums[n][k + 1], 45, chances[k], "shots, corners, fouls, bookings");
   }
   for (const auto& [n, counts] : random.Counts) {
     double total = 0, chiSquare = 0;

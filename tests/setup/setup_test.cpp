@@ -1,10 +1,7 @@
 // The match settings and the line-up selection.
-#include <gtest/gtest.h>
-
 #include "setup/selection.h"
 #include "setup/settings.h"
-#include "support/fakes.h"
-#include "support/folders.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
@@ -20,7 +17,7 @@ Texts Replaced(const std::string& line, const std::string& by) {
   return positions;
 }
 
-class SetupTest : public testing::Test {
+class SetupTest : public ScreenTest {
  protected:
   Settings OpenSettings() {
     return {folder_.Folder, desktop_, [this](const MatchSetup& setup) { opened_.push_back(setup); }};
@@ -54,8 +51,6 @@ class SetupTest : public testing::Test {
     return text + ", " + side.Reputation;
   }
 
-  TestFolder folder_;
-  FakeDesktop desktop_;
   std::vector<MatchSetup> opened_;
 };
 

@@ -1,15 +1,11 @@
 // The program played through its real windows, boxes and dialogs.
-#include <gtest/gtest.h>
-
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QtTest/QTest>
 
 #include "data/championship_store.h"
-#include "support/fakes.h"
-#include "support/folders.h"
-#include "support/scripted_random.h"
+#include "support/screen_test.h"
 #include "ui/app.h"
 #include "ui/qt_desktop.h"
 #include "user.h"
@@ -28,7 +24,7 @@ QString Shown(QWidget& window, const QString& name) {
   return lines.join('|');
 }
 
-class PlayTest : public testing::Test {
+class PlayTest : public ScreenTest {
  protected:
   PlayTest() {
     AddTeams(folder_, {"Albion", "Borough", "City"});
@@ -90,9 +86,6 @@ class PlayTest : public testing::Test {
     for (const QWidget* const window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
   }
 
-  TestFolder folder_;
-  FakeDesktop desktop_;
-  QuietRandom random_;
   User user_;
 };
 
@@ -163,7 +156,7 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
           "Borough",
       "Command1"});
   Run(desktop_);
-  EXPECT_EQ(ReadBytes(folder_ / "Leagues/Test.leg").find(AsWritten("\nNP").substr(2)), std::string::npos);
+  EXPECT_EQ(Bytes("Leagues/Test.leg").find(AsWritten("\nNP").substr(2)), std::string::npos);
 }
 
 TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
@@ -187,7 +180,7 @@ TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
 }
 
 TEST_F(PlayTest, AClubIsBuiltFromNothingAndPlaysInItsStadium) {
-  WriteBytes(folder_ / "Leagues/Test.leg", "Test\n2\nNewcomers\nAlbion\n1\nNP\nNewcomers\nAlbion\n");
+  Write("Leagues/Test.leg", "Test\n2\nNewcomers\nAlbion\n1\nNP\nNewcomers\nAlbion\n");
   Choose(Qt::Key_E, Qt::Key_T);
   Do("TeamEditor",
      {"Text1<Newcomers and more", "Text5<777", "Text1 Text5=Newcomers and mo|77"});  // 16 characters.

@@ -81,40 +81,41 @@ TEST_F(ClockTest, AMatchEndsWhenItIsDecided) {
   struct Case {
     bool ExtraTime, ShootOut;
     int Second;  ///< In which side 2 scores.
-    std::string Summary, Result, Period;
+    std::string Winner, Period;
     int Minutes;
   };
   const Case cases[] = {
-      {false, true, 0, "", "The match was tied at 0-0", "&Normal Time 2nd", 90},
-      {true, false, 0, "", "The match was tied at 0-0", "&Extra Time 2nd", 120},
-      {true, true, 2700, "45:00 >> U5 (United)|", "United beats Rovers 1-0", "&Normal Time 2nd", 90},
-      {true, true, 5400, "90:00 >> R5 (Rovers)|", "Rovers beats United 1-0", "&Normal Time 2nd", 90},
+      {false, true, 0, "", "&Normal Time 2nd", 90},
+      {true, false, 0, "", "&Extra Time 2nd", 120},
+      {true, true, 2700, "United", "&Normal Time 2nd", 90},
+      {true, true, 5400, "Rovers", "&Normal Time 2nd", 90},
       // Golden goals: not a second more is played, but the minute's other draws are made.
-      {true, true, 5401, "90:01 >> U5 (United)|GOLDEN GOAL!|", "United beats Rovers 1-0", "&Extra Time 1st",
-       91},
-      {true, true, 6300, "105:00 >> U5 (United)|GOLDEN GOAL!|", "United beats Rovers 1-0", "&Extra Time 1st",
-       105},
-      {true, false, 7051, "117:31 >> R5 (Rovers)|GOLDEN GOAL!|", "Rovers beats United 1-0", "&Extra Time 2nd",
-       118},
-      {true, true, 7200, "120:00 >> R5 (Rovers)|GOLDEN GOAL!|", "Rovers beats United 1-0", "&Extra Time 2nd",
-       120},
+      {true, true, 5401, "United", "&Extra Time 1st", 91},
+      {true, true, 6300, "United", "&Extra Time 1st", 105},
+      {true, false, 7051, "Rovers", "&Extra Time 2nd", 118},
+      {true, true, 7200, "Rovers", "&Extra Time 2nd", 120},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(testing::Message() << c.ExtraTime << c.ShootOut << " " << c.Second);
     Open(c.ExtraTime, c.ShootOut, c.Second, "2");
     for (const int minutes : {45, 45, 15, 15, 1}) Play(minutes);
-    EXPECT_EQ(Joined(S().Summary.Entries), c.Summary + "|Result:|" + c.Result);
+    const bool golden = c.Second > 5400, united = c.Winner == "United";
+    const std::string clock = ClockText(c.Second / 60, c.Second % 60);
+    const std::string goal =
+        clock + (united ? " >> U5 (United)" : " >> R5 (Rovers)") + (golden ? "|GOLDEN GOAL!" : "");
+    const std::string wins = united ? "United beats Rovers 1-0" : "Rovers beats United 1-0";
+    EXPECT_EQ(Joined(S().Summary.Entries),
+              c.Second > 0 ? goal + "||Result:|" + wins : "|Result:|The match was tied at 0-0");
     const std::string ends = c.Period == "&Extra Time 1st" ? "Rovers-United" : "United-Rovers";
     EXPECT_EQ(State(), c.Period + " Half (off), , 0 at 2520 390, " + ends);
     EXPECT_EQ(random_.Minutes, c.Minutes);
-    const std::string commentary = Joined(S().Commentary.Entries);
-    const std::string wins = "|With that, " + c.Result.substr(0, 6) + " wins the match";
-    EXPECT_TRUE(commentary.ends_with(
-        c.Second > 5400 ? "|Referee blows the final whistle|The match ends with a Golden Goal" + wins
-        : c.Second > 0  ? "|Referee blows the full time whistle" + wins
-        : c.ExtraTime   ? "|The match remains undecided after Extra Time 2nd half"
-                        : "|Referee blows the full time whistle"))
-        << commentary;
+    EXPECT_TRUE(!golden || S().ClockText == clock) << S().ClockText;
+    const std::string end = golden ? "Referee blows the final whistle|The match ends with a Golden Goal"
+                            : c.Period == "&Normal Time 2nd"
+                                ? "Referee blows the full time whistle"
+                                : "The match remains undecided after Extra Time 2nd half";
+    const std::string won = c.Second > 0 ? "|With that, " + c.Winner + " wins the match" : "";
+    EXPECT_TRUE(Joined(S().Commentary.Entries).ends_with("|" + end + won)) << S().Commentary.Text();
   }
 }
 

@@ -151,25 +151,20 @@ TEST_F(ShootOutTest, EndsWhereItIsDecidedAtOnce) {
   for (const auto& [kicks, line] : ShootOuts(30)) {
     SCOPED_TRACE(kicks);
     std::string draws = "100:3 " + Quiet(NormalTime + ExtraTime);
-    std::string lines = "PENALTY SHOOT OUT!|";
-    for (std::size_t k = 0; k < kicks.size(); ++k) {  // A miss has a taker, too, but leaves no line.
-      const std::string side = k % 2 == 0 ? "R" : "U", taker = std::to_string(k % 6 + 1);
-      draws +=
-          (kicks[k] == 'x' ? "2:1 " : "2:0 ") + std::to_string(6 + k % 2) + ":" + std::to_string(k % 6) + " ";
-      if (kicks[k] == 'x') lines += side + taker + (k % 2 == 0 ? " (Rovers)|" : " (United)|");
-    }
+    for (std::size_t k = 0; k < kicks.size(); ++k)
+      draws += std::string(kicks[k] == 'x' ? "2:1 " : "2:0 ") + (k % 2 == 0 ? "6:0 " : "7:0 ");
     const bool toss = line.starts_with("PSO");
     ScriptedRandom random(draws + (toss ? "2:1 " : "") + "70:30 4:0 0:0 4:0 0:0 5:0x4");
     Match match({}, desktop_, random, recording_, s.Setup);
     match.instant_Click();
     const std::string winner = line.substr(0, 6);
-    EXPECT_EQ(Joined(match.Session().Summary.Entries), lines + "|Result:|The match was tied at 0-0|" + line);
+    EXPECT_EQ(match.Session().Summary.Entries.back(), line);
     EXPECT_EQ(Joined(match.Session().Commentary.Entries),
               toss ? "The match still remains undecided after the PSO"
                    : "That's it, " + winner + " wins the match in a PSO");
-    EXPECT_EQ(recording_.Calls.back(), "shoot-out " + (toss ? "United (By Toss)" : winner));
+    EXPECT_EQ(Joined(std::exchange(recording_.Calls, {})),
+              "shoot-out " + (toss ? "United (By Toss)" : winner));
   }
-  EXPECT_EQ(recording_.Calls.size(), ShootOuts(30).size());
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 #include <cmath>
 #include <map>
 
-#include "engine/goal.h"
 #include "engine/match.h"
 #include "support/screen_test.h"
 
@@ -19,11 +18,6 @@ constexpr int Matches = 20000;
 void ExpectMean(double sum, double tries, double chance, const char* what) {
   const double error = std::sqrt(tries * chance * (1 - chance) / Matches);
   EXPECT_NEAR(sum / Matches, tries * chance, 4 * error) << what;
-}
-
-/// The chance of a side's goal in a second: its draw is the goal number, and the other's is not.
-double GoalChance(double range) {
-  return 1 / range * (1 - 1 / range);
 }
 
 /// Counts what each range of draws gave.
@@ -45,26 +39,15 @@ class CountingRandom : public Random {
 
 using Statistics = ScreenTest;
 
-TEST_F(Statistics, GoalsOfInstantMatchesFollowTheDrawRule) {
-  SeededRandom random(20260101);
-  for (const int strength : {1, 80, 99}) {
-    double goals[2] = {0, 0};
-    MatchSetup setup = MakeSetup();
-    setup.Team1Strength = setup.Team2Strength = strength;
-    for (int i = 0; i < Matches; ++i) {
-      Match match({}, desktop_, random, recording_, setup);
-      match.instant_Click();
-      goals[0] += match.Session().Side1.Goals;
-      goals[1] += match.Session().Side2.Goals;
-    }
-    for (const double sum : goals) ExpectMean(sum, 5340, GoalChance(GoalRange(strength)), "goals");
-  }
-}
-
-TEST_F(Statistics, FirstHalvesOfFullSimulationsFollowTheDrawRules) {
+TEST_F(Statistics, MatchesFollowTheDrawRules) {
   CountingRandom random;
-  double sums[2][5] = {};
+  double instant[2] = {};  // Goals.
+  double sums[2][5] = {};  // Goals, shots without goals, corners, fouls and bookings of first halves.
   for (int i = 0; i < Matches; ++i) {
+    Match quick({}, desktop_, random, recording_, MakeSetup());
+    quick.instant_Click();
+    instant[0] += quick.Session().Side1.Goals;
+    instant[1] += quick.Session().Side2.Goals;
     Match match({}, desktop_, random, recording_, MakeFullSetup());
     match.halftime_Click();
     for (int minute = 0; minute < 45; ++minute) match.Timer1_Timer(screen_);
@@ -74,10 +57,12 @@ TEST_F(Statistics, FirstHalvesOfFullSimulationsFollowTheDrawRules) {
       for (int k = 0; k < 5; ++k) sums[n][k] += figures[k];
     }
   }
+  const double goal = 1 / 4000.0 * (1 - 1 / 4000.0);  // One draw is the goal number, and the other is not.
   for (const int n : {0, 1}) {
     const double shot = 0.5 * (n == 0 ? 1011 : 961) / 5091;
     const double chances[] = {shot, shot / 3, 0.5 / 70, 0.5 / 210};
-    ExpectMean(sums[n][0], 2700, GoalChance(4000), "goals");
+    ExpectMean(instant[n], 5340, goal, "goals of an instant result");
+    ExpectMean(sums[n][0], 2700, goal, "goals");
     for (int k = 0; k < 4; ++k) ExpectMean(sums[n][k + 1], 45, chances[k], "shots, corners, fouls, bookings");
   }
   for (const auto& [n, counts] : random.Counts) {

@@ -5,6 +5,7 @@
 
 #include <deque>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 
 #include "base/random.h"
@@ -33,16 +34,17 @@ class ScriptedRandom : public Random {
   ~ScriptedRandom() override { EXPECT_TRUE(script_.empty()) << "next: Int(" << script_.front().N << ")"; }
 
   int Int(int n) override {
+    if (script_.empty()) throw std::out_of_range("unexpected Int(" + std::to_string(n) + ")");
+    const Draw draw = script_.front();
     ++made_;
-    const Draw draw = script_.empty() ? Draw{} : script_.front();
     EXPECT_EQ(n, draw.N) << "draw " << made_;
-    if (!script_.empty() && --script_.front().Times == 0) script_.pop_front();
+    if (--script_.front().Times == 0) script_.pop_front();
     return draw.Value;
   }
 
  private:
   struct Draw {
-    int N = -1, Value = 0, Times = 1;
+    int N = 0, Value = 0, Times = 1;
   };
   std::deque<Draw> script_;
   int made_ = 0;

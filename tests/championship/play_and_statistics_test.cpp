@@ -137,7 +137,8 @@ TEST_F(ChampionshipTest, TheTableSortsByPointsDifferenceAndGoalsAndKeepsTies) {
   EXPECT_EQ(none.Label1 + Rows(none), "Kickwell Current League Standings");
   for (int i = 0; i < 113; ++i) league.Teams.push_back("X" + std::to_string(i));
   ASSERT_TRUE(WriteChampionship(folder_.Folder, league).Ok());
-  EXPECT_EQ(StandingsTable(folder_.Folder, "Top").Rows.size(), 100U);
+  const Texts last = StandingsTable(folder_.Folder, "Top").Rows.back();
+  EXPECT_EQ(last[0] + last[1], "100X94");  // Level rows keep their order, however many there are.
 }
 
 TEST(Paging, ShowsFifteenRowsAtATime) {

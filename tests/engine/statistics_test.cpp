@@ -1,4 +1,5 @@
 // Large samples of seeded matches against the exact expectations of the draw rules.
+#include <algorithm>
 #include <cmath>
 #include <map>
 
@@ -26,7 +27,7 @@ class CountingRandom : public Random {
   int Int(int n) override {
     const int value = source_.Int(n);
     std::vector<int>& counts = Counts[n];
-    counts.resize(static_cast<std::size_t>(n));
+    counts.resize(static_cast<std::size_t>(std::max(n, 1)));
     ++counts.at(static_cast<std::size_t>(value));
     return value;
   }

@@ -138,10 +138,10 @@ TEST_F(LegEditorTest, SavesOverwritesLoadsAndDeletes) {
   Write("Leagues/Old.leg", "Old\n3\nT105\nT100\nGone\n1\nP\nT100\nT105\n");
   LegEditor again = Open();
   EditorSide& old = again.League;
-  Do(again, old, "load0");
+  Do(again, old, "load0 fix01");  // Goes on with the list that is loaded.
   EXPECT_EQ(old.Name + " " + Lists(old),
-            "Old T101|T102|T103|T104 0; Gone|T100|T105 -1; Gone|T100|T105 -1; "
-            "Gone|T100|T105 -1; Match 1: T100 v T105 -1; ");
+            "Old T101|T102|T103|T104 0; Gone|T100|T105 -1; Gone|T100|T105 0; Gone|T100|T105 1; "
+            "Match 1: T100 v T105|Match 2: Gone v T100 -1; ");
   Do(again, old, "auto fix12");  // Starts again after generated fixtures.
   EXPECT_EQ(Joined(old.FixtureList.Entries), "Match 1: T100 v T105");
   EXPECT_EQ(Do(again, old, "name= delete name=Top no delete"),  // Deletes what the question names.
@@ -159,8 +159,8 @@ TEST_F(LegEditorTest, OnlyAKnockOutIsSavedAsOne) {
   const std::pair<std::string, std::string> files[] = {
       {two + "T100\nT101\nWinner 1\n", overwrite},
       {two + "T100 (By Toss)\nT101\nWinner 1\n", overwrite},
-      {two + "T100\nT105\nWinner 1\n", fixtures},          // A team that is not selected.
-      {two + "Winner 7\nWinner 1\nWinner 1\n", fixtures},  // Waits for itself.
+      {two + "T100\nT105\nWinner 1\n", fixtures},      // A team that is not selected.
+      {two + "T100\nWinner 1\nWinner 1\n", fixtures},  // Waits for itself.
       {"1\nK\n2\nT100\nT100\nNP\nT100\nT100\nWinner 1\n", fixtures},
       {"2\nK\n3\nT100\nT101\nT102\nNP\nT100\nT101\nWinner 1\nNP\nWinner 1\nT102\nWinner 2\n", fixtures},
       {"", "i: Please select the championship teams properly"},

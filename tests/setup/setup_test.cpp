@@ -149,13 +149,14 @@ TEST_F(SetupTest, TheRulesOfALineUpAreTestedInOrder) {
     selection.Command1_Click();
     EXPECT_EQ(desktop_.Told(), message);
     selection.Combo1_Click(9, 1);  // Nobody plays twice: that is told before all else, of the last pair.
-    selection.Combo2_Click(7, 3);
+    selection.Combo2_Click(10, 9);
     selection.Command1_Click();
-    selection.Combo1_Click(7, 3);  // The same pair on both sides: side 1 is told.
+    selection.Combo1_Click(9, 9);
+    selection.Combo1_Click(10, 9);  // The same pair on both sides: side 1 is told.
     selection.Command1_Click();
     EXPECT_EQ(desktop_.Told(),
-              "!: U3 of United has been selected more than once.|"
-              "!: R3 of Rovers has been selected more than once.");
+              "!: U9 of United has been selected more than once.|"
+              "!: R9 of Rovers has been selected more than once.");
     EXPECT_TRUE(opened_.empty() && !selection.Closed);
   }
   std::filesystem::remove(folder_ / "Teams/Rovers");

@@ -76,7 +76,10 @@ TEST_F(WindowsTest, ASmallSquadCanOnlyBeCancelled) {
 }
 
 TEST_F(WindowsTest, TheGoalsMakeRoomForTheShootOutAndTheFrameAsksAsTheExitButtonDoes) {
-  Match match(folder_.Folder, desktop_, random_, recording_, MakeSetup(MatchMode::Friendly, false, true));
+  // Nobody scores in 89 minutes; then three kicks each, side 1's all in; then the facts.
+  ScriptedRandom random("100:50 100:3 4000:7x10680 " + Times(3, "2:1 6:0 2:0 7:0") +
+                        "70:40 4:3 3:2 4:1 1:0 5:4 5:2 5:0 5:3");
+  Match match(folder_.Folder, desktop_, random, recording_, MakeSetup(MatchMode::Friendly, false, true));
   MatchWindow window(match, {}, nullptr);
   window.show();
   const auto left = [&window] { return window.findChild<QLabel*>("Inn1")->mapTo(&window, QPoint()).x(); };
@@ -86,7 +89,12 @@ TEST_F(WindowsTest, TheGoalsMakeRoomForTheShootOutAndTheFrameAsksAsTheExitButton
   QTest::qWait(20);
   EXPECT_TRUE(window.findChild<QLabel*>("Pen1")->isVisible());
   EXPECT_EQ(before - left(), Twips(&window, 360));
-  EXPECT_EQ(window.findChild<QListWidget*>("List1(1)")->currentRow(), 4);  // The newest line is in view.
+  EXPECT_EQ(window.findChild<QListWidget*>("List1(1)")->currentRow(), 7);  // The newest line is in view.
+  QString shown;
+  for (const char* label : {"Pen1", "Shots1", "Corner1", "Book1", "Foul1", "PosMet(0)", "Pen2", "Shots2",
+                            "Corner2", "Book2", "Foul2", "PosMet(1)"})
+    shown += User::TextOf(window, label) + " ";
+  EXPECT_EQ(shown.toStdString(), "(3) 0 4 2 3 40% (0) 3 2 0 1 60% ");
   desktop_.Yes = false;
   window.close();
   EXPECT_TRUE(window.isVisible());

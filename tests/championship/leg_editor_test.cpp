@@ -159,7 +159,7 @@ TEST_F(LegEditorTest, OnlyAKnockOutIsSavedAsOne) {
   const std::pair<std::string, std::string> files[] = {
       {two + "T100\nT101\nWinner 1\n", overwrite},
       {two + "T100 (By Toss)\nT101\nWinner 1\n", overwrite},
-      {two + "T100\nT105\nWinner 1\n", fixtures},      // A team that is not selected.
+      {two + "T105\nT100\nWinner 1\n", fixtures},      // A team that is not selected.
       {two + "T100\nWinner 1\nWinner 1\n", fixtures},  // Waits for itself.
       {"1\nK\n2\nT100\nT100\nNP\nT100\nT100\nWinner 1\n", fixtures},
       {"2\nK\n3\nT100\nT101\nT102\nNP\nT100\nT101\nWinner 1\nNP\nWinner 1\nT102\nWinner 2\n", fixtures},

@@ -18,6 +18,7 @@ class SimulationTest : public ScreenTest {
     screen_.WhilePaused = [&] {
       paused_ = Shown(match.Session()) + ", " + Figures(match.Session());
       match.Timer1_Timer(screen_);  // A tick that falls due now is dropped.
+      if (leave_) match.Command1_Click();
     };
     match.Timer1_Timer(screen_);
     session_ = match.Session();
@@ -27,6 +28,7 @@ class SimulationTest : public ScreenTest {
 
   MatchSession session_;
   std::string paused_;
+  bool leave_ = false;
 };
 
 TEST_F(SimulationTest, AMinuteWithEverythingInIt) {
@@ -55,6 +57,12 @@ TEST_F(SimulationTest, SideTwosGoalIsCelebratedAtItsOwnSpot) {
   EXPECT_EQ(Play("4:1 10:0 4000:9 4000:3 3:2 7:0 " + rest),
             "Great shot from a distance by U7|And its a GOAL!!|It's celebration time");
   EXPECT_EQ(paused_, "GOAL! (green), 2 at 0 390, Rovers 0/0/0/0/0 0%, United 1/1/0/0/0 0%");
+}
+
+TEST_F(SimulationTest, AMatchThatIsLeftInAGoalPauseMakesNotOneDrawMore) {
+  leave_ = true;
+  Play("4:0 10:0 4000:3 4000:9 2:0 7:0");
+  EXPECT_EQ(session_.ClockText, "00:01");
 }
 
 TEST_F(SimulationTest, ShotsAndFoulsDependOnTheSideWithTheBall) {

@@ -160,6 +160,9 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
 
 TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
   AddTeams(folder_, {"Dynamo"});
+  std::filesystem::remove(folder_ / "stadiums.sim");  // Played without any crowd.
+  Choose(Qt::Key_P, Qt::Key_S);
+  Press("Settings", {Qt::Key_Escape});
   Choose(Qt::Key_E, Qt::Key_C);
   Do("LegEditor", {"Kind#1", "KnockOutName<Cup", "MoreTeams", "KnockOutAddTeam", "KnockOutAddTeam",
                    "KnockOutAddTeam", "KnockOutAddTeam", "KnockOutAutoFixtures", "KnockOutSave", "Exit"});

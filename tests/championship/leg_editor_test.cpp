@@ -1,288 +1,178 @@
 #include "championship/leg_editor.h"
 
-#include <gtest/gtest.h>
+#include <sstream>
+#include <tuple>
 
-#include <set>
-
-#include "support/fakes.h"
-#include "support/folders.h"
+#include "data/file_names.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
 
-using Texts = std::vector<std::string>;
-
-TEST(Fixtures, ALeagueMeetsAtBothGroundsAndADrawFollowsTheAlphabet) {
-  SeededRandom random(7);
-  Texts teams;
-  for (int i = 0; i < 32; ++i) teams.push_back("T" + std::to_string(i));
-  const std::vector<Pairing> league = LeagueFixture(teams, random);
-  std::set<std::pair<std::string, std::string>> pairs;
-  for (const Pairing& fixture : league) pairs.emplace(fixture.Home, fixture.Away);
-  EXPECT_EQ(league.size(), 992U);
-  EXPECT_EQ(pairs.size(), 992U);
-  for (const auto& [home, away] : pairs) EXPECT_NE(home, away);
-
-  std::set<Texts> orders;
-  for (int i = 0; i < 200; ++i) {
-    const std::vector<Pairing> cup = KnockOutFixture({"A", "B", "C", "D", "E", "F", "G", "H"}, random);
-    ASSERT_EQ(cup.size(), 7U);
-    Texts order;
-    for (std::size_t k = 0; k < 4; ++k) {
-      order.push_back(cup[k].Home);
-      EXPECT_EQ(cup[k].Away[0], cup[k].Home[0] + 4);
-    }
-    orders.insert(order);
-    EXPECT_EQ(cup[4], (Pairing{"Winner 1", "Winner 2"}));
-    EXPECT_EQ(cup[6], (Pairing{"Winner 5", "Winner 6"}));
-  }
-  EXPECT_GT(orders.size(), 20U);  // Of 24.
-  EXPECT_EQ(KnockOutFixture({"A", "B"}, random), (std::vector<Pairing>{{"A", "B"}}));
-  std::set<std::string> first;
-  for (int i = 0; i < 100; ++i) first.insert(KnockOutFixture({"A", "B", "C", "D"}, random)[0].Home);
-  EXPECT_EQ(first, (std::set<std::string>{"A", "B"}));
+std::string Text(const std::vector<Pairing>& fixtures) {
+  Texts pairs;
+  for (const Pairing& fixture : fixtures) pairs.push_back(fixture.Home + "-" + fixture.Away);
+  return Joined(pairs);
 }
 
-class LegEditorTest : public testing::Test {
- protected:
-  LegEditorTest() { AddTeams(6); }
+TEST(Fixtures, ArePairedAndThenExchangedBetweenDrawnPlaces) {
+  ScriptedRandom random("6:0 6:5 6:1x10 2:1 2:0 2:0x2 4:3 4:1 4:2x6 1:0x2");
+  EXPECT_EQ(Text(LeagueFixture({"A", "B", "C"}, random)), "C-B|B-A|A-C|C-A|B-C|A-B");
+  EXPECT_EQ(Text(KnockOutFixture({"A", "B", "C", "D"}, random)), "B-D|A-C|Winner 1-Winner 2");
+  EXPECT_EQ(Text(KnockOutFixture({"A", "B", "C", "D", "E", "F", "G", "H"}, random)),
+            "A-E|D-H|C-G|B-F|Winner 1-Winner 2|Winner 3-Winner 4|Winner 5-Winner 6");
+  EXPECT_EQ(Text(KnockOutFixture({"A", "B"}, random)), "A-B");
+}
 
-  void AddTeams(int count) {
-    for (int i = 0; i < count; ++i) {
+class LegEditorTest : public ScreenTest {
+ protected:
+  LegEditorTest() { MakeTeams(6); }
+
+  /// Teams "T100", "T101" and so on.
+  void MakeTeams(int count) {
+    for (int i = 0; i < count; ++i)
       EXPECT_TRUE(CreateTeam(folder_.Folder, "T" + std::to_string(100 + i), "50").Ok());
-    }
   }
 
   LegEditor Open() { return {folder_.Folder, desktop_, random_}; }
 
-  static void Select(EditorSide& side, int count) {
-    for (int i = 0; i < count; ++i) LegEditor::AddTeam_Click(side);
+  /// Does one after the other on a side: "team" adds the picked team and "remove" removes it, "avail2" and
+  /// "sel2" pick, "auto", "save", "delete" and "load0" are those buttons, "fix01" adds a fixture of the first
+  /// two teams, "name=N" types, and "yes" and "no" are the answers from then on. Gives the messages.
+  std::string Do(LegEditor& editor, EditorSide& side, const std::string& actions) {
+    std::istringstream words(actions);
+    for (std::string word; words >> word;) {
+      const int n = word.back() - '0';
+      if (word == "team") LegEditor::AddTeam_Click(side);
+      if (word == "remove") LegEditor::RemoveTeam_Click(side);
+      if (word.starts_with("avail")) side.Available.Picked = n;
+      if (word.starts_with("sel")) side.Selected.Picked = n;
+      if (word == "auto") editor.AutoFixtures_Click(side);
+      if (word == "save") editor.Save_Click(side);
+      if (word == "delete") editor.Delete_Click(side);
+      if (word.starts_with("load")) editor.Load_Click(side, n);
+      if (word == "more") editor.MoreTeams_Click();
+      if (word == "fewer") editor.FewerTeams_Click();
+      if (word.starts_with("name=")) side.Name = word.substr(5);
+      if (word == "yes" || word == "no") desktop_.Yes = word == "yes";
+      if (word.starts_with("fix") && word.size() == 5)
+        std::tie(side.Home.Picked, side.Away.Picked) = std::pair(word[3] - '0', n);
+      if (word.starts_with("fix")) editor.AddFixture_Click();
+    }
+    return desktop_.Told();
   }
 
-  Texts Told() { return desktop_.Taken(); }
-
-  TestFolder folder_;
-  FakeDesktop desktop_;
-  SeededRandom random_{3};
+  /// The entries of the lists with what is picked.
+  static std::string Lists(const EditorSide& side) {
+    std::string text;
+    for (const Chooser* list : {&side.Available, &side.Selected, &side.Home, &side.Away, &side.FixtureList})
+      text += Joined(list->Entries) + " " + std::to_string(list->Picked) + "; ";
+    return text;
+  }
 };
 
 TEST_F(LegEditorTest, TeamsMoveBetweenTheListsAndTheChoosers) {
   LegEditor editor = Open();
   EditorSide& side = editor.League;
-  EXPECT_EQ(side.Available.Count(), 6);
-  EXPECT_EQ(side.Available.Picked, 0);
-  side.Available.Picked = 2;
-  LegEditor::AddTeam_Click(side);
-  LegEditor::AddTeam_Click(side);
-  EXPECT_EQ(side.Selected.Entries, (Texts{"T100", "T102"}));
-  EXPECT_EQ(side.Home.Entries, side.Selected.Entries);
-  LegEditor::RemoveTeam_Click(side);  // None is picked yet.
-  EXPECT_EQ(side.Selected.Count(), 2);
-  side.Home.Picked = side.Selected.Picked = 0;
-  LegEditor::RemoveTeam_Click(side);
-  EXPECT_EQ(side.Selected.Entries, Texts{"T102"});
-  EXPECT_EQ(side.Away.Entries, Texts{"T102"});
-  EXPECT_EQ(side.Home.Picked, Chooser::None);
-  EXPECT_EQ(side.Selected.Picked, 0);
-  EXPECT_EQ(side.Available.Entries, (Texts{"T100", "T101", "T103", "T104", "T105"}));
-  for (int i = 0; i < 5; ++i) editor.MoreTeams_Click();
-  EXPECT_EQ(editor.KnockOut.NumberOfTeams, 16);
-  for (int i = 0; i < 5; ++i) editor.FewerTeams_Click();
-  EXPECT_EQ(editor.KnockOut.NumberOfTeams, 2);
+  Do(editor, side, "avail2 team remove sel0");  // None was picked for the removal.
+  side.Home.Picked = 0;
+  Do(editor, side, "team");
+  EXPECT_EQ(Lists(side), "T101|T103|T104|T105 0; T100|T102 1; T100|T102 1; T100|T102 -1;  -1; ");
+  Do(editor, side, "sel0 remove");
+  EXPECT_EQ(Lists(side), "T100|T101|T103|T104|T105 1; T102 0; T102 0; T102 -1;  -1; ");
+  Do(editor, side, "remove");
+  EXPECT_EQ(Lists(side), "T100|T101|T102|T103|T104|T105 1;  -1;  -1;  -1;  -1; ");
+  Do(editor, side, "more more more more fewer");
+  EXPECT_EQ(editor.KnockOut.NumberOfTeams, 8);  // Never more than 16,
+  Do(editor, side, "fewer fewer fewer more");
+  EXPECT_EQ(editor.KnockOut.NumberOfTeams, 4);  // nor fewer than 2.
 }
 
-TEST_F(LegEditorTest, EveryRefusalHasItsMessage) {
+TEST_F(LegEditorTest, EveryRefusalHasItsMessageAndLimitsAreHeldWhereFixturesAreMade) {
+  MakeTeams(101);
   LegEditor editor = Open();
   EditorSide& league = editor.League;
-  EditorSide& cup = editor.KnockOut;
-  const auto expect = [this](const std::string& message) { EXPECT_EQ(Told(), Texts{message}); };
-  editor.AddFixture_Click();
-  expect("i: There must be atleast two teams in the competition");
-  Select(league, 1);
-  editor.AutoFixtures_Click(league);
-  expect("i: There must be at least two teams in the competition");
-  editor.Save_Click(league);
-  expect("i: Please select the championship teams properly");
-  Select(league, 1);
-  editor.AddFixture_Click();
-  expect("i: Select both the home and away teams properly");
-  league.Home.Picked = league.Away.Picked = 1;
-  editor.AddFixture_Click();
-  expect("i: T101 can't play againt itself");
-  editor.Save_Click(league);
-  expect("i: Please add the championship fixtures properly");
-  editor.AutoFixtures_Click(league);
-  editor.Save_Click(league);
-  expect("i: Please enter a name for the championship");
-  league.Name = "a/b";
-  editor.Save_Click(league);
-  expect("!: a/b can't be used as a file name.");
-  editor.Delete_Click(league);
-  expect("i: Please load a championship to delete");
-
-  editor.MoreTeams_Click();
-  Select(cup, 3);
-  editor.AutoFixtures_Click(cup);
-  expect("i: Total teams selected doesn't match the number of teams");
-  Select(cup, 1);
-  editor.AutoFixtures_Click(cup);
-  cup.Name = "Cup";
-  cup.Selected.Picked = 0;
-  LegEditor::RemoveTeam_Click(cup);  // The teams no longer are those of the fixtures.
-  editor.Save_Click(cup);
-  editor.FewerTeams_Click();
-  editor.Save_Click(cup);
-  EXPECT_EQ(Told(), Texts(2, "i: Please add the championship fixtures properly"));
-  EXPECT_FALSE(std::filesystem::exists(folder_.Folder.Tournies()));
-}
-
-TEST_F(LegEditorTest, TheLimitsAreHeldWhereFixturesAreMade) {
-  AddTeams(101);
-  LegEditor editor = Open();
-  EditorSide& side = editor.League;
-  Select(side, 32);
-  editor.AutoFixtures_Click(side);
-  EXPECT_EQ(side.FixtureList.Count(), 992);
-  Select(side, 1);
-  editor.AutoFixtures_Click(side);
-  EXPECT_EQ(Told(), Texts{"i: A league with generated fixtures can have at most 32 teams"});
-  EXPECT_EQ(side.FixtureList.Count(), 992);
-  side.Home.Picked = 0;
-  side.Away.Picked = 1;
-  for (int i = 0; i < 1002; ++i) editor.AddFixture_Click();  // The first one replaces the generated list.
-  EXPECT_EQ(Told(), Texts{"i: A championship can have at most 1001 matches"});
-  EXPECT_EQ(side.FixtureList.Entries.back(), "Match 1001: T100 v T101");
-  Select(side, 101 - 33);
-  side.Name = "Long";
-  editor.Save_Click(side);
-  EXPECT_EQ(Told(), Texts{"i: A league can have at most 100 teams"});
+  EXPECT_EQ(Do(editor, league, "fix team auto save team fix fix11 save auto save name=a/b save delete"),
+            "i: There must be atleast two teams in the competition|"
+            "i: There must be at least two teams in the competition|"
+            "i: Please select the championship teams properly|"
+            "i: Select both the home and away teams properly|i: T101 can't play againt itself|"
+            "i: Please add the championship fixtures properly|i: Please enter a name for the championship|"
+            "!: a/b can't be used as a file name.|i: Please load a championship to delete");
+  // A knock-out whose teams no longer are those of the fixtures.
+  EXPECT_EQ(
+      Do(editor, editor.KnockOut, "more team team team auto team auto name=C sel0 remove save fewer save"),
+      "i: Total teams selected doesn't match the number of teams|"
+      "i: Please add the championship fixtures properly|"
+      "i: Please add the championship fixtures properly");
+  EXPECT_EQ(league.FixtureList.Count(), 2);  // Each side has its own.
+  EXPECT_EQ(Do(editor, league, Times(30, "team") + "auto team auto"),
+            "i: A league with generated fixtures can have at most 32 teams");
+  EXPECT_EQ(league.FixtureList.Count(), 992);
+  EXPECT_EQ(Do(editor, league, Times(1002, "fix01")), "i: A championship can have at most 1001 matches");
+  EXPECT_EQ(league.FixtureList.Entries.back(), "Match 1001: T100 v T101");  // None of the generated ones.
+  EXPECT_EQ(Do(editor, league, "no name=Long " + Times(67, "team") + "save team save"),
+            "?: Are you sure you want to add Long?|i: A league can have at most 100 teams");
+  EXPECT_FALSE(Exists("Tournies") || Exists("Leagues"));
 }
 
 TEST_F(LegEditorTest, SavesOverwritesLoadsAndDeletes) {
   LegEditor editor = Open();
   EditorSide& side = editor.League;
-  Select(side, 2);
-  side.Home.Picked = 1;
-  side.Away.Picked = 0;
-  editor.AddFixture_Click();
-  side.Name = "Top";
-  desktop_.Yes = false;
-  editor.Save_Click(side);
-  EXPECT_FALSE(std::filesystem::exists(folder_ / "Leagues/Top.leg"));
-  desktop_.Yes = true;
-  editor.Save_Click(side);
-  EXPECT_EQ(ReadBytes(folder_ / "Leagues/Top.leg"), AsWritten("Top\n2\nT100\nT101\n1\nNP\nT101\nT100\n"));
+  Write("Leagues", "no folder");
+  const std::string failed = Do(editor, side, "team team fix10 name=Top save");
+  EXPECT_TRUE(failed.starts_with("?: Are you sure you want to add Top?|!: The file ")) << failed;
+  EXPECT_EQ(side.Load.Count(), 0);  // What was not saved is not offered.
+  std::filesystem::remove(folder_ / "Leagues");
+  EXPECT_EQ(Do(editor, side, "save"), "?: Are you sure you want to add Top?");
+  EXPECT_EQ(Bytes("Leagues/Top.leg"), AsWritten("Top\n2\nT100\nT101\n1\nNP\nT101\nT100\n"));
   EXPECT_EQ(side.Load.Text(), "Top.leg");
-  EXPECT_EQ(Told(), Texts(2, "?: Are you sure you want to add Top?"));
+  for (const char* companion : {"rec", "sco", "lrs"}) Write(std::string("Leagues/Top.") + companion, "x");
+  Do(editor, side, "no fix01 save");  // Appends to the list that is loaded.
+  EXPECT_TRUE(Exists("Leagues/Top.rec"));
+  EXPECT_EQ(Do(editor, side, "yes save delete"),
+            "?: Do you want to overwrite Top?|i: You can't delete any more championship");
+  EXPECT_EQ(Bytes("Leagues/Top.leg"), AsWritten("Top\n2\nT100\nT101\n2\nNP\nT101\nT100\nNP\nT100\nT101\n"));
+  EXPECT_EQ(Joined(ListFiles(folder_ / "Leagues")), "Top.leg");
 
-  for (const char* companion : {"Leagues/Top.rec", "Leagues/Top.sco", "Leagues/Top.lrs"})
-    WriteBytes(folder_ / companion, "x");
-  side.Home.Picked = 0;
-  side.Away.Picked = 1;
-  editor.AddFixture_Click();  // Appends to the list that is loaded.
-  EXPECT_EQ(side.FixtureList.Entries, (Texts{"Match 1: T101 v T100", "Match 2: T100 v T101"}));
-  desktop_.Yes = false;
-  editor.Save_Click(side);
-  EXPECT_TRUE(std::filesystem::exists(folder_ / "Leagues/Top.rec"));
-  desktop_.Yes = true;
-  editor.Save_Click(side);
-  EXPECT_EQ(Told(), Texts(2, "?: Do you want to overwrite Top?"));
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.Folder.Leagues()), {}), 1);
-  editor.Delete_Click(side);
-  EXPECT_EQ(Told(), Texts{"i: You can't delete any more championship"});
-
-  WriteBytes(folder_ / "Leagues/Old.leg", "Old\n3\nT105\nT100\nGone\n1\nP\nT100\nT105\n");
+  Write("Leagues/Old.leg", "Old\n3\nT105\nT100\nGone\n1\nP\nT100\nT105\n");
   LegEditor again = Open();
-  again.Load_Click(again.League, 0);
-  EXPECT_EQ(again.League.Name, "Old");
-  EXPECT_EQ(again.League.Selected.Entries, (Texts{"Gone", "T100", "T105"}));
-  EXPECT_EQ(again.League.Home.Entries, again.League.Selected.Entries);
-  EXPECT_EQ(again.League.Available.Entries, (Texts{"T101", "T102", "T103", "T104"}));
-  EXPECT_EQ(again.League.FixtureList.Entries, Texts{"Match 1: T100 v T105"});
-  again.League.Name = "Top";  // Deletes what the question names.
-  again.Delete_Click(again.League);
-  EXPECT_EQ(Told(), Texts{"?: Are you sure you want to remove Old.leg?"});
-  EXPECT_FALSE(std::filesystem::exists(folder_ / "Leagues/Old.leg"));
-  EXPECT_TRUE(std::filesystem::exists(folder_ / "Leagues/Top.leg"));
-  EXPECT_EQ(again.League.Load.Text(), "Top.leg");
-  EXPECT_EQ(again.League.FixtureList.Entries, Texts{"Match 1: T100 v T105"});
-}
-
-TEST_F(LegEditorTest, EachSideSavesItsOwnFixtures) {
-  LegEditor editor = Open();
-  editor.MoreTeams_Click();
-  Select(editor.KnockOut, 4);
-  editor.AutoFixtures_Click(editor.KnockOut);
-  Select(editor.League, 2);
-  editor.AutoFixtures_Click(editor.League);
-  editor.KnockOut.Name = "Cup";
-  editor.Save_Click(editor.KnockOut);
-  const Championship cup = ReadChampionship(folder_.Folder, ChampionshipKind::KnockOut, "Cup.trn").value();
-  ASSERT_EQ(cup.Fixtures.size(), 3U);
-  EXPECT_EQ(cup.Fixtures[2], (Fixture{"NP", "Winner 1", "Winner 2", "Winner 3"}));
-  EXPECT_EQ(editor.League.FixtureList.Count(), 2);
-  EXPECT_EQ(editor.KnockOut.NumberOfTeams, 4);
-}
-
-TEST_F(LegEditorTest, ManualEntryEndsWithAutoFixturesAndGoesOnAfterALoad) {
-  WriteBytes(folder_ / "Leagues/Old.leg", "Old\n2\nT100\nT101\n1\nP\nT101\nT100\n");
-  LegEditor editor = Open();
-  EditorSide& side = editor.League;
-  const auto add = [&](int home, int away) {
-    side.Home.Picked = home;
-    side.Away.Picked = away;
-    editor.AddFixture_Click();
-  };
-  Select(side, 3);
-  add(0, 1);
-  add(0, 1);
-  editor.AutoFixtures_Click(side);
-  add(1, 2);  // Starts again.
-  EXPECT_EQ(side.FixtureList.Entries, Texts{"Match 1: T101 v T102"});
-  LegEditor fresh = Open();
-  fresh.Load_Click(fresh.League, 0);
-  EXPECT_EQ(fresh.League.Available.Picked, 0);
-  fresh.League.Home.Picked = 0;
-  fresh.League.Away.Picked = 1;
-  fresh.AddFixture_Click();
-  EXPECT_EQ(fresh.League.FixtureList.Entries, (Texts{"Match 1: T101 v T100", "Match 2: T100 v T101"}));
-  fresh.League.Name.clear();
-  fresh.Delete_Click(fresh.League);
-  EXPECT_EQ(Told(), Texts{"i: Please load a championship to delete"});
+  EditorSide& old = again.League;
+  Do(again, old, "load0 fix01");  // Goes on with the list that is loaded.
+  EXPECT_EQ(old.Name + " " + Lists(old),
+            "Old T101|T102|T103|T104 0; Gone|T100|T105 -1; Gone|T100|T105 0; Gone|T100|T105 1; "
+            "Match 1: T100 v T105|Match 2: Gone v T100 -1; ");
+  Do(again, old, "auto fix12");  // Starts again after generated fixtures.
+  EXPECT_EQ(Joined(old.FixtureList.Entries), "Match 1: T100 v T105");
+  EXPECT_EQ(Do(again, old, "name= delete name=Top no delete"),  // Deletes what the question names.
+            "i: Please load a championship to delete|?: Are you sure you want to remove Old.leg?");
+  EXPECT_TRUE(Exists("Leagues/Old.leg"));
+  Do(again, old, "yes delete");
+  EXPECT_EQ(Joined(ListFiles(folder_ / "Leagues")), "Top.leg");
+  EXPECT_EQ(old.Load.Text() + ", " + Joined(old.FixtureList.Entries), "Top.leg, Match 1: T100 v T105");
 }
 
 TEST_F(LegEditorTest, OnlyAKnockOutIsSavedAsOne) {
-  const std::pair<const char*, bool> files[] = {
-      {"1\nK\n2\nT100\nT101\nNP\nT100\nT101\nWinner 1\n", true},
-      {"1\nK\n2\nT100\nT101\nNP\nT100 (By Toss)\nT101\nWinner 1\n", true},
-      {"1\nK\n2\nT100\nT101\nNP\nT100\nT105\nWinner 1\n", false},          // A team that is not selected.
-      {"1\nK\n2\nT100\nT101\nNP\nWinner 7\nWinner 1\nWinner 1\n", false},  // Waits for itself.
-      {"1\nK\n2\nT100\nT100\nNP\nT100\nT100\nWinner 1\n", false},
-      {"2\nK\n3\nT100\nT101\nT102\nNP\nT100\nT101\nWinner 1\nNP\nWinner 1\nT102\nWinner 2\n", false},
-      {"", false},
+  const std::string two = "1\nK\n2\nT100\nT101\nNP\n";
+  const std::string overwrite = "?: Do you want to overwrite K?";
+  const std::string fixtures = "i: Please add the championship fixtures properly";
+  const std::pair<std::string, std::string> files[] = {
+      {two + "T100\nT101\nWinner 1\n", overwrite},
+      {two + "T100 (By Toss)\nT101\nWinner 1\n", overwrite},
+      {two + "T105\nT100\nWinner 1\n", fixtures},      // A team that is not selected.
+      {two + "T100\nWinner 1\nWinner 1\n", fixtures},  // Waits for itself.
+      {"1\nK\n2\nT100\nT100\nNP\nT100\nT100\nWinner 1\n", fixtures},
+      {"2\nK\n3\nT100\nT101\nT102\nNP\nT100\nT101\nWinner 1\nNP\nWinner 1\nT102\nWinner 2\n", fixtures},
+      {"", "i: Please select the championship teams properly"},
   };
-  for (const auto& [text, fine] : files) {
+  for (const auto& [text, message] : files) {
     SCOPED_TRACE(text);
-    WriteBytes(folder_ / "Tournies/K.trn", text);
-    WriteBytes(folder_ / "Tournies/K.lrs", "x");
+    Write("Tournies/K.trn", text);
+    Write("Tournies/K.lrs", "x");
     LegEditor editor = Open();
-    editor.Load_Click(editor.KnockOut, 0);
-    editor.KnockOut.Name = "K";
-    for (int more = 0; more < 4; ++more) editor.MoreTeams_Click();
-    EXPECT_EQ(editor.KnockOut.NumberOfTeams, 16);
-    editor.Load_Click(editor.KnockOut, 0);
-    editor.KnockOut.Name = "K";
-    editor.Save_Click(editor.KnockOut);
-    EXPECT_EQ(Told().back(), fine ? "?: Do you want to overwrite K?"
-                             : editor.KnockOut.Selected.Count() == 0
-                                 ? "i: Please select the championship teams properly"
-                                 : "i: Please add the championship fixtures properly");
-    EXPECT_EQ(std::filesystem::exists(folder_ / "Tournies/K.lrs"), !fine);
+    EXPECT_EQ(Do(editor, editor.KnockOut, "more more more load0 name=K save"), message);
+    EXPECT_EQ(Exists("Tournies/K.lrs"), message != overwrite);
   }
-  LegEditor editor = Open();
-  Select(editor.KnockOut, 1);
-  editor.AutoFixtures_Click(editor.KnockOut);
-  EXPECT_EQ(Told(), Texts{"i: Total teams selected doesn't match the number of teams"});
 }
 
 }  // namespace

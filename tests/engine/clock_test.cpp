@@ -1,197 +1,140 @@
 // Periods and their ends.
 #include "engine/clock.h"
 
-#include <gtest/gtest.h>
+#include <memory>
 
 #include "engine/match.h"
-#include "support/fakes.h"
-#include "support/matches.h"
-#include "support/scripted_random.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
 
-using Texts = std::vector<std::string>;
-
-class ClockTest : public testing::Test {
+class ClockTest : public ScreenTest {
  protected:
-  explicit ClockTest(bool extraTime = true, bool shootOut = true)
-      : match({}, desktop, random, recording, MakeFullSetup(extraTime, shootOut)) {}
-
-  const MatchSession& S() const { return match.Session(); }
-
-  /// Presses the period button and plays so many minutes; gives the commentary lines of that time.
-  Texts PlayPeriod(int minutes) {
-    const std::size_t before = S().Commentary.Entries.size();
-    match.halftime_Click();
-    EXPECT_FALSE(S().Controls.halftimeEnabled);
-    match.halftime_Click();  // Dark: nothing, not even a whistle.
-    for (int i = 0; i < minutes; ++i) match.Timer1_Timer(screen);
-    return {S().Commentary.Entries.begin() + static_cast<std::ptrdiff_t>(before),
-            S().Commentary.Entries.end()};
+  /// Opens a match in which a side scores in a second; in none when that is 0.
+  void Open(bool extraTime, bool shootOut, int second, const char* side) {
+    match_ = std::make_unique<Match>(ProgramFolder{}, desktop_, random_, recording_,
+                                     MakeFullSetup(extraTime, shootOut));
+    desktop_.Taken();
+    random_.Minutes = 0;
+    random_.Goals = second == 0 ? "" : std::string(static_cast<std::size_t>(second - 1), '.') + side;
   }
 
-  std::string Button() const {
-    return std::string(ToText(S().Period)) + (S().Controls.halftimeEnabled ? "" : " (off)") +
-           (S().Controls.Timer1Enabled ? " running" : "");
+  const MatchSession& S() const { return match_->Session(); }
+
+  /// Presses the period button, twice, and plays so many minutes.
+  void Play(int minutes) {
+    match_->halftime_Click();
+    match_->halftime_Click();  // Dark: nothing, not even a whistle.
+    for (int i = 0; i < minutes; ++i) match_->Timer1_Timer(screen_);
   }
 
-  QuietRandom random;
-  FakeDesktop desktop;
-  FakeRecording recording;
-  FakeScreen screen;
-  Match match;
-};
+  /// The period button, the display and the ball, and the teams by end.
+  std::string State() const {
+    return std::string(ToText(S().Period)) + (S().Controls.halftimeEnabled ? ", " : " (off), ") +
+           (S().Controls.Timer1Enabled ? "running, " : "") + Shown(S()) + ", " + S().Side1.Team + "-" +
+           S().Side2.Team;
+  }
 
-class ClockWithoutExtraTimeTest : public ClockTest {
- protected:
-  ClockWithoutExtraTimeTest() : ClockTest(false, true) {}
-};
-
-class ClockWithoutShootOutTest : public ClockTest {
- protected:
-  ClockWithoutShootOutTest() : ClockTest(true, false) {}
+  std::unique_ptr<Match> match_;
 };
 
 TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
-  match.Timer1_Timer(screen);  // Not started: no play.
-  EXPECT_EQ(Button(), "&Normal Time 1st Half");
-  EXPECT_EQ(PlayPeriod(44), (Texts{"Here's the kick off", "The match is between Rovers and United"}));
-  EXPECT_EQ(Button(), "&Normal Time 1st Half (off) running");
-  match.Timer1_Timer(screen);
-  EXPECT_EQ(S().Commentary.Entries.back(), "Here comes the half time whistle");
+  Open(true, true, 0, "");
+  match_->Timer1_Timer(screen_);  // Not started: no play.
+  EXPECT_EQ(State(), "&Normal Time 1st Half, 00:00, 0 at 2520 390, Rovers-United");
+  Play(44);
+  desktop_.Yes = false;
+  desktop_.WhileAsked = [this] { match_->Timer1_Timer(screen_); };  // Dropped under a question or dialog.
+  match_->Command1_Click();
+  match_->ComSave_Click();
+  EXPECT_EQ(State(), "&Normal Time 1st Half (off), running, 44:00, 1 at 2000 0, Rovers-United");
+  match_->Timer1_Timer(screen_);
+  EXPECT_EQ(State(), "&Normal Time 2nd Half, 45:00, 0 at 2520 390, Rovers-United");
   EXPECT_EQ(S().Commentary.Picked, 2);
-  EXPECT_EQ(Button(), "&Normal Time 2nd Half");
-  EXPECT_EQ(S().Controls.Label3, "45:00");
-  EXPECT_EQ(S().BallX, 2520);
-  EXPECT_EQ(S().BallSide, 0);
-
-  EXPECT_EQ(PlayPeriod(45), (Texts{"Play for the 2nd half gets underway",
-                                   "Referee blows the full time whistle", "The match goes into extra time"}));
-  EXPECT_EQ(S().Side1.Team, "United");
-  EXPECT_EQ(Button(), "&Extra Time 1st Half");
-
-  match.halftime_Click();
+  Play(45);
+  EXPECT_EQ(State(), "&Extra Time 1st Half, 90:00, 0 at 2520 390, United-Rovers");
+  Play(0);
   EXPECT_EQ(S().Commentary.Picked, 5);  // The line that starts extra time is added, not picked.
-  for (int i = 0; i < 15; ++i) match.Timer1_Timer(screen);
-  EXPECT_EQ(S().Side1.Team, "Rovers");
-  EXPECT_EQ(Button(), "&Extra Time 2nd Half");
-  EXPECT_EQ(S().ClockText, "105:00");
-  EXPECT_EQ(PlayPeriod(15), (Texts{"Extra time 2nd half gets underway",
-                                   "The match remains undecided after Extra Time 2nd half",
-                                   "The match goes into penalty shoot out"}));
-  EXPECT_EQ(S().Side1.Team, "United");
-  EXPECT_EQ(Button(), "&Penalty Shoot Out");
-  EXPECT_EQ(S().Summary.Entries, Texts{"PENALTY SHOOT OUT!"});
-
-  EXPECT_EQ(desktop.Taken(), Texts(8, "* whistle"));
-  match.halftime_Click();
-  EXPECT_EQ(desktop.Taken(), Texts{"* whistle"});
-  EXPECT_EQ(S().Commentary.Entries.back(), "Players getting ready for the shoot out");
-  EXPECT_EQ(S().Side1.Team, "United");  // The teams stay where they are.
+  Play(15);
+  EXPECT_EQ(State(), "&Extra Time 2nd Half, 105:00, 0 at 2520 390, Rovers-United");
+  Play(15);
+  EXPECT_EQ(State(), "&Penalty Shoot Out, 120:00, 0 at 2520 390, United-Rovers");
   const MatchControls& c = S().Controls;
-  EXPECT_TRUE(c.ShootOutVisible && c.PensVisible && c.kickEnabled);
-  EXPECT_FALSE(c.nextshotEnabled || c.halftimeVisible || c.Timer1Enabled);
-  EXPECT_EQ(c.Label3, "");
+  EXPECT_FALSE(c.kickEnabled || c.ShootOutVisible || c.PensVisible);
+  match_->halftime_Click();
+  EXPECT_EQ(State(), "&Penalty Shoot Out, , 0 at 2520 390, United-Rovers");  // The teams stay.
+  EXPECT_TRUE(c.kickEnabled && c.ShootOutVisible && c.PensVisible && !c.nextshotEnabled &&
+              !c.halftimeVisible);
+  EXPECT_EQ(Joined(S().Summary.Entries), "PENALTY SHOOT OUT!");
+  EXPECT_EQ(Joined(S().Commentary.Entries),
+            "Here's the kick off|The match is between Rovers and United|Here comes the half time whistle|"
+            "Play for the 2nd half gets underway|Referee blows the full time whistle|"
+            "The match goes into extra time|Referee starts the extra time|"
+            "Extra Time 1st half comes to an end|Extra time 2nd half gets underway|"
+            "The match remains undecided after Extra Time 2nd half|The match goes into penalty shoot out|"
+            "Players getting ready for the shoot out");
+  EXPECT_EQ(desktop_.Told(), "* whistle|?: Do you really want to exit?|" + Joined(Texts(8, "* whistle")));
 }
 
-TEST_F(ClockWithoutShootOutTest, ALevelMatchEndsTiedAfterExtraTime) {
-  for (const int minutes : {45, 45, 15, 15}) PlayPeriod(minutes);
-  EXPECT_EQ(S().Summary.Entries, (Texts{"", "Result:", "The match was tied at 0-0"}));
-  EXPECT_EQ(Button(), "&Extra Time 2nd Half (off)");
-  EXPECT_EQ(S().BallX + S().BallSide, 2520);
-}
-
-TEST_F(ClockWithoutExtraTimeTest, ALevelMatchEndsTied) {
-  PlayPeriod(45);
-  EXPECT_EQ(PlayPeriod(46),
-            (Texts{"Play for the 2nd half gets underway", "Referee blows the full time whistle"}));
-  EXPECT_EQ(S().Summary.Entries, (Texts{"", "Result:", "The match was tied at 0-0"}));
-  EXPECT_EQ(Button(), "&Normal Time 2nd Half (off)");
-  EXPECT_EQ(S().Controls.Label3, "");
-  EXPECT_EQ(S().BallX + S().BallSide, 2520);
-}
-
-TEST_F(ClockTest, AGoalInTheLastSecondOfNormalTimeCounts) {
-  PlayPeriod(45);
-  PlayPeriod(44);
-  random.ScoringSide = 1;
-  random.ScoringSecond = 59;
-  match.Timer1_Timer(screen);
-  EXPECT_EQ(S().Summary.Entries, (Texts{"90:00 >> U5 (United)", "", "Result:", "United beats Rovers 1-0"}));
-  EXPECT_EQ(S().Commentary.Entries.back(), "With that, United wins the match");
-  EXPECT_EQ(Button(), "&Normal Time 2nd Half (off)");
-}
-
-TEST_F(ClockTest, LeavingInTheGoalPauseOfAGoldenGoalEndsNothingElse) {
-  for (const int minutes : {45, 45, 3}) PlayPeriod(minutes);
-  const int lines = S().Commentary.Count();
-  random.ScoringSide = 1;
-  screen.WhilePaused = [this] { match.Command1_Click(); };
-  match.Timer1_Timer(screen);
-  EXPECT_TRUE(match.Closed());
-  EXPECT_EQ(S().Summary.Entries, Texts{"93:01 >> R5 (Rovers)"});
-  EXPECT_EQ(S().Commentary.Count(), lines + 3);
-  EXPECT_EQ(recording.Calls.size(), 1U);
-}
-
-TEST_F(ClockTest, AGoalInTheLastSecondStaysOnTheDisplayUntilPlayGoesOn) {
-  PlayPeriod(44);
-  random.ScoringSide = 2;
-  random.ScoringSecond = 59;
-  match.Timer1_Timer(screen);
-  EXPECT_EQ(S().Controls.Label3, "GOAL!");
-  EXPECT_EQ(S().Summary.Picked, 0);
-  match.halftime_Click();
-  EXPECT_EQ(S().Controls.Label3, "45:00");
-}
-
-TEST_F(ClockTest, AGoldenGoalEndsTheMatchAtOnceAndOnce) {
-  for (const int minute : {95, 105, 118, 120}) {
-    SCOPED_TRACE(minute);
-    QuietRandom draws;
-    Match played({}, desktop, draws, recording, MakeFullSetup(true, true));
-    for (const int minutes : {45, 45, 15, 15}) {
-      played.halftime_Click();
-      for (int i = 0; i < minutes && !played.Session().Summary.Count(); ++i) {
-        if (played.Session().Minute == minute - 1) {
-          draws.ScoringSide = 2;
-          draws.ScoringSecond = minute % 5 == 0 ? 59 : 30;  // 105:00 and 120:00 to the second.
-        }
-        played.Timer1_Timer(screen);
-      }
-    }
-    const MatchSession& s = played.Session();
-    const std::string winner = minute <= 105 ? "United" : "Rovers";  // On side 2 by now.
-    const std::string clock = ClockText(minute % 5 == 0 ? minute : minute - 1, minute % 5 == 0 ? 0 : 31);
-    EXPECT_EQ(
-        s.Summary.Entries,
-        (Texts{clock + " >> " + (winner == "United" ? "U5" : "R5") + " (" + winner + ")", "GOLDEN GOAL!", "",
-               "Result:", winner + " beats " + (winner == "United" ? "Rovers" : "United") + " 1-0"}));
-    const Texts& lines = s.Commentary.Entries;
-    EXPECT_EQ(Texts(lines.end() - 3, lines.end()),
-              (Texts{"Referee blows the final whistle", "The match ends with a Golden Goal",
-                     "With that, " + winner + " wins the match"}));
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), "Extra Time 1st half comes to an end"),
-              minute > 105 ? 1 : 0);
-    EXPECT_EQ(std::count(lines.begin(), lines.end(), "The match goes into penalty shoot out"), 0);
-    EXPECT_FALSE(s.Controls.halftimeEnabled || s.Controls.Timer1Enabled);
-    EXPECT_EQ(s.BallX, 2520);
-    EXPECT_EQ(s.ClockText, clock);       // Not a second more is played,
-    EXPECT_EQ(draws.BallDraws, minute);  // but the minute's other draws are made.
+TEST_F(ClockTest, AMatchEndsWhenItIsDecided) {
+  struct Case {
+    bool ExtraTime, ShootOut;
+    int Second;  ///< In which side 2 scores.
+    std::string Winner, Period;
+    int Minutes;
+  };
+  const Case cases[] = {
+      {false, true, 0, "", "&Normal Time 2nd", 90},
+      {true, false, 0, "", "&Extra Time 2nd", 120},
+      {true, true, 2700, "United", "&Normal Time 2nd", 90},
+      {true, true, 5400, "Rovers", "&Normal Time 2nd", 90},
+      // Golden goals: not a second more is played, but the minute's other draws are made.
+      {true, true, 5401, "United", "&Extra Time 1st", 91},
+      {true, true, 6300, "United", "&Extra Time 1st", 105},
+      {true, false, 7051, "Rovers", "&Extra Time 2nd", 118},
+      {true, true, 7200, "Rovers", "&Extra Time 2nd", 120},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(testing::Message() << c.ExtraTime << c.ShootOut << " " << c.Second);
+    Open(c.ExtraTime, c.ShootOut, c.Second, "2");
+    for (const int minutes : {45, 45, 15, 15, 1}) Play(minutes);
+    const bool golden = c.Second > 5400, united = c.Winner == "United";
+    const std::string clock = ClockText(c.Second / 60, c.Second % 60);
+    const std::string goal =
+        clock + (united ? " >> U5 (United)" : " >> R5 (Rovers)") + (golden ? "|GOLDEN GOAL!" : "");
+    const std::string wins = united ? "United beats Rovers 1-0" : "Rovers beats United 1-0";
+    EXPECT_EQ(Joined(S().Summary.Entries),
+              c.Second > 0 ? goal + "||Result:|" + wins : "|Result:|The match was tied at 0-0");
+    const std::string ends = c.Period == "&Extra Time 1st" ? "Rovers-United" : "United-Rovers";
+    EXPECT_EQ(State(), c.Period + " Half (off), , 0 at 2520 390, " + ends);
+    EXPECT_EQ(random_.Minutes, c.Minutes);
+    EXPECT_TRUE(!golden || S().ClockText == clock) << S().ClockText;
+    const std::string end = golden ? "Referee blows the final whistle|The match ends with a Golden Goal"
+                            : c.Period == "&Normal Time 2nd"
+                                ? "Referee blows the full time whistle"
+                                : "The match remains undecided after Extra Time 2nd half";
+    const std::string won = c.Second > 0 ? "|With that, " + c.Winner + " wins the match" : "";
+    EXPECT_TRUE(Joined(S().Commentary.Entries).ends_with("|" + end + won)) << S().Commentary.Text();
   }
 }
 
-TEST_F(ClockTest, TicksAreDroppedUnderAQuestionOrDialogAndNoLeavesTheClockAsItWas) {
-  PlayPeriod(1);
-  desktop.Yes = false;
-  desktop.WhileAsked = [this] { match.Timer1_Timer(screen); };
-  match.Command1_Click();
-  match.ComSave_Click();
-  EXPECT_EQ(S().ClockText, "01:00");
-  EXPECT_TRUE(S().Controls.Timer1Enabled);
-  match.Timer1_Timer(screen);
-  EXPECT_EQ(S().ClockText, "02:00");
+TEST_F(ClockTest, AGoalInTheLastSecondOfAHalfStaysOnTheDisplayUntilPlayGoesOn) {
+  Open(true, true, 2700, "1");
+  Play(45);
+  EXPECT_EQ(State(), "&Normal Time 2nd Half, GOAL! (green), 0 at 2520 390, Rovers-United");
+  Play(0);
+  EXPECT_EQ(S().Controls.Label3, "45:00");
+}
+
+TEST_F(ClockTest, LeavingInTheGoalPauseOfAGoldenGoalEndsNothingElse) {
+  Open(true, true, 5401, "1");
+  screen_.WhilePaused = [this] { match_->Command1_Click(); };
+  for (const int minutes : {45, 45, 1}) Play(minutes);
+  EXPECT_TRUE(match_->Closed());
+  EXPECT_EQ(Joined(S().Summary.Entries), "90:01 >> R5 (Rovers)");
+  EXPECT_EQ(S().Commentary.Entries.back(), "The players are celebrating");
+  EXPECT_EQ(random_.Minutes, 90);  // Not one draw more.
 }
 
 }  // namespace

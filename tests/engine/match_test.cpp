@@ -1,132 +1,112 @@
+// How a match opens, and its pages.
 #include "engine/match.h"
 
-#include <gtest/gtest.h>
-
-#include <set>
-
-#include "support/fakes.h"
-#include "support/folders.h"
-#include "support/matches.h"
-#include "support/scripted_random.h"
+#include "engine/report.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
 
-class MatchTest : public testing::Test {
+class MatchTest : public ScreenTest {
  protected:
-  TestFolder folder_;
-  FakeDesktop desktop_;
-  FakeRecording recording_;
+  /// Venue, crowd, deciders, ranges of the goal draws and goal number of a match that opens with these draws.
+  std::string Open(const MatchSetup& setup, const std::string& draws) {
+    ScriptedRandom random(draws);
+    const MatchSession s = Match(folder_.Folder, desktop_, random, recording_, setup).Session();
+    return s.Venue + " / " + AttendanceText(s) + (s.ExtraTime ? " / extra time" : "") +
+           (s.PenaltyShootOut ? " / shoot-out " : " / ") + std::to_string(s.Side1.GoalRange) + " " +
+           std::to_string(s.Side2.GoalRange) + " " + std::to_string(s.GoalNumber);
+  }
 };
 
-TEST_F(MatchTest, OpensAFriendlyFromItsSetUp) {
-  MatchSetup setup = MakeSetup();
+TEST_F(MatchTest, OpensAFriendlyFromItsSetUpAndAChampionshipMatchAtHomeElseAtADrawnStadium) {
+  MatchSetup setup = MakeSetup(MatchMode::Friendly, false, true);
   setup.Team1Strength = 99;
   setup.Team2Strength = 1;
-  setup.Weather = WeatherCondition::Windy;
   setup.Capacity = 100;
-  setup.PenaltyShootOut = true;
-  // The crowd is drawn until it is half full, and 0.57 x 100 lies just below 57.
-  ScriptedRandom random{{80, 49}, {80, 57}, {100, 42}};
-  const Match match(folder_.Folder, desktop_, random, recording_, setup);
-  const MatchSession& s = match.Session();
-  EXPECT_EQ(s.Side1.GoalRange, 2100);
-  EXPECT_EQ(s.Side2.GoalRange, 11900);
-  EXPECT_EQ(s.Side1.Team + s.Side2.Team, "RoversUnited");
-  EXPECT_EQ(AttendanceText(s), "Total Attendence: 56 (57%)");
-  EXPECT_EQ(s.GoalNumber, 42);
-  EXPECT_EQ(s.BallX, 2520);
-  EXPECT_EQ(s.BallY, 390);
-  EXPECT_FALSE(s.ExtraTime);
-  EXPECT_TRUE(s.PenaltyShootOut);
-  EXPECT_TRUE(s.Controls.instantVisible);
-  EXPECT_FALSE(s.Controls.halftimeVisible);
-  EXPECT_FALSE(s.Controls.Option1Enabled);
+  constexpr const char* Limits[] = {"100", "95", "85", "90",
+                                    "80"};  // Of the crowd in each weather, in percent.
+  for (std::size_t i = 0; i < std::size(Limits); ++i) {
+    setup.Weather = static_cast<WeatherCondition>(i);
+    // The crowd is drawn until it is half full, and 0.57 x 100 lies just below 57.
+    EXPECT_EQ(Open(setup, Limits[i] + std::string(":49 ") + Limits[i] + ":57 100:42"),
+              "The Mill, Leat / Total Attendence: 56 (57%) / shoot-out 2100 11900 42");
+  }
+  setup = MakeSetup(MatchMode::League, true);
+  ASSERT_TRUE(SaveStadiums(folder_.Folder, {{"Neutral", "Bowl", "Oss", "60000"},
+                                            {"Rovers", "The Mill", "Leat", "4000"},
+                                            {"Rovers", "Old Mill", "Leat", "300"}})
+                  .Ok());
+  // A draw for each stadium before the home team's own; the first of two own ones counts.
+  EXPECT_EQ(Open(setup, "3:2 5:2 85:60 100:1"),
+            "The Mill, Leat / Total Attendence: 2400 (60%) / 4000 4000 1");
+  setup.Mode = MatchMode::KnockOut;
+  setup.Team1Name = "Nomads";
+  const std::string deciders = " / extra time / shoot-out 4000 4000 1";
+  EXPECT_EQ(Open(setup, "3:0 3:1 3:2 5:3 90:50 100:1"),
+            "Old Mill, Leat / Total Attendence: 150 (50%)" + deciders);
+  ASSERT_TRUE(SaveStadiums(folder_.Folder, {}).Ok());
+  EXPECT_EQ(Open(setup, "5:4 80:50 100:1"), " / Total Attendence: 0 (50%)" + deciders);
+  std::filesystem::remove(folder_ / "stadiums.sim");
+  EXPECT_EQ(Open(setup, "100:1"), " / Total Attendence: 0 (0%)" + deciders);
 }
 
-TEST_F(MatchTest, AFullSimulationOffersThePeriodButtonAndBothViews) {
-  MatchSetup setup = MakeSetup();
-  setup.SimulationType = SimulationKind::FullSimulation;
-  ScriptedRandom random{{100, 50}, {100, 0}};
-  Match match(folder_.Folder, desktop_, random, recording_, setup);
-  EXPECT_TRUE(desktop_.SoundsLoaded);
-  EXPECT_FALSE(match.Session().Controls.instantVisible);
-  EXPECT_TRUE(match.Session().Controls.halftimeVisible);
-  EXPECT_TRUE(match.Session().Controls.Option1Enabled);
-  EXPECT_EQ(match.ComSaveCaption(), "Save Summary");
-  match.Option1_Click(0);
-  EXPECT_EQ(match.ComSaveCaption(), "Save Commentary");
-}
-
-TEST_F(MatchTest, AChampionshipMatchIsPlayedAtHomeElseAtADrawnStadium) {
-  const Stadium neutral{"Neutral", "Bowl", "Oss", "60000"};
-  const Stadium home{"Rovers", "The Mill", "Leat", "4000"};
-  const Stadium second{"Rovers", "Old Mill", "Leat", "300"};
-  MatchSetup setup = MakeSetup(MatchMode::League);
-  setup.ExtraTime = true;
-  {
-    // A draw for each stadium before the home team's own; the first of two own ones counts.
-    ASSERT_TRUE(SaveStadiums(folder_.Folder, {neutral, home, second}).Ok());
-    ScriptedRandom random{{3, 2}, {5, 2}, {85, 60}, {100, 1}};
-    const Match match(folder_.Folder, desktop_, random, recording_, setup);
-    EXPECT_EQ(match.Session().Venue, "The Mill, Leat");
-    EXPECT_EQ(AttendanceText(match.Session()), "Total Attendence: 2400 (60%)");
-    EXPECT_FALSE(match.Session().ExtraTime);
-  }
-  {
-    setup.Mode = MatchMode::KnockOut;
-    setup.Team1Name = "Nomads";
-    ScriptedRandom random{{3, 0}, {3, 1}, {3, 2}, {5, 3}, {90, 50}, {100, 1}};
-    const Match match(folder_.Folder, desktop_, random, recording_, setup);
-    EXPECT_EQ(match.Session().Venue, "Old Mill, Leat");
-    EXPECT_EQ(match.Session().Attendance, 150);
-    EXPECT_TRUE(match.Session().ExtraTime && match.Session().PenaltyShootOut);
-  }
-  {
-    ASSERT_TRUE(SaveStadiums(folder_.Folder, {}).Ok());
-    ScriptedRandom random{{5, 4}, {80, 50}, {100, 1}};
-    const Match match(folder_.Folder, desktop_, random, recording_, setup);
-    EXPECT_EQ(match.Session().Venue, "");
-    EXPECT_EQ(AttendanceText(match.Session()), "Total Attendence: 0 (50%)");
-  }
-  {
-    std::filesystem::remove(folder_ / "stadiums.sim");
-    ScriptedRandom random{{100, 1}};
-    const Match match(folder_.Folder, desktop_, random, recording_, setup);
-    EXPECT_EQ(AttendanceText(match.Session()), "Total Attendence: 0 (0%)");
+TEST_F(MatchTest, PagesAreWrittenToTheLetter) {
+  MatchSession s;
+  s.Side1 = {"Rovers", 1, 0, {}, 0, 3, 0, 1, 64};
+  s.Side2 = {"<b>United", 0, 0, {}, 4, 0, 2, 0, 36};
+  s.Venue = "The Mill, Leat";
+  s.Attendance = 40632;
+  s.AttendancePercent = 83;
+  s.Summary.Entries = {"23:41 >> Smith (Rovers)", "", "Result:", "Rovers beats <b>United 1-0"};
+  s.Commentary.Entries = {"Here's the kick off", "It's <i>'s ball & more"};
+  const std::tuple<Lines, const char*, const char*> pages[] = {
+      {SummaryPage(s), "Match Summary",
+       "<b><u>Match Summary: </u></b><br><br>\n<b>Rovers v/s &lt;b>United</b><br>\n"
+       "Venue: The Mill, Leat<br>\nTotal Attendence: 40632 (83%)<br><br>\n<b>Goals Scorers: </b><br><br>\n"
+       "23:41 >> Smith (Rovers)<br>\n<br>\nResult:<br>\nRovers beats &lt;b>United 1-0<br>\n"
+       "<br><b>Match Facts:</b> [Rovers / &lt;b>United]<br><br>\nFouls: 1 / 0<br>\nBookings: 0 / 2<br>\n"
+       "Corners: 3 / 0<br>\nShots: 0 / 4<br>\nPossesion: 64% / 36%<br>\n"},
+      {CommentaryPage(s), "Match Commentary",
+       "<b><u>Match Commentary: Rovers v/s &lt;b>United</u></b><br><br>\n"
+       "Here's the kick off<br>\nIt's &lt;i>'s ball & more<br>\n"},
+      {ResultsPage("<Top> Results", {{"Match 1:", "A 1 vs <B> 0", "", "Match 2:"}}), "Results",
+       "<b><u>&lt;Top> Results:</u></b><br><br>\n"
+       "Match 1:<br>\nA 1 vs &lt;B> 0<br>\n<br>\nMatch 2:<br>\n"},
+  };
+  for (const auto& [page, title, body] : pages) {
+    EXPECT_TRUE(WritePage(folder_ / "page.htm", page).Ok());
+    EXPECT_EQ(
+        Bytes("page.htm"),
+        AsWritten("<html><head>\n<title>Kickwell " + std::string(title) +
+                  "</title>\n</head><body bgcolor=#ECE9D8>\n<font face=verdana size=2 color=#CC0000>\n" +
+                  body +
+                  "<br><br>-------------------------------------------------\n"
+                  "<br>This file is automatically generated by Kickwell 4.0\n"
+                  "<br>Visit <a href=http://www.kickwell.example>http://www.kickwell.example</a> "
+                  "to get your free copy\n</font></body></html>\n"));
   }
 }
 
-TEST_F(MatchTest, TheCrowdLiesBetweenHalfAndTheWeathersLimit) {
-  const std::pair<WeatherCondition, int> limits[] = {{WeatherCondition::ClearSkies, 100},
-                                                     {WeatherCondition::Overcast, 95},
-                                                     {WeatherCondition::WarmAndHumid, 90},
-                                                     {WeatherCondition::Rainy, 85},
-                                                     {WeatherCondition::Windy, 80}};
-  SeededRandom random(1);
-  for (const auto& [weather, limit] : limits) {
-    MatchSetup setup = MakeSetup();
-    setup.Weather = weather;
-    std::set<int> seen;
-    for (int i = 0; i < 2000; ++i) {
-      seen.insert(Match(folder_.Folder, desktop_, random, recording_, setup).Session().AttendancePercent);
-    }
-    EXPECT_EQ(*seen.begin(), 50);
-    EXPECT_EQ(*seen.rbegin(), limit - 1);
-    EXPECT_EQ(seen.size(), static_cast<std::size_t>(limit - 50));
-  }
-}
-
-TEST_F(MatchTest, ExitAsksAndNoChangesNothing) {
+TEST_F(MatchTest, SavingAsksForANameAndTellsAFailure) {
   SeededRandom random(1);
   Match match(folder_.Folder, desktop_, random, recording_, MakeSetup());
-  desktop_.Yes = false;
-  match.Command1_Click();
-  EXPECT_FALSE(match.Closed());
-  desktop_.Yes = true;
-  match.Command1_Click();
-  EXPECT_TRUE(match.Closed());
-  EXPECT_EQ(desktop_.Taken(), std::vector<std::string>(2, "?: Do you really want to exit?"));
+  match.ComSave_Click();  // Cancelled.
+  EXPECT_TRUE(std::filesystem::is_empty(folder_.Folder.Root));
+  Write("page.htm", "old");
+  desktop_.SaveName = (folder_ / "page").string();
+  match.Option1_Click(0);
+  match.ComSave_Click();
+  EXPECT_EQ(desktop_.ProposedName, "Rovers_United_Commentary");
+  EXPECT_EQ(ReadLines(folder_ / "page.htm"), CommentaryPage(match.Session()));
+  desktop_.SaveName = (folder_ / "page.htm" / "page.htm").string();
+  match.ComSave_Click();
+  EXPECT_NE(desktop_.Told().find("can't be saved: Not a directory."), std::string::npos);
+  const char* const typed[][2] = {{"/a.b/St. Ann v F.C 1.2", "/a.b/St. Ann v F.C 1.2.htm"},
+                                  {"page.htm", "page.htm"},
+                                  {"page.HTML", "page.HTML"},
+                                  {"htm", "htm.htm"}};
+  for (const auto& [name, file] : typed) EXPECT_EQ(PageFile(name), file);
 }
 
 }  // namespace

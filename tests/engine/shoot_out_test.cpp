@@ -1,116 +1,165 @@
-// The shoot-out, kick by kick.
+// Instant results and shoot-outs, and what the end of a match announces and records.
 #include "engine/shoot_out.h"
 
-#include <gtest/gtest.h>
-
-#include "support/fakes.h"
-#include "support/matches.h"
-#include "support/scripted_random.h"
+#include "engine/match.h"
+#include "support/screen_test.h"
 
 namespace kickwell {
 namespace {
 
-using Texts = std::vector<std::string>;
+constexpr MatchMode Friendly = MatchMode::Friendly, League = MatchMode::League,
+                    KnockOut = MatchMode::KnockOut;
 
-class ShootOutTest : public testing::Test {
+/// Seconds in which nobody scores.
+std::string Quiet(int seconds) {
+  return "4000:7x" + std::to_string(2 * seconds) + " ";
+}
+
+constexpr int NormalTime = 89 * 60, ExtraTime = 29 * 60;  ///< Of an instant result, in seconds.
+
+using Instant = ScreenTest;
+
+TEST_F(Instant, PlaysEverySecondAndAnnouncesAndRecordsTheResult) {
+  const std::string tied = "|Result:|The match was tied at ";
+  struct Case {
+    MatchSetup Setup;
+    std::string Draws, Summary, Recorded;
+  };
+  const Case cases[] = {
+      {MakeSetup(Friendly),
+       "4000:3 4000:9 2:1 " + Quiet(64) + "4000:9 4000:3 3:2 4000:3x2 " + Quiet(NormalTime - 68) +
+           "4000:8 4000:3 3:0",  // Equal draws never score.
+       "01:00 >> R6 (Rovers)|02:05 >> U7 (United)|89:59 >> U5 (United)||Result:|United beats Rovers 2-1",
+       "scorer R6 of Rovers|scorer U7 of United|scorer U5 of United"},
+      {MakeSetup(League), Quiet(NormalTime - 1) + "4000:3 4000:9 2:0",
+       "89:59 >> R5 (Rovers)||Result:|Rovers beats United 1-0",
+       "scorer R5 of Rovers|standings Rovers 1-0 United|result Rovers"},
+      {MakeSetup(League, true, true), "4000:3 4000:9 2:1 4000:9 4000:3 3:1 " + Quiet(NormalTime - 2),
+       "01:00 >> R6 (Rovers)|01:01 >> U6 (United)|" + tied + "1-1",
+       "scorer R6 of Rovers|scorer U6 of United|standings Rovers 1-0 United|result Match Tied"},
+      {MakeSetup(Friendly, true), Quiet(NormalTime + ExtraTime), tied + "0-0", ""},
+      {MakeSetup(KnockOut), Quiet(NormalTime + 60) + "4000:9 4000:3 3:1",
+       "92:00 >> U6 (United)|GOLDEN GOAL!||Result:|United beats Rovers 1-0",
+       "scorer U6 of United|result United"},
+      {MakeSetup(Friendly, false, true), Quiet(NormalTime) + Times(3, "2:1 6:5 2:0 7:0"),
+       "PENALTY SHOOT OUT!|R6 (Rovers)|R6 (Rovers)|R6 (Rovers)|" + tied +
+           "0-0|Rovers beats United 3-0 in PSO",
+       ""},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.Summary);
+    const std::string opening = c.Setup.Mode == Friendly ? "100:50 100:3 " : "100:3 ";
+    ScriptedRandom random(opening + c.Draws + " 70:29 70:64 4:3 3:2 4:0 0:0 5:4 5:1 5:2 5:0");
+    Match match({}, desktop_, random, recording_, c.Setup);
+    match.instant_Click();
+    match.instant_Click();  // Played once only: the script has no draws left.
+    const MatchSession& s = match.Session();
+    EXPECT_FALSE(s.Controls.instantEnabled);
+    EXPECT_EQ(Joined(s.Summary.Entries), c.Summary);
+    EXPECT_EQ(s.Summary.Picked, s.Summary.Count() - 1);
+    EXPECT_EQ(Joined(std::exchange(recording_.Calls, {})), c.Recorded);
+    EXPECT_TRUE(&c != cases || Figures(s) == "Rovers 1/3/4/2/3 64%, United 2/2/1/0/0 36%") << Figures(s);
+    EXPECT_EQ(s.Controls.PensVisible, s.Side1Penalties == 3);
+  }
+}
+
+/// Kicks, "x" for each goal, that end a shoot-out, or leave it level after so many, and its last line.
+std::vector<std::pair<std::string, std::string>> ShootOuts(int last) {
+  const std::string level(static_cast<std::size_t>(last), 'x');
+  const std::string goals = std::to_string(last / 2);
+  return {
+      {"x.x.x.", "Rovers beats United 3-0 in PSO"},       {".x.x.x", "United beats Rovers 3-0 in PSO"},
+      {"x.x...x", "Rovers beats United 3-0 in PSO"},      {"xxxxx.x.", "Rovers beats United 4-2 in PSO"},
+      {"xxxxx...x", "Rovers beats United 4-2 in PSO"},    {"xxxxxxxxx.", "Rovers beats United 5-4 in PSO"},
+      {"xxxxxxxxxx.x", "United beats Rovers 6-5 in PSO"},  // Never between the kicks of a pair.
+      {level, "PSO was tied at " + goals + "-" + goals}};
+}
+
+class ShootOutTest : public ScreenTest {
  protected:
   ShootOutTest() {
-    const MatchSetup setup = MakeFullSetup(true, true);
-    session_.Setup = setup;
-    session_.Side1 = {setup.Team1Name, 1, 4000, setup.Team1Outfield};
-    session_.Side2 = {setup.Team2Name, 1, 4000, setup.Team2Outfield};
-    session_.Controls.kickEnabled = true;
+    s.Setup = MakeSetup(KnockOut);
+    s.Side1 = {s.Setup.Team1Name, 1, 4000, s.Setup.Team1Outfield};
+    s.Side2 = {s.Setup.Team2Name, 1, 4000, s.Setup.Team2Outfield};
+    s.Controls.kickEnabled = true;
   }
 
-  MatchSession session_;
-  FakeDesktop desktop_;
-  FakeRecording recording_;
+  MatchSession s;
 };
 
 TEST_F(ShootOutTest, AMissAndAGoalShowWhatTheyAre) {
-  ScriptedRandom random{{45, 25}, {2, 1},  {6, 5}, {5, 4}, {45, 26}, {7, 2},
-                        {5, 0},   {45, 0}, {2, 0}, {6, 0}, {5, 0}};
-  Announcement announcement(session_, random, recording_);
-  ShootOut shootOut(session_, random, desktop_, announcement);
-  MatchControls& c = session_.Controls;
+  ScriptedRandom random("45:25 2:1 6:5 5:4 45:26 7:2 5:0 45:0 2:0 6:0 5:0");
+  Announcement announcement(s, random, recording_);
+  ShootOut shootOut(s, random, desktop_, announcement);
+  const MatchControls& c = s.Controls;
+  const auto shown = [&] {
+    return Shown(s) + ", ball " + std::to_string(c.Shape2.Left) + " " + std::to_string(c.Shape2.Top) +
+           (c.kickEnabled ? ", kick" : "") + (c.nextshotEnabled ? ", next" : "");
+  };
   shootOut.nextshot_Click();  // Dark until the first kick.
   shootOut.kick_Click();
   shootOut.kick_Click();  // One kick at a time.
-  EXPECT_EQ(session_.Commentary.Entries, (Texts{"R6 steps up for Rovers", "He shoots and...",
-                                                "What a brilliant save there by the keeper"}));
-  EXPECT_EQ(c.Label3, "MISS!");
-  EXPECT_EQ(c.Label2, Lamp::Red);
-  EXPECT_EQ(c.penalty[0].Colour, Lamp::Red);
-  EXPECT_EQ(c.Shape2, (SpotPoint{480, 0}));
-  EXPECT_TRUE(session_.Summary.Entries.empty());
-  EXPECT_TRUE(!c.kickEnabled && c.nextshotEnabled);
-
+  EXPECT_EQ(shown(), "MISS! (red), 0 at 0 0, ball 480 0, next");
   shootOut.nextshot_Click();
-  EXPECT_TRUE(c.kickEnabled && !c.nextshotEnabled);
-  EXPECT_EQ(c.Shape2, (SpotPoint{1250, 1400}));
-  EXPECT_EQ(c.Label2, Lamp::Black);
-  EXPECT_EQ(c.Label3, "");
-
+  EXPECT_EQ(shown(), ", 0 at 0 0, ball 1250 1400, kick");
   shootOut.kick_Click();
-  EXPECT_EQ(session_.Summary.Entries, Texts{"U3 (United)"});
-  EXPECT_EQ(session_.Commentary.Entries.back(), "It's gone straight into the top corner");
-  EXPECT_EQ(c.Label3, "GOAL!");
-  EXPECT_EQ(c.Label2, Lamp::Green);
-  EXPECT_EQ(c.penalty[1].Colour, Lamp::Green);
-  EXPECT_EQ(c.Shape2, (SpotPoint{1200, 0}));
-  EXPECT_EQ(session_.Side2Penalties, 1);
-  EXPECT_EQ(session_.PenaltyTaker, 2);
-
+  EXPECT_EQ(shown(), "GOAL! (green), 0 at 0 0, ball 1200 0, next");
+  EXPECT_TRUE(c.penalty[0].Colour == Lamp::Red && c.penalty[1].Colour == Lamp::Green);
   shootOut.nextshot_Click();
   shootOut.kick_Click();
-  EXPECT_EQ(c.Shape2, (SpotPoint{1040, 0}));
-  EXPECT_EQ(desktop_.Taken(), (Texts{"* boo", "* goal", "* boo"}));
+  EXPECT_EQ(shown(), "MISS! (red), 0 at 0 0, ball 1040 0, next");
+  EXPECT_EQ(Joined(s.Summary.Entries), "U3 (United)");
+  EXPECT_EQ(Joined(s.Commentary.Entries),
+            "R6 steps up for Rovers|He shoots and...|What a brilliant save there by the keeper|"
+            "U3 steps up for United|He shoots and...|It's gone straight into the top corner|"
+            "R1 steps up for Rovers|He shoots and...|It's gone straight over the bar");
+  EXPECT_EQ(desktop_.Told(), "* boo|* goal|* boo");
 }
 
-TEST_F(ShootOutTest, EndsWhereItIsDecided) {
-  const std::string level(20, 'x');
-  const std::pair<std::string, const char*> cases[] = {
-      {"x.x.x.", "Rovers beats United 3-0 in PSO"},
-      {".x.x.x", "United beats Rovers 3-0 in PSO"},
-      {"x.x...x", "Rovers beats United 3-0 in PSO"},
-      {"xxxxx.x.", "Rovers beats United 4-2 in PSO"},
-      {"xxxxx...x", "Rovers beats United 4-2 in PSO"},
-      {"xxxxxxxxx.", "Rovers beats United 5-4 in PSO"},
-      {"xxxxxxxxxx.x", "United beats Rovers 6-5 in PSO"},
-      {level.substr(0, 18) + "x.", "Rovers beats United 10-9 in PSO"},
-      {level, "PSO was tied at 10-10"},
-  };
-  const MatchSession start = session_;
-  for (const auto& [outcomes, line] : cases) {
-    SCOPED_TRACE(outcomes);
-    session_ = start;
-    std::vector<Draw> script;
-    for (std::size_t k = 0; k < outcomes.size(); ++k) {
-      const int pool = k % 2 == 0 ? 6 : 7;
-      if (outcomes[k] == 'x') {
-        script.insert(script.end(), {{45, 44}, {pool, 0}, {5, 1}});
-      } else {
-        script.insert(script.end(), {{45, 0}, {2, 0}, {pool, 0}, {5, 1}});
-      }
-    }
-    if (outcomes == level) script.push_back({2, 0});  // The toss.
-    ScriptedRandom random(script);
-    Announcement announcement(session_, random, recording_);
-    ShootOut shootOut(session_, random, desktop_, announcement);
-    const auto& markers = session_.Controls.penalty;
-    for (std::size_t k = 0; k < outcomes.size(); ++k) {
-      EXPECT_TRUE(session_.Controls.kickEnabled) << k;
-      EXPECT_TRUE(markers[k].Visible) << k;
+TEST_F(ShootOutTest, EndsWhereItIsDecidedKickByKick) {
+  const MatchSession start = s;
+  for (const auto& [kicks, line] : ShootOuts(20)) {
+    SCOPED_TRACE(kicks);
+    std::string draws;
+    for (std::size_t k = 0; k < kicks.size(); ++k)
+      draws += std::string(kicks[k] == 'x' ? "45:44 " : "45:0 2:0 ") + (k % 2 == 0 ? "6:0 5:1 " : "7:0 5:1 ");
+    s = start;
+    ScriptedRandom random(draws + (line.starts_with("PSO") ? "2:0" : ""));
+    Announcement announcement(s, random, recording_);
+    ShootOut shootOut(s, random, desktop_, announcement);
+    for (std::size_t k = 0; k < kicks.size(); ++k) {
+      EXPECT_TRUE(s.Controls.kickEnabled && s.Controls.penalty[k].Visible) << k;
       const std::size_t shown = k < 10 ? 10 : k - k % 2 + 2;  // Sudden death shows its markers pair by pair.
-      EXPECT_TRUE(shown == KickCount || !markers[shown].Visible) << k;
+      EXPECT_TRUE(shown == KickCount || !s.Controls.penalty[shown].Visible) << k;
       shootOut.kick_Click();
-      EXPECT_EQ(session_.Controls.nextshotEnabled, k + 1 < outcomes.size()) << k;
+      EXPECT_EQ(s.Controls.nextshotEnabled, k + 1 < kicks.size()) << k;
       shootOut.nextshot_Click();
     }
-    EXPECT_EQ(session_.Summary.Entries.back(), line);
-    EXPECT_EQ(session_.Summary.Entries.end()[-2], "The match was tied at 1-1");
-    EXPECT_FALSE(session_.Controls.kickEnabled);
-    EXPECT_EQ(session_.ResultText, outcomes == level ? "Rovers (By Toss)" : std::string(line).substr(0, 6));
+    EXPECT_TRUE(Joined(s.Summary.Entries).ends_with("||Result:|The match was tied at 1-1|" + line));
+    EXPECT_EQ(Shown(s), ", 0 at 0 0");
+    EXPECT_FALSE(s.Controls.kickEnabled);
+    EXPECT_EQ(recording_.Calls.back(),
+              "shoot-out " + (line.starts_with("PSO") ? "Rovers (By Toss)" : line.substr(0, 6)));
+  }
+}
+
+TEST_F(ShootOutTest, EndsWhereItIsDecidedAtOnce) {
+  for (const auto& [kicks, line] : ShootOuts(30)) {
+    SCOPED_TRACE(kicks);
+    std::string draws = "100:3 " + Quiet(NormalTime + ExtraTime);
+    for (std::size_t k = 0; k < kicks.size(); ++k)
+      draws += std::string(kicks[k] == 'x' ? "2:1 " : "2:0 ") + (k % 2 == 0 ? "6:0 " : "7:0 ");
+    const bool toss = line.starts_with("PSO");
+    ScriptedRandom random(draws + (toss ? "2:1 " : "") + "70:30 4:0 0:0 4:0 0:0 5:0x4");
+    Match match({}, desktop_, random, recording_, s.Setup);
+    match.instant_Click();
+    const std::string winner = line.substr(0, 6);
+    EXPECT_EQ(match.Session().Summary.Entries.back(), line);
+    EXPECT_EQ(Joined(match.Session().Commentary.Entries),
+              toss ? "The match still remains undecided after the PSO"
+                   : "That's it, " + winner + " wins the match in a PSO");
+    EXPECT_EQ(Joined(std::exchange(recording_.Calls, {})),
+              "shoot-out " + (toss ? "United (By Toss)" : winner));
   }
 }
 

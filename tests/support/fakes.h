@@ -13,7 +13,16 @@
 
 namespace kickwell {
 
-/// Notes every message and gives the answers that a test has laid ready.
+using Texts = std::vector<std::string>;
+
+/// The texts on one line, with "|" between them.
+inline std::string Joined(const Texts& texts) {
+  std::string line;
+  for (const std::string& text : texts) line += (&text == texts.data() ? "" : "|") + text;
+  return line;
+}
+
+/// Notes every message and sound and gives the answers that a test has laid ready.
 class FakeDesktop : public Desktop {
  public:
   void Inform(const std::string& text) override { Messages.push_back("i: " + text); }
@@ -28,19 +37,19 @@ class FakeDesktop : public Desktop {
     WhileAsked();
     return SaveName;
   }
-  void LoadSounds() override { SoundsLoaded = true; }
+  void LoadSounds() override { Messages.emplace_back("* loaded"); }
   void PlaySound(Sound sound) override {
-    constexpr const char* Names[] = {"whistle", "goal", "boo"};
-    Messages.push_back(std::string("* ") + Names[static_cast<std::size_t>(sound)]);
+    constexpr const char* Names[] = {"* whistle", "* goal", "* boo"};
+    Messages.emplace_back(Names[static_cast<std::size_t>(sound)]);
   }
 
   /// The messages and sounds since the last call.
-  std::vector<std::string> Taken() { return std::exchange(Messages, {}); }
+  Texts Taken() { return std::exchange(Messages, {}); }
+  std::string Told() { return Joined(Taken()); }
 
-  std::vector<std::string> Messages;
+  Texts Messages;
   bool Yes = true;
   std::function<void()> WhileAsked = [] {};  ///< What happens behind a question or the save dialog.
-  bool SoundsLoaded = false;
   std::string ProposedName;
   std::optional<std::string> SaveName;
 };
@@ -51,24 +60,23 @@ class FakeRecording : public Recording {
   void StoreScorer(const MatchSession& s) override {
     Calls.push_back("scorer " + s.LastScorer + " of " + s.LastScoringTeam);
   }
-  void StoreResult(const MatchSession& s) override { Calls.push_back("standings " + s.ResultText); }
+  void StoreResult(const MatchSession& s) override {
+    Calls.push_back("standings " + s.WinnerName + " " + std::to_string(s.WinnerGoals) + "-" +
+                    std::to_string(s.LoserGoals) + " " + s.LoserName);
+  }
   void StoreLeagueResult(const MatchSession& s) override {
     Calls.push_back((s.DecidedByShootOut ? "shoot-out " : "result ") + s.ResultText);
   }
 
-  std::vector<std::string> Calls;
+  Texts Calls;
 };
 
-/// Counts the goal pauses and runs what a test does in them.
+/// Runs what a test does in a goal pause.
 class FakeScreen : public MatchScreen {
  public:
   void Show() override {}
-  void PauseFunction() override {
-    ++Pauses;
-    WhilePaused();
-  }
+  void PauseFunction() override { WhilePaused(); }
 
-  int Pauses = 0;
   std::function<void()> WhilePaused = [] {};
 };
 

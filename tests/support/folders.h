@@ -1,6 +1,7 @@
 // Program folders of a test's own, and the bytes of files.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -64,6 +65,11 @@ inline Team MakeTeam(const std::string& name, const std::string& prefix, const s
     team.Players.push_back({prefix + std::to_string(team.Players.size()), skill, position});
   }
   return team;
+}
+
+/// Writes teams of eleven of skill 80, whose players are called after them: "A0" to "A10".
+inline void AddTeams(const TestFolder& folder, std::initializer_list<const char*> names) {
+  for (const char* name : names) EXPECT_TRUE(SaveTeam(folder.Folder, MakeTeam(name, name)).Ok());
 }
 
 }  // namespace kickwell

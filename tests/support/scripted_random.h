@@ -1,71 +1,81 @@
-// Draws that a test fixes, one by one and in order.
+// Draws that a test fixes.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <deque>
-#include <vector>
+#include <sstream>
+#include <stdexcept>
+#include <string>
 
 #include "base/random.h"
 
 namespace kickwell {
 
-/// What a draw must be asked for and what it gives, so many times in a row.
-struct Draw {
-  int N;
-  int Value;
-  int Times = 1;
-};
+/// The same draws so many times in a row.
+inline std::string Times(int count, const std::string& draws) {
+  std::string all;
+  for (int i = 0; i < count; ++i) all += draws + " ";
+  return all;
+}
 
-/// Fails the test when a draw has another range than the script says, when the script ends too early, and
-/// when draws are left over at the end.
+/// Gives the draws of a script: "70:35" must be asked for as Int(70) and gives 35, "4000:7x120" does so 120
+/// times. The test fails when a draw has another range, is one too many, or is left over.
 class ScriptedRandom : public Random {
  public:
-  ScriptedRandom(std::initializer_list<Draw> script) : script_(script) {}
-  explicit ScriptedRandom(const std::vector<Draw>& script) : script_(script.begin(), script.end()) {}
+  explicit ScriptedRandom(const std::string& script) {
+    std::istringstream words(script);
+    char sign = 0;
+    for (Draw draw; words >> draw.N >> sign >> draw.Value; script_.push_back(draw)) {
+      draw.Times = 1;
+      if (words.peek() == 'x') words >> sign >> draw.Times;
+    }
+  }
   ~ScriptedRandom() override { EXPECT_TRUE(script_.empty()) << "next: Int(" << script_.front().N << ")"; }
 
-  void Then(Draw draw) { script_.push_back(draw); }
-
   int Int(int n) override {
-    if (script_.empty()) {
-      ADD_FAILURE() << "unexpected Int(" << n << ")";
-      return 0;
-    }
-    Draw& draw = script_.front();
-    EXPECT_EQ(n, draw.N) << "draw " << made_;
-    const int value = draw.Value;
-    if (--draw.Times == 0) script_.pop_front();
+    if (script_.empty()) throw std::out_of_range("unexpected Int(" + std::to_string(n) + ")");
+    const Draw draw = script_.front();
     ++made_;
-    return value;
+    EXPECT_EQ(n, draw.N) << "draw " << made_;
+    if (--script_.front().Times == 0) script_.pop_front();
+    return draw.Value;
   }
 
  private:
+  struct Draw {
+    int N = 0, Value = 0, Times = 1;
+  };
   std::deque<Draw> script_;
   int made_ = 0;
 };
 
-/// Draws of a match between two sides of strength 80 in which nothing happens: side 1 has the ball in
-/// midfield, no remarks, shots, fouls or goals, but for the goals that a test asks for. The goal number
-/// is 50.
+/// Draws of matches between sides of strength 80 in which side 1 has the ball in midfield and nothing happens
+/// but the goals that a test asks for. Lists are not shuffled, and nobody scores a penalty.
 class QuietRandom : public Random {
  public:
   int Int(int n) override {
-    if (n == 4000) {
-      const int side = ++goalDraws_ % 2 == 1 ? 1 : 2;
-      const bool goal = side == ScoringSide && (goalDraws_ - 1) / 2 % 60 == ScoringSecond;
-      if (goal) ScoringSide = 0;
-      return goal ? 50 : 7;
+    if (n == 4000) return GoalDraw();
+    if (n == 100) goalDraws_ = 0;  // The goal number: another match.
+    if (n == 100 && !Later.empty()) {
+      Goals = Later.front();
+      Later.pop_front();
     }
-    if (n == 5091) ++BallDraws;
-    return n == 100 ? 50 : n == 5091 ? 2000 : n == 4 ? 1 : 0;
+    if (n == 5091) ++Minutes;
+    return n >= 80 && n <= 100 ? 50 : n == 5091 ? 2000 : n == 70 ? 30 : n == 4 || n == 5 ? 1 : 0;
   }
 
-  int BallDraws = 0;      ///< One a minute.
-  int ScoringSide = 0;    ///< Scores once, in the next ScoringSecond.
-  int ScoringSecond = 0;  ///< Of a minute, from 0.
+  std::string Goals;              ///< Of the match, by second played: "1" or "2" for the side that scores.
+  std::deque<std::string> Later;  ///< Goals of the matches to come.
+  int Minutes = 0;                ///< Full simulation only: as many as have been played to their end.
 
  private:
+  int GoalDraw() {
+    const auto second = static_cast<std::size_t>(goalDraws_ / 2);
+    const char side = goalDraws_++ % 2 == 0 ? '1' : '2';
+    return second < Goals.size() && Goals[second] == side ? 50 : 7;
+  }
+
   int goalDraws_ = 0;
 };
 

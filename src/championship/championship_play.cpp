@@ -29,6 +29,8 @@ void ChampionshipPlay::Championships_Click(int entry) {
 }
 
 void ChampionshipPlay::Load(const std::string& fileName) {
+  // A match of which a failing disk has saved a part must not be played again.
+  if (!Report(desktop_, FinishChanges(folder_))) return;
   std::optional<Championship> read = ReadChampionship(folder_, kind_, fileName);
   if (!read) return;
   if (MainFileName(kind_, read->Name) != fileName) {

@@ -29,7 +29,7 @@ class ChampionshipPlay {
 
   /// Reads the championship's fixtures and offers all of them. A file that is gone changes nothing, and one
   /// whose stored name is another than the file's is refused: its results would go to that other
-  /// championship.
+  /// championship. Nor does a change that cannot be finished let anything be loaded.
   void Load(const std::string& fileName);
 
   /// Hands the unplayed fixtures of the range to the line-up selection, one after the other.

@@ -61,6 +61,15 @@ class Reader {
   std::size_t place_ = 0;
 };
 
+/// The lines of a main file; nothing when there is none.
+std::optional<Reader> OpenMain(const ProgramFolder& folder, ChampionshipKind kind,
+                               const std::string& fileName, FileResult* failure = nullptr) {
+  if (!StaysInFolder(fileName)) return std::nullopt;
+  std::optional<Lines> lines = ReadLines(FolderOf(folder, kind) / fileName, failure);
+  if (!lines) return std::nullopt;
+  return Reader(std::move(*lines));
+}
+
 std::vector<std::string> TakeTeams(Reader& reader) {
   std::vector<std::string> teams(reader.TakeCount(1));
   for (std::string& team : teams) team = reader.Take();
@@ -130,10 +139,9 @@ bool ChampionshipExists(const ProgramFolder& folder, ChampionshipKind kind, cons
 
 std::optional<Championship> ReadChampionship(const ProgramFolder& folder, ChampionshipKind kind,
                                              const std::string& fileName, FileResult* failure) {
-  if (!StaysInFolder(fileName)) return std::nullopt;
-  std::optional<Lines> lines = ReadLines(FolderOf(folder, kind) / fileName, failure);
-  if (!lines) return std::nullopt;
-  Reader reader(std::move(*lines));
+  std::optional<Reader> main = OpenMain(folder, kind, fileName, failure);
+  if (!main) return std::nullopt;
+  Reader& reader = *main;
   Championship read{kind, {}, {}, {}};
   std::size_t fixtures = 0;
   const bool league = kind == ChampionshipKind::League;
@@ -153,11 +161,10 @@ std::optional<Championship> ReadChampionship(const ProgramFolder& folder, Champi
 }
 
 std::optional<Bracket> ReadBracket(const ProgramFolder& folder, const std::string& name) {
-  const std::string fileName = MainFileName(ChampionshipKind::KnockOut, name);
-  if (!StaysInFolder(fileName)) return std::nullopt;
-  std::optional<Lines> lines = ReadLines(folder.Tournies() / fileName);
-  if (!lines) return std::nullopt;
-  Reader reader(std::move(*lines));
+  constexpr ChampionshipKind Kind = ChampionshipKind::KnockOut;
+  std::optional<Reader> main = OpenMain(folder, Kind, MainFileName(Kind, name));
+  if (!main) return std::nullopt;
+  Reader& reader = *main;
   reader.Take();  // The number of fixtures.
   Bracket bracket;
   bracket.Name = reader.Take();
@@ -233,7 +240,8 @@ ChangedFile ChangedStandings(const std::string& league, const std::vector<Standi
 
 FileResult AppendStandings(const ProgramFolder& folder, const std::string& league, const std::string& team) {
   if (!ChampionshipExists(folder, ChampionshipKind::League, league + Standings)) return {};
-  FileResult failure;
+  FileResult failure = FinishChanges(folder);
+  if (!failure.Ok()) return failure;
   Lines lines = ReadFile(folder, ChampionshipKind::League, league + Standings, &failure);
   if (!failure.Ok()) return failure;
   lines.resize(lines.size() / StandingsLines * StandingsLines);
@@ -256,7 +264,8 @@ std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind
 
 FileResult AddGoal(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
                    const std::string& player, const std::string& team) {
-  FileResult failure;
+  FileResult failure = FinishChanges(folder);
+  if (!failure.Ok()) return failure;
   Lines lines = ReadFile(folder, kind, name + Scorers, &failure);
   if (!failure.Ok()) return failure;
   lines.resize(lines.size() / ScorerLines * ScorerLines);

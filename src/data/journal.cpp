@@ -57,23 +57,38 @@ std::optional<std::vector<Step>> FromText(const ProgramFolder& folder, const std
   return steps;
 }
 
-/// Makes one step. One that has been made before an interruption is made already.
 FileResult Make(const ProgramFolder& folder, const Step& step) {
-  const std::filesystem::path file = folder.Root / step.File, temporary = folder.Root / step.Temporary;
-  if (step.Temporary == Deleted) return DeleteFile(file);
-  return FileExists(temporary) ? MoveIntoPlace(temporary, file) : FileResult{};
+  if (step.Temporary == Deleted) return DeleteFile(folder.Root / step.File);
+  return MoveIntoPlace(folder.Root / step.Temporary, folder.Root / step.File);
 }
 
-/// Makes the steps and ends the journal. `made` counts the steps that have been made.
+/// Whether a step that cannot be made has been made already, before an interruption.
+bool WasMade(const ProgramFolder& folder, const Step& step) {
+  return step.Temporary != Deleted && FileIsMissing(folder.Root / step.Temporary);
+}
+
+/// Ends the journal, for good: one that comes back after a power cut could meet files of a later one.
+FileResult EndJournal(const ProgramFolder& folder) {
+  FileResult ended = DeleteFile(JournalOf(folder));
+  FlushFolderOf(JournalOf(folder));
+  return ended;
+}
+
+/// Makes the steps, but for those that an earlier attempt has made, and ends the journal. `made` counts how
+/// many are made.
 FileResult Follow(const ProgramFolder& folder, const std::vector<Step>& steps, std::size_t& made) {
   for (made = 0; made < steps.size(); ++made) {
     FileResult result = Make(folder, steps[made]);
-    if (!result.Ok()) return result;
+    if (!result.Ok() && !WasMade(folder, steps[made])) return result;
   }
-  for (const auto& place : {folder.Leagues(), folder.Tournies()}) FlushFolder(place);
-  FileResult ended = DeleteFile(JournalOf(folder));
-  FlushFolder(folder.Root);  // Or a journal that comes back could meet the temporary files of a later one.
-  return ended;
+  for (const Step& step : steps) FlushFolderOf(folder.Root / step.File);
+  return EndJournal(folder);
+}
+
+FileResult MayBeDeleted(const std::filesystem::path& file) {
+  std::error_code error;
+  if (FileIsMissing(file) || std::filesystem::is_regular_file(file, error)) return {};
+  return {"The file " + file.string() + " can't be deleted: it is no file."};
 }
 
 void DeleteTemporaries(const ProgramFolder& folder, const std::vector<Step>& steps) {
@@ -87,50 +102,58 @@ void DeleteTemporaries(const ProgramFolder& folder, const std::vector<Step>& ste
 }  // namespace
 
 FileResult ChangeFiles(const ProgramFolder& folder, const std::vector<ChangedFile>& changes) {
+  std::vector<Step> steps;
   for (const ChangedFile& change : changes) {
     if (!IsChampionshipFile(folder, change.File)) return {FileNameRefusal(change.File)};
+    const int number = static_cast<int>(steps.size()) + 1;
+    steps.push_back({change.Bytes ? TemporaryName(number) : std::string(Deleted), change.File});
   }
-  if (FileExists(JournalOf(folder))) {
+  if (!FileIsMissing(JournalOf(folder))) {
     return {"Nothing can be saved while the changes in " + JournalOf(folder).string() + " are unfinished."};
   }
-  std::vector<Step> steps;
   FileResult result;
-  for (const ChangedFile& change : changes) {
-    const bool deletes = !change.Bytes;
-    steps.push_back(
-        {deletes ? std::string(Deleted) : TemporaryName(static_cast<int>(steps.size()) + 1), change.File});
-    if (deletes) continue;
-    result = PrepareFile(folder.Root / change.File, *change.Bytes, folder.Root / steps.back().Temporary);
-    if (!result.Ok()) break;
+  for (std::size_t i = 0; i < steps.size() && result.Ok(); ++i) {
+    const std::filesystem::path file = folder.Root / steps[i].File;
+    result = changes[i].Bytes ? PrepareFile(file, *changes[i].Bytes, folder.Root / steps[i].Temporary)
+                              : MayBeDeleted(file);
   }
-  if (result.Ok()) result = WriteWholeFile(JournalOf(folder), ToText(steps), folder.Root);
+  if (result.Ok()) {
+    FlushFolderOf(JournalOf(folder));  // The temporary files must be there when the journal is.
+    result = WriteWholeFile(JournalOf(folder), ToText(steps), folder.Root);
+  }
   std::size_t made = 0;
   if (result.Ok()) result = Follow(folder, steps, made);
   if (result.Ok()) return result;
   if (made > 0) {
     result.Failure += " What is missing is saved when the program next starts.";
-  } else if (DeleteFile(JournalOf(folder)).Ok()) {  // Without its journal the change was never begun.
+  } else if (EndJournal(folder).Ok()) {  // Without its journal the change was never begun.
     DeleteTemporaries(folder, steps);
   }
   return result;
 }
 
 FileResult FinishChanges(const ProgramFolder& folder) {
+  const std::filesystem::path journal = JournalOf(folder);
   FileResult result;
-  const std::optional<std::string> text = ReadWholeFile(JournalOf(folder), &result);
-  if (text) {
-    const std::optional<std::vector<Step>> steps = FromText(folder, *text);
-    std::size_t made = 0;
-    if (steps) return Follow(folder, *steps, made);
-    const std::filesystem::path aside = JournalOf(folder).replace_extension(".bad");
-    result = MoveIntoPlace(JournalOf(folder), aside);
-    if (result.Ok()) {
-      result = {"The file " + JournalOf(folder).string() +
-                " made no sense. It has not been followed and is called " + aside.filename().string() +
-                " now."};
-    }
-  }
-  return result;
+  const std::optional<std::string> text = ReadWholeFile(journal, &result);
+  std::error_code error;
+  const bool strange = !result.Ok() && !std::filesystem::is_regular_file(journal, error) && !error;
+  if (!text && !strange) return result;
+  const std::optional<std::vector<Step>> steps = text ? FromText(folder, *text) : std::nullopt;
+  std::size_t made = 0;
+  if (steps) return Follow(folder, *steps, made);
+  std::filesystem::path aside = folder.Root / "unfinished.bad";
+  for (int i = 2; FileExists(aside); ++i) aside = folder.Root / ("unfinished-" + std::to_string(i) + ".bad");
+  result = MoveIntoPlace(journal, aside);
+  if (!result.Ok()) return result;
+  return {"The file " + journal.string() + " made no sense. It has not been followed and is called " +
+          aside.filename().string() + " now."};
+}
+
+FileResult CleanUp(const ProgramFolder& folder) {
+  FileResult finished = FinishChanges(folder);
+  if (FileIsMissing(JournalOf(folder))) DeleteLeftovers(folder.Root);
+  return finished;
 }
 
 }  // namespace kickwell

@@ -24,12 +24,16 @@ struct ChangedFile {
 };
 
 /// Makes all `changes` or none. Only a disk that fails in the middle of the renaming can keep it from either:
-/// the journal stays then. Refuses files that are none of a championship, and any change while a journal is
-/// there.
+/// the journal stays then. Refuses files that are none of a championship, the deletion of what is no file,
+/// and any change while a journal is there.
 FileResult ChangeFiles(const ProgramFolder& folder, const std::vector<ChangedFile>& changes);
 
 /// Finishes the changes that a journal tells of, if there is one. A journal that makes no sense is not
 /// followed but renamed, for a look at it, and the user is to be told.
 FileResult FinishChanges(const ProgramFolder& folder);
+
+/// What each start of the program does first: finishes the changes, and deletes the temporary files that no
+/// process and no journal needs any more.
+FileResult CleanUp(const ProgramFolder& folder);
 
 }  // namespace kickwell

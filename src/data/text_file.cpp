@@ -17,6 +17,8 @@ namespace {
 
 constexpr std::string_view TemporaryPrefix = "~kickwell-", TemporaryExtension = ".tmp";
 
+constexpr off_t LargestFile = 1 << 28;  ///< Bytes: a thousand times the limits of any file.
+
 /// An errno value, 0 for success.
 using Error = int;
 
@@ -33,6 +35,7 @@ Error ReadWhole(int descriptor, std::string& bytes) {
   struct stat facts {};
   if (::fstat(descriptor, &facts) != 0) return errno;
   if (!S_ISREG(facts.st_mode)) return EISDIR;
+  if (facts.st_size > LargestFile) return EFBIG;
   bytes.resize(static_cast<std::size_t>(facts.st_size));
   std::size_t taken = 0;
   while (taken < bytes.size()) {
@@ -62,9 +65,13 @@ Error WriteTemporary(const std::filesystem::path& temporary, const std::filesyst
   const int descriptor =
       ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0666);
   if (descriptor < 0) return errno;
-  struct stat old {};
+  struct stat old {
+  }, made{};
   Error error = 0;
-  if (::stat(target.c_str(), &old) == 0 && ::fchmod(descriptor, old.st_mode & 07777) != 0) error = errno;
+  if (::stat(target.c_str(), &old) == 0 && ::fstat(descriptor, &made) == 0 && old.st_mode != made.st_mode &&
+      ::fchmod(descriptor, old.st_mode & 07777) != 0) {
+    error = errno;
+  }
   if (error == 0) error = WriteWhole(descriptor, bytes);
   if (::close(descriptor) != 0 && error == 0) error = errno;
   if (error != 0) ::unlink(temporary.c_str());
@@ -95,6 +102,7 @@ Error MoveToOtherDisk(const std::filesystem::path& temporary, const std::filesys
   Error error = WriteTemporary(beside, target, *bytes);
   if (error != 0) return error;
   error = Rename(beside, target);
+  if (error == 0) FlushFolderOf(target);
   ::unlink(error == 0 ? temporary.c_str() : beside.c_str());
   return error;
 }
@@ -137,6 +145,10 @@ bool FileExists(const std::filesystem::path& file) {
   return ::access(file.c_str(), F_OK) == 0;
 }
 
+bool FileIsMissing(const std::filesystem::path& file) {
+  return !FileExists(file) && errno == ENOENT;
+}
+
 FileResult WriteWholeFile(const std::filesystem::path& file, std::string_view bytes,
                           const std::filesystem::path& temporaryFolder) {
   const std::filesystem::path temporary = temporaryFolder / TemporaryName();
@@ -144,7 +156,7 @@ FileResult WriteWholeFile(const std::filesystem::path& file, std::string_view by
   if (!result.Ok()) return result;
   result = MoveIntoPlace(temporary, file);
   if (result.Ok()) {
-    FlushFolder(BehindLinks(file).parent_path());
+    FlushFolderOf(file);
   } else {
     ::unlink(temporary.c_str());
   }
@@ -176,8 +188,8 @@ FileResult MoveIntoPlace(const std::filesystem::path& temporary, const std::file
   return SaveResult(file, error);
 }
 
-void FlushFolder(const std::filesystem::path& folder) {
-  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+void FlushFolderOf(const std::filesystem::path& file) {
+  const int descriptor = ::open(BehindLinks(file).parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (descriptor < 0) return;
   ::fsync(descriptor);
   ::close(descriptor);

@@ -18,7 +18,8 @@ struct [[nodiscard]] FileResult {
   bool Ok() const { return Failure.empty(); }
 };
 
-/// The bytes of `file`; nothing when it is no regular file or cannot be read to its end. Where there is such
+/// The bytes of `file`; nothing when it is no regular file, is larger than any
+/// that the program writes, or cannot be read to its end. Where there is such
 /// a file all the same, `failure` is told why: what builds on its content must not replace it then.
 std::optional<std::string> ReadWholeFile(const std::filesystem::path& file, FileResult* failure = nullptr);
 
@@ -27,6 +28,9 @@ std::optional<Lines> ReadLines(const std::filesystem::path& file, FileResult* fa
 
 /// Whether there is such a file, readable or not.
 bool FileExists(const std::filesystem::path& file);
+
+/// Whether there is certainly none: what cannot be asked is not known to be missing.
+bool FileIsMissing(const std::filesystem::path& file);
 
 /// Replaces `file` (through symbolic links, keeping its permissions) by `bytes`. Missing folders on the way
 /// are made. The bytes go into a temporary file in `temporaryFolder` that is flushed to disk and renamed over
@@ -43,11 +47,12 @@ FileResult WriteLines(const std::filesystem::path& file, const Lines& lines,
 FileResult PrepareFile(const std::filesystem::path& file, std::string_view bytes,
                        const std::filesystem::path& temporary);
 
-/// The second half: `temporary` becomes `file`, for good once FlushFolder has been called on its folder.
+/// The second half: `temporary` becomes `file`, for good once FlushFolderOf has been called on it.
 FileResult MoveIntoPlace(const std::filesystem::path& temporary, const std::filesystem::path& file);
 
-/// Makes what was renamed and deleted in `folder` last. A file system that cannot has still renamed.
-void FlushFolder(const std::filesystem::path& folder);
+/// Makes what was renamed and deleted beside `file`, the real one behind symbolic links, last. A file system
+/// that cannot has still renamed.
+void FlushFolderOf(const std::filesystem::path& file);
 
 /// Deletes `file`; a file that is not there is no failure.
 FileResult DeleteFile(const std::filesystem::path& file);

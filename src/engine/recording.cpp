@@ -117,6 +117,7 @@ void FileRecording::FileChanges(const MatchSession& session) {
       }
     }
   }
+  championship_->Name = setup.ChampionshipName;  // Whatever the file says meanwhile: its name is what counts.
   changes_.push_back(ChangedChampionship(*championship_));
 }
 

@@ -39,8 +39,7 @@ App::App(ProgramFolder folder, Desktop& desktop, Random& random, MatchTimings ti
 App::~App() = default;
 
 void App::Start() {
-  const FileResult finished = FinishChanges(folder_);
-  DeleteLeftovers(folder_.Root);
+  const FileResult finished = CleanUp(folder_);
   window_->show();
   Report(desktop_, finished);
 }

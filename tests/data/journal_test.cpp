@@ -73,16 +73,33 @@ TEST(Journal, ChangesOnlyFilesOfChampionships) {
     EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}, {file, "new"}}).Ok()) << file;
   }
   EXPECT_TRUE(std::filesystem::is_empty(folder.Folder.Root));
+  std::filesystem::create_directories(folder / "Leagues/Top.sco");  // No file that could be deleted.
+  EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}, {"Leagues/Top.sco", {}}}).Ok());
+  EXPECT_EQ(ListFiles(folder.Folder.Leagues()), std::vector<std::string>{});
 }
 
-TEST(Journal, LeftoversOfDeadProcessesGo) {
+TEST(Journal, AFolderInItsPlaceIsSetAsideToo) {
+  const TestFolder folder;
+  WriteBytes(folder / "unfinished.bad", "earlier");
+  std::filesystem::create_directory(folder / Journal);
+  EXPECT_FALSE(FinishChanges(folder.Folder).Ok());
+  EXPECT_TRUE(std::filesystem::is_directory(folder / "unfinished-2.bad"));
+  EXPECT_TRUE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}}).Ok());
+}
+
+TEST(Journal, LeftoversOfDeadProcessesGoWhenNoJournalNeedsThem) {
   const TestFolder folder;
   const std::string own = TemporaryName(1);
   for (const std::string& file : {std::string("~kickwell-4999999-0.tmp"), own, std::string("my.tmp"),
                                   std::string("~kickwell-mine.tmp")}) {
     WriteBytes(folder / file, "x");
   }
-  DeleteLeftovers(folder.Folder.Root);
+  std::filesystem::create_directories(folder / "Leagues/Top.rec/in the way");
+  WriteBytes(folder / Journal, "Kickwell journal 1\n~kickwell-4999999-0.tmp\nLeagues/Top.rec\nEnd\n");
+  EXPECT_FALSE(CleanUp(folder.Folder).Ok());
+  EXPECT_TRUE(std::filesystem::exists(folder / "~kickwell-4999999-0.tmp"));
+  std::filesystem::remove(folder / Journal);
+  EXPECT_TRUE(CleanUp(folder.Folder).Ok());
   EXPECT_EQ(ListFiles(folder.Folder.Root), (std::vector<std::string>{"my.tmp", own, "~kickwell-mine.tmp"}));
 }
 

@@ -32,13 +32,6 @@ Files FilesIn(const ProgramFolder& folder) {
   return files;
 }
 
-/// What the program does when it starts.
-FileResult Start(const ProgramFolder& folder) {
-  FileResult finished = FinishChanges(folder);
-  DeleteLeftovers(folder.Root);
-  return finished;
-}
-
 void Record(const ProgramFolder& folder, Desktop& desktop, MatchMode mode) {
   MatchSession s;
   s.Setup = MakeSetup(mode);
@@ -108,9 +101,10 @@ class NothingLostTest : public testing::Test {
   }
 
   /// The program folder as it was at the beginning.
-  const ProgramFolder& Fresh() {
+  const ProgramFolder& Fresh() { return As(start_.Folder); }
+  const ProgramFolder& As(const ProgramFolder& other) {
     fs::remove_all(folder_.Folder.Root);
-    fs::copy(start_.Folder.Root, folder_.Folder.Root, fs::copy_options::recursive);
+    fs::copy(other.Root, folder_.Folder.Root, fs::copy_options::recursive);
     return folder_.Folder;
   }
 
@@ -128,7 +122,7 @@ TEST_F(NothingLostTest, AKilledProcessLeavesTheFilesBeforeOrAfterTheChange) {
       int changed = 0, operation = 1;
       const auto change = [&, &act = act] { act(folder_.Folder, desktop_); };
       for (; Fresh(), KilledAt(operation, powerCut, change); ++operation) {
-        EXPECT_TRUE(Start(folder_.Folder).Ok()) << name << operation;
+        EXPECT_TRUE(CleanUp(folder_.Folder).Ok()) << name << operation;
         const Files found = FilesIn(folder_.Folder);
         changed += found == after ? 1 : 0;
         EXPECT_TRUE(found == before_ || found == after) << name << " killed at operation " << operation;
@@ -139,6 +133,49 @@ TEST_F(NothingLostTest, AKilledProcessLeavesTheFilesBeforeOrAfterTheChange) {
     }
   }
   EXPECT_EQ(desktop_.Messages.size(), 2U);  // Nothing but the questions of the editors.
+}
+
+TEST_F(NothingLostTest, AStartThatIsKilledOrFailsCanBeRepeated) {
+  for (const auto& [name, act] : {Changes[0], Changes[5]}) {
+    const TestFolder crashed;
+    const auto start = [this] { EXPECT_TRUE(CleanUp(folder_.Folder).Ok()); };
+    const auto change = [&, &act = act] { act(folder_.Folder, desktop_); };
+    act(Fresh(), desktop_);
+    const Files after = FilesIn(folder_.Folder);
+    int unfinished = 0;
+    for (int operation = 1; Fresh(), KilledAt(operation, false, change); ++operation) {
+      if (!fs::exists(folder_ / std::string(JournalName))) continue;
+      ++unfinished;
+      fs::remove_all(crashed.Folder.Root);
+      fs::copy(folder_.Folder.Root, crashed.Folder.Root, fs::copy_options::recursive);
+      for (int again = 1; As(crashed.Folder), KilledAt(again, false, start); ++again) {
+        start();
+        EXPECT_EQ(FilesIn(folder_.Folder), after) << name << operation << " and " << again;
+        As(crashed.Folder);
+        Faults() = {.FailAt = again, .Error = EIO};
+        const FileResult failed = CleanUp(folder_.Folder);
+        Faults() = {};
+        start();
+        EXPECT_EQ(FilesIn(folder_.Folder), after) << name << operation << ": " << failed.Failure;
+      }
+    }
+    EXPECT_GT(unfinished, 4) << name;
+  }
+}
+
+TEST_F(NothingLostTest, EachStageIsOnTheDiskBeforeTheNext) {
+  Faults() = {};
+  Record(Fresh(), desktop_, MatchMode::League);
+  const Texts paths = Faults().Paths;
+  const std::string root = folder_.Folder.Root.string();
+  auto place = paths.begin();
+  for (const std::string& path :
+       {TemporaryName(3), std::string(), std::string(JournalName), std::string(),
+        std::string("Leagues/Cup.leg"), std::string("Leagues"), std::string(JournalName), std::string()}) {
+    place = std::find(place, paths.end(), path.empty() ? root : root + "/" + path);
+    ASSERT_NE(place, paths.end()) << path;  // A folder is named when it is flushed.
+    ++place;
+  }
 }
 
 TEST_F(NothingLostTest, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
@@ -158,7 +195,7 @@ TEST_F(NothingLostTest, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
         const bool unfinished = fs::exists(folder_ / std::string(JournalName));
         const auto isWarning = [](const std::string& text) { return text.starts_with("!: The file "); };
         const bool told = std::any_of(desktop_.Messages.begin(), desktop_.Messages.end(), isWarning);
-        EXPECT_TRUE(Start(folder_.Folder).Ok()) << where;
+        EXPECT_TRUE(CleanUp(folder_.Folder).Ok()) << where;
         Files found = FilesIn(folder_.Folder);
         const auto left = std::erase_if(found, [](const auto& file) { return IsTemporaryName(file.first); });
         EXPECT_TRUE(left == 0 || failOn) << where;

@@ -27,10 +27,9 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   range->addWidget(to_);
   range->addStretch();
 
-  auto* const command1 = MakeButton("Command1", tr("&Continue >>"));
+  QPushButton* const command1 = Button("Command1", tr("&Continue >>"), [this] { play_.Command1_Click(); });
   command1->setDefault(true);
-  auto* const command2 = MakeButton("Command2", tr("Close"));
-  command2->setAutoDefault(false);
+  QPushButton* const command2 = Button("Command2", tr("Close"), [this] { play_.Command2_Click(); });
   auto* const buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(command1);
@@ -56,16 +55,10 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
       [&] { layout->addWidget(simulationType_); });
   layout->addLayout(buttons);
 
-  const auto onPick = [this](QComboBox* combo, void (ChampionshipPlay::*action)(int)) {
-    connect(combo, &QComboBox::activated, this,
-            [this, action](int entry) { Act([&] { (play_.*action)(entry); }); });
-  };
-  onPick(championships_, &ChampionshipPlay::Championships_Click);
-  onPick(from_, &ChampionshipPlay::From_Click);
-  onPick(to_, &ChampionshipPlay::To_Click);
-  onPick(simulationType_, &ChampionshipPlay::SimulationType_Click);
-  connect(command1, &QPushButton::clicked, this, [this] { Act([this] { play_.Command1_Click(); }); });
-  connect(command2, &QPushButton::clicked, this, [this] { Act([this] { play_.Command2_Click(); }); });
+  OnPick(championships_, [this](int entry) { play_.Championships_Click(entry); });
+  OnPick(from_, [this](int entry) { play_.From_Click(entry); });
+  OnPick(to_, [this](int entry) { play_.To_Click(entry); });
+  OnPick(simulationType_, [this](int entry) { play_.SimulationType_Click(entry); });
   play_.Changed = [this] { Show(); };
   Show();
   OpenAt(460, 560);

@@ -51,12 +51,7 @@ LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
   OpenAt(900, 640);
 }
 
-void LegEditorWindow::OnPick(QComboBox* combo, std::function<void(int)> action) {
-  connect(combo, &QComboBox::activated, this,
-          [this, action = std::move(action)](int entry) { Act([&] { action(entry); }); });
-}
-
-void LegEditorWindow::OnPick(QListWidget* list, Chooser& chooser) {
+void LegEditorWindow::OnSelect(QListWidget* list, Chooser& chooser) {
   connect(list, &QListWidget::itemSelectionChanged, this,
           [list, &chooser] { chooser.Picked = SelectedRow(list); });
 }
@@ -97,8 +92,8 @@ QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, con
   widgets.Available = MakeList(prefix + "Available");
   widgets.Selected = MakeList(prefix + "Selected");
   widgets.Selected->setAccessibleName(tr("Selected teams"));
-  OnPick(widgets.Available, side.Available);
-  OnPick(widgets.Selected, side.Selected);
+  OnSelect(widgets.Available, side.Available);
+  OnSelect(widgets.Selected, side.Selected);
   auto* const moves = new QVBoxLayout;
   moves->addStretch();
   moves->addWidget(ArrowButton(prefix + "AddTeam", QStyle::SP_ArrowRight, tr("Add the team"),

@@ -36,8 +36,7 @@ class LegEditorWindow final : public ScreenWindow {
   QLayout* BuildTeams(SideWidgets& widgets, EditorSide& side, const QString& prefix);
   QLayout* BuildFixtures(SideWidgets& widgets, EditorSide& side, const QString& prefix);
   QLayout* BuildFiles(SideWidgets& widgets, EditorSide& side, const QString& prefix);
-  void OnPick(QComboBox* combo, std::function<void(int)> action);
-  void OnPick(QListWidget* list, Chooser& chooser);
+  void OnSelect(QListWidget* list, Chooser& chooser);
   static void ShowSide(const SideWidgets& widgets, const EditorSide& side);
 
   LegEditor& editor_;

@@ -68,4 +68,9 @@ QPushButton* ScreenWindow::ArrowButton(const QString& name, QStyle::StandardPixm
   return button;
 }
 
+void ScreenWindow::OnPick(QComboBox* combo, std::function<void(int)> action) {
+  connect(combo, &QComboBox::activated, this,
+          [this, action = std::move(action)](int entry) { Act([&] { action(entry); }); });
+}
+
 }  // namespace kickwell

@@ -1,6 +1,7 @@
 // What every modal screen's window has in common.
 #pragma once
 
+#include <QComboBox>
 #include <QDialog>
 #include <QPushButton>
 #include <QStyle>
@@ -29,6 +30,9 @@ class ScreenWindow : public QDialog {
   /// The same with an arrow for its caption; `tip` says what it does.
   QPushButton* ArrowButton(const QString& name, QStyle::StandardPixmap arrow, const QString& tip,
                            std::function<void()> action);
+
+  /// Runs `action` with the entry that the user picks.
+  void OnPick(QComboBox* combo, std::function<void(int)> action);
 
   /// Where the screen's widgets are laid out.
   QWidget* Page() const { return page_; }

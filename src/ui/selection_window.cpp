@@ -98,10 +98,20 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
     slots_->addWidget(column.Combos[at], i, 0);
     slots_->addWidget(column.Posts[at], i, 1);
     slots_->addWidget(column.Skills[at], i, 2);
-    connect(column.Combos[at], &QComboBox::activated, this,
-            [this, pick, i](int entry) { Act([&] { (selection_.*pick)(i, entry); }); });
+    OnPick(column.Combos[at], [this, pick, i](int entry) { (selection_.*pick)(i, entry); });
   }
 
+  auto* const layout = new QVBoxLayout(box);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(10);
+  layout->addWidget(name);
+  layout->addLayout(slots_);
+  layout->addWidget(BuildFigures(column, side, team));
+  return box;
+}
+
+QWidget* SelectionWindow::BuildFigures(Column& column, int side, const QString& team) {
+  const QString number = QString::number(side);
   auto* const figures = new QGridLayout;
   figures->setHorizontalSpacing(10);
   figures->setVerticalSpacing(6);
@@ -121,14 +131,7 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   figuresBox->setAccessibleName(team);
   figuresBox->setFrameShape(QFrame::StyledPanel);
   figuresBox->setLayout(figures);
-
-  auto* const layout = new QVBoxLayout(box);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(10);
-  layout->addWidget(name);
-  layout->addLayout(slots_);
-  layout->addWidget(figuresBox);
-  return box;
+  return figuresBox;
 }
 
 bool SelectionWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -33,6 +33,7 @@ class SelectionWindow final : public ScreenWindow {
   using Pick = void (Selection::*)(int slot, int entry);
 
   QWidget* BuildSide(Column& column, int side, const QString& team, Pick pick);
+  QWidget* BuildFigures(Column& column, int side, const QString& team);
   static void ShowSide(const Column& column, const LineUp& lineUp);
 
   Selection& selection_;

@@ -32,19 +32,10 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
       combo5_(MakeCombo("Combo5")),
       check1_(new QCheckBox(tr("Extra Time (Golden Goal)"))),
       check2_(new QCheckBox(tr("Penalty Shoot Out"))) {
-  check1_->setObjectName("Check1");
-  check2_->setObjectName("Check2");
-  auto* const deciders = new QVBoxLayout;
-  deciders->setSpacing(4);
-  deciders->addWidget(MakeCaption(tr("Match Result Decider:"), check1_));
-  deciders->addWidget(check1_);
-  deciders->addWidget(check2_);
-  check1_->setAccessibleName(check1_->text());
-
-  QPushButton* const command1 = MakeButton("Command1", tr("&Continue >>"));
+  QPushButton* const command1 =
+      Button("Command1", tr("&Continue >>"), [this] { settings_.Command1_Click(); });
   command1->setDefault(true);
-  QPushButton* const command2 = MakeButton("Command2", tr("Close"));
-  command2->setAutoDefault(false);
+  QPushButton* const command2 = Button("Command2", tr("Close"), [this] { settings_.Command2_Click(); });
   auto* const buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(command1);
@@ -58,7 +49,7 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   grid->addLayout(Captioned(tr("Match Venue (Stadium/Ground):"), combo3_), 1, 0);
   grid->addLayout(Captioned(tr("Weather Condition:"), combo5_), 1, 1);
   grid->addLayout(Captioned(tr("Match Simulation Type:"), combo4_), 2, 0, Qt::AlignTop);
-  grid->addLayout(deciders, 2, 1);
+  grid->addLayout(BuildDeciders(), 2, 1);
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(1, 1);
 
@@ -74,21 +65,27 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
     setTabOrder(const_cast<QWidget*>(order[i - 1]), const_cast<QWidget*>(order[i]));
   }
 
-  const auto onPick = [this](QComboBox* combo, void (Settings::*action)(int)) {
-    connect(combo, &QComboBox::activated, this,
-            [this, action](int entry) { Act([&] { (settings_.*action)(entry); }); });
-  };
-  onPick(combo1_, &Settings::Combo1_Click);
-  onPick(combo2_, &Settings::Combo2_Click);
-  onPick(combo3_, &Settings::Combo3_Click);
-  onPick(combo4_, &Settings::Combo4_Click);
-  onPick(combo5_, &Settings::Combo5_Click);
-  connect(check1_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check1_Click(on); }); });
-  connect(check2_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check2_Click(on); }); });
-  connect(command1, &QPushButton::clicked, this, [this] { Act([this] { settings_.Command1_Click(); }); });
-  connect(command2, &QPushButton::clicked, this, [this] { Act([this] { settings_.Command2_Click(); }); });
+  OnPick(combo1_, [this](int entry) { settings_.Combo1_Click(entry); });
+  OnPick(combo2_, [this](int entry) { settings_.Combo2_Click(entry); });
+  OnPick(combo3_, [this](int entry) { settings_.Combo3_Click(entry); });
+  OnPick(combo4_, [this](int entry) { settings_.Combo4_Click(entry); });
+  OnPick(combo5_, [this](int entry) { settings_.Combo5_Click(entry); });
   Show();
   OpenAt(560, 0);
+}
+
+QLayout* SettingsWindow::BuildDeciders() {
+  check1_->setObjectName("Check1");
+  check2_->setObjectName("Check2");
+  auto* const deciders = new QVBoxLayout;
+  deciders->setSpacing(4);
+  deciders->addWidget(MakeCaption(tr("Match Result Decider:"), check1_));
+  deciders->addWidget(check1_);
+  deciders->addWidget(check2_);
+  check1_->setAccessibleName(check1_->text());
+  connect(check1_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check1_Click(on); }); });
+  connect(check2_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check2_Click(on); }); });
+  return deciders;
 }
 
 void SettingsWindow::Show() {

@@ -18,6 +18,8 @@ class SettingsWindow final : public ScreenWindow {
   void Leave() override { settings_.Command2_Click(); }
 
  private:
+  QLayout* BuildDeciders();
+
   Settings& settings_;
   QComboBox *combo1_, *combo2_, *combo3_, *combo4_, *combo5_;
   QCheckBox *check1_, *check2_;

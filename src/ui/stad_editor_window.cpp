@@ -44,8 +44,7 @@ StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
   list1_->setAccessibleName(tr("Stadiums"));
   connect(list1_, &QListWidget::itemSelectionChanged, this,
           [this] { Act([this] { editor_.List1_Click(SelectedRow(list1_)); }); });
-  connect(combo1_, &QComboBox::activated, this,
-          [this](int entry) { Act([&] { editor_.Combo1_Click(entry); }); });
+  OnPick(combo1_, [this](int entry) { editor_.Combo1_Click(entry); });
   auto* const instructions = new QGroupBox(tr("Instructions"));
   auto* const texts = new QVBoxLayout(instructions);
   texts->addWidget(Instruction("Label9", tr(Removing)));

@@ -57,8 +57,7 @@ TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
 
 QComboBox* TeamEditorWindow::Combo(const char* name, void (TeamEditor::*action)(int)) {
   QComboBox* const combo = MakeCombo(name);
-  connect(combo, &QComboBox::activated, this,
-          [this, action](int entry) { Act([&] { (editor_.*action)(entry); }); });
+  OnPick(combo, [this, action](int entry) { (editor_.*action)(entry); });
   return combo;
 }
 

@@ -46,9 +46,9 @@ TEST_F(SimulationTest, AMinuteWithEverythingInIt) {
       "The referee awards a freekick|U7 to take it|The freekick nicely taken there");
   EXPECT_EQ(Joined(session_.Summary.Entries), "00:02 >> R6 (Rovers)");
   EXPECT_EQ(Joined(recording_.Calls), "scorer R6 of Rovers");
-  EXPECT_EQ(Figures(session_), "Rovers 1/1/0/1/1 69%, United 0/1/1/0/0 31%");
+  EXPECT_EQ(Figures(session_), "Rovers 1 1 0 1 1 69%, United 0 1 1 0 0 31%");
   EXPECT_EQ(Shown(session_), "01:00, 2 at 960 740");  // No longer "GOAL!".
-  EXPECT_EQ(paused_, "GOAL! (green), 1 at 5090 390, Rovers 1/1/0/0/0 0%, United 0/0/0/0/0 0%");
+  EXPECT_EQ(paused_, "GOAL! (green), 1 at 5090 390, Rovers 1 1 0 0 0 0%, United 0 0 0 0 0 0%");
   EXPECT_EQ(desktop_.Told(), "* goal");
 }
 
@@ -56,7 +56,7 @@ TEST_F(SimulationTest, SideTwosGoalIsCelebratedAtItsOwnSpot) {
   const std::string rest = Times(59, "10:8 4000:7x2") + "5091:4079 741:0 70:34 3:0";
   EXPECT_EQ(Play("4:1 10:0 4000:9 4000:3 3:2 7:0 " + rest),
             "Great shot from a distance by U7|And its a GOAL!!|It's celebration time");
-  EXPECT_EQ(paused_, "GOAL! (green), 2 at 0 390, Rovers 0/0/0/0/0 0%, United 1/1/0/0/0 0%");
+  EXPECT_EQ(paused_, "GOAL! (green), 2 at 0 390, Rovers 0 0 0 0 0 0%, United 1 1 0 0 0 0%");
 }
 
 TEST_F(SimulationTest, AMatchThatIsLeftInAGoalPauseMakesNotOneDrawMore) {
@@ -66,8 +66,8 @@ TEST_F(SimulationTest, AMatchThatIsLeftInAGoalPauseMakesNotOneDrawMore) {
 }
 
 TEST_F(SimulationTest, ShotsAndFoulsDependOnTheSideWithTheBall) {
-  const std::string nothing = "Rovers 0/0/0/0/0 0%, United 0/0/0/0/0 0%";
-  const std::string shot1 = "Rovers 0/1/0/0/0 0%, United 0/0/0/0/0 0%";
+  const std::string nothing = "Rovers 0 0 0 0 0 0%, United 0 0 0 0 0 0%";
+  const std::string shot1 = "Rovers 0 1 0 0 0 0%, United 0 0 0 0 0 0%";
   struct Case {
     int Possession;
     const char *Draws, *Lines;
@@ -81,11 +81,11 @@ TEST_F(SimulationTest, ShotsAndFoulsDependOnTheSideWithTheBall) {
        "Here's the shot and...|The keeper comes up with a fine save|A nice kick taken by the keeper", shot1},
       {9, "5091:960 741:0 7:1 3:1 8:7 70:36 3:0",
        "A shot flies towards the target...|A powerful shot wide of target|And its a goal kick signalled",
-       "Rovers 0/0/0/0/0 0%, United 0/1/0/0/0 0%"},
+       "Rovers 0 0 0 0 0 0%, United 0 1 0 0 0 0%"},
       {0, "5091:2000 741:0 70:35 7:6 9:1 3:1 6:0 3:2",
        "U7 has been spotted by the referee|The referee awards a freekick|R1 to take it|"
        "The freekick nicely taken there",
-       "Rovers 0/0/0/0/0 0%, United 0/0/0/0/1 0%"},
+       "Rovers 0 0 0 0 0 0%, United 0 0 0 0 1 0%"},
       {8, "5091:4079 741:0 70:36 3:2", "", nothing},
       {1, "5091:100 741:0 70:34 3:2", "", nothing},  // Side 1 does not shoot at this end,
       {2, "5091:961 741:0 70:36 3:2", "", nothing},
@@ -108,7 +108,7 @@ TEST_F(SimulationTest, TheTeamsChangeEndsWithAllThatIsTheirs) {
   s.BallSide = 1;
   ScriptedRandom random("");
   Simulation(s, random, desktop_, recording_).SwapData();
-  EXPECT_EQ(Figures(s), "United 1/7/8/9/10 40%, Rovers 2/3/4/5/6 60%");
+  EXPECT_EQ(Figures(s), "United 1 7 8 9 10 40%, Rovers 2 3 4 5 6 60%");
   EXPECT_EQ(s.Side1.Outfield[0] + " " + std::to_string(s.Side1.GoalRange), "U1 4000");
   EXPECT_EQ(Shown(s), "00:00, 1 at 2520 390");  // Which label is lit does not change.
 }

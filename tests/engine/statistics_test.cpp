@@ -15,12 +15,6 @@ constexpr int Matches = 2000;  // The sanitizers look for other faults, at a ten
 constexpr int Matches = 20000;
 #endif
 
-/// The mean of `sum` over all matches lies within four standard errors of that of `tries` chances each.
-void ExpectMean(double sum, double tries, double chance, const char* what) {
-  const double error = std::sqrt(tries * chance * (1 - chance) / Matches);
-  EXPECT_NEAR(sum / Matches, tries * chance, 4 * error) << what;
-}
-
 /// Counts what each range of draws gave.
 class CountingRandom : public Random {
  public:
@@ -41,30 +35,31 @@ class CountingRandom : public Random {
 using Statistics = ScreenTest;
 
 TEST_F(Statistics, MatchesFollowTheDrawRules) {
+  constexpr const char* Names[] = {"instant goals", "goals", "shots", "corners", "fouls", "bookings"};
   CountingRandom random;
-  double instant[2] = {};  // Goals.
-  double sums[2][5] = {};  // Goals, shots without goals, corners, fouls and bookings of first halves.
+  double sums[2][6] = {};  // All but the first of first halves, and shots without goals.
   for (int i = 0; i < Matches; ++i) {
     Match quick({}, desktop_, random, recording_, MakeSetup());
     quick.instant_Click();
-    instant[0] += quick.Session().Side1.Goals;
-    instant[1] += quick.Session().Side2.Goals;
     Match match({}, desktop_, random, recording_, MakeFullSetup());
     match.halftime_Click();
     for (int minute = 0; minute < 45; ++minute) match.Timer1_Timer(screen_);
     for (const int n : {0, 1}) {
+      const Side& instant = n == 0 ? quick.Session().Side1 : quick.Session().Side2;
       const Side& side = n == 0 ? match.Session().Side1 : match.Session().Side2;
-      const int figures[] = {side.Goals, side.Shots - side.Goals, side.Corners, side.Fouls, side.Bookings};
-      for (int k = 0; k < 5; ++k) sums[n][k] += figures[k];
+      const int figures[] = {instant.Goals, side.Goals, side.Shots - side.Goals,
+                             side.Corners,  side.Fouls, side.Bookings};
+      for (int k = 0; k < 6; ++k) sums[n][k] += figures[k];
     }
   }
   const double goal = 1 / 4000.0 * (1 - 1 / 4000.0);  // One draw is the goal number, and the other is not.
   for (const int n : {0, 1}) {
     const double shot = 0.5 * (n == 0 ? 1011 : 961) / 5091;
-    const double chances[] = {shot, shot / 3, 0.5 / 70, 0.5 / 210};
-    ExpectMean(instant[n], 5340, goal, "goals of an instant result");
-    ExpectMean(sums[n][0], 2700, goal, "goals");
-    for (int k = 0; k < 4; ++k) ExpectMean(sums[n][k + 1], 45, chances[k], "shots, corners, fouls, bookings");
+    const double chances[] = {goal, goal, shot, shot / 3, 0.5 / 70, 0.5 / 210};
+    for (int k = 0; k < 6; ++k) {  // Within four standard errors of the mean of so many tries.
+      const double tries = k == 0 ? 89 * 60 : k == 1 ? 45 * 60 : 45, mean = tries * chances[k];
+      EXPECT_NEAR(sums[n][k] / Matches, mean, 4 * std::sqrt(mean * (1 - chances[k]) / Matches)) << Names[k];
+    }
   }
   for (const auto& [n, counts] : random.Counts) {
     double total = 0, chiSquare = 0;

@@ -7,8 +7,7 @@
 namespace kickwell {
 namespace {
 
-constexpr MatchMode Friendly = MatchMode::Friendly, League = MatchMode::League,
-                    KnockOut = MatchMode::KnockOut;
+using enum MatchMode;
 
 /// Seconds in which nobody scores.
 std::string Quiet(int seconds) {
@@ -20,7 +19,6 @@ constexpr int NormalTime = 89 * 60, ExtraTime = 29 * 60;  ///< Of an instant res
 using Instant = ScreenTest;
 
 TEST_F(Instant, PlaysEverySecondAndAnnouncesAndRecordsTheResult) {
-  const std::string tied = "|Result:|The match was tied at ";
   struct Case {
     MatchSetup Setup;
     std::string Draws, Summary, Recorded;
@@ -35,14 +33,14 @@ TEST_F(Instant, PlaysEverySecondAndAnnouncesAndRecordsTheResult) {
        "89:59 >> R5 (Rovers)||Result:|Rovers beats United 1-0",
        "scorer R5 of Rovers|standings Rovers 1-0 United|result Rovers"},
       {MakeSetup(League, true, true), "4000:3 4000:9 2:1 4000:9 4000:3 3:1 " + Quiet(NormalTime - 2),
-       "01:00 >> R6 (Rovers)|01:01 >> U6 (United)|" + tied + "1-1",
+       "01:00 >> R6 (Rovers)|01:01 >> U6 (United)||Result:|The match was tied at 1-1",
        "scorer R6 of Rovers|scorer U6 of United|standings Rovers 1-0 United|result Match Tied"},
       {MakeSetup(KnockOut), Quiet(NormalTime + 60) + "4000:9 4000:3 3:1",
        "92:00 >> U6 (United)|GOLDEN GOAL!||Result:|United beats Rovers 1-0",
        "scorer U6 of United|result United"},
       {MakeSetup(Friendly, false, true), Quiet(NormalTime) + Times(3, "2:1 6:5 2:0 7:0"),
-       "PENALTY SHOOT OUT!|R6 (Rovers)|R6 (Rovers)|R6 (Rovers)|" + tied +
-           "0-0|Rovers beats United 3-0 in PSO",
+       "PENALTY SHOOT OUT!|R6 (Rovers)|R6 (Rovers)|R6 (Rovers)||Result:|The match was tied at 0-0|"
+       "Rovers beats United 3-0 in PSO",
        ""},
   };
   for (const Case& c : cases) {

@@ -1,7 +1,6 @@
 #include "engine/recording.h"
 
-#include <tuple>
-
+#include "engine/announcement.h"
 #include "support/screen_test.h"
 
 namespace kickwell {
@@ -10,7 +9,7 @@ namespace {
 class RecordingTest : public ScreenTest {
  protected:
   /// A match of the championship "Cup" between Rovers (side 1 at its end) and United.
-  static MatchSession Ended(MatchMode mode, int goals1, int goals2, const char* result) {
+  static MatchSession Ended(MatchMode mode, int goals1, int goals2) {
     MatchSession s;
     s.Setup = MakeSetup(mode);
     s.Setup.ChampionshipName = "Cup";
@@ -19,10 +18,6 @@ class RecordingTest : public ScreenTest {
     s.Side2.Team = "United";
     s.Side1.Goals = s.Side1FinalGoals = goals1;
     s.Side2.Goals = s.Side2FinalGoals = goals2;
-    std::tie(s.WinnerGoals, s.WinnerName, s.LoserGoals, s.LoserName) =
-        goals2 > goals1 ? std::tuple(goals2, "United", goals1, "Rovers")
-                        : std::tuple(goals1, "Rovers", goals2, "United");
-    s.ResultText = result;
     s.Venue = "The Mill, Leat";
     s.Attendance = 500;
     s.AttendancePercent = 50;
@@ -31,7 +26,7 @@ class RecordingTest : public ScreenTest {
 
   /// The bytes of the scorers' file after a goal.
   std::string Scored(MatchMode mode, const char* player, const char* team) {
-    MatchSession s = Ended(mode, 1, 0, "");
+    MatchSession s = Ended(mode, 1, 0);
     s.LastScorer = player;
     s.LastScoringTeam = team;
     file_.StoreScorer(s);
@@ -46,8 +41,8 @@ class RecordingTest : public ScreenTest {
 
 TEST_F(RecordingTest, GoalsAddUpByPlayersNameAndFriendliesAreNotRecorded) {
   Scored(MatchMode::Friendly, "Ann", "Rovers");
-  file_.StoreResult(Ended(MatchMode::Friendly, 1, 0, "Rovers"));
-  file_.StoreLeagueResult(Ended(MatchMode::Friendly, 1, 0, "Rovers"));
+  file_.StoreResult(Ended(MatchMode::Friendly, 1, 0));
+  file_.StoreLeagueResult(Ended(MatchMode::Friendly, 1, 0));
   EXPECT_TRUE(std::filesystem::is_empty(folder_.Folder.Root));
   EXPECT_EQ(Scored(MatchMode::League, "Ann", "Rovers"), AsWritten("Ann\nRovers\n1\n"));
   Scored(MatchMode::League, "Bo", "United");
@@ -63,20 +58,17 @@ TEST_F(RecordingTest, LeagueMatchesUpdateStandingsResultsAndMarks) {
   const std::string head = "Cup\n3\nAlbion\nRovers\nUnited\n3\nNP\nRovers\nAlbion\n",
                     tail = "Rovers\nUnited\nNP\nAlbion\nUnited\n", noMatch = "Albion\n0\n0\n0\n0\n0\n0\n0\n";
   Write("Leagues/Cup.leg", head + "NP\n" + tail);
-  const auto play = [this](int goals1, int goals2, const char* result) {
-    const MatchSession s = Ended(MatchMode::League, goals1, goals2, result);
-    file_.StoreResult(s);
-    file_.StoreLeagueResult(s);
+  const auto play = [this](int goals1, int goals2) {
+    MatchSession s = Ended(MatchMode::League, goals1, goals2);
+    Announcement(s, random_, file_).ShowResult();
     return Bytes("Leagues/Cup.rec");
   };
-  EXPECT_EQ(play(3, 1, "Rovers"),
-            AsWritten(noMatch + "Rovers\n1\n1\n0\n0\n3\n1\n3\nUnited\n1\n0\n0\n1\n1\n3\n0\n"));
+  EXPECT_EQ(play(3, 1), AsWritten(noMatch + "Rovers\n1\n1\n0\n0\n3\n1\n3\nUnited\n1\n0\n0\n1\n1\n3\n0\n"));
   EXPECT_EQ(Bytes("Leagues/Cup.leg"), AsWritten(head + "P\n" + tail));
   const std::string first = "Match 1:\nRovers 3 vs United 1" + crowd_ + "Rovers\n";
   EXPECT_EQ(Bytes("Leagues/Cup.lrs"), AsWritten(first));
-  play(2, 2, "Match Tied");
-  EXPECT_EQ(play(0, 1, "United"),
-            AsWritten(noMatch + "Rovers\n3\n1\n1\n1\n5\n4\n4\nUnited\n3\n1\n1\n1\n4\n5\n4\n"));
+  play(2, 2);
+  EXPECT_EQ(play(0, 1), AsWritten(noMatch + "Rovers\n3\n1\n1\n1\n5\n4\n4\nUnited\n3\n1\n1\n1\n4\n5\n4\n"));
   EXPECT_EQ(Bytes("Leagues/Cup.lrs"),
             AsWritten(first + "\nMatch 1:\nRovers 2 vs United 2" + crowd_ +
                       "Match Tied\n\nMatch 1:\nRovers 0 vs United 1" + crowd_ + "United\n"));
@@ -88,21 +80,23 @@ TEST_F(RecordingTest, AKnockOutWinnerMovesOnToWhereHisNumberWaitsAndAShootOutIsT
   Write("Tournies/Cup.trn", head +
                                 "NP\nRovers (By Toss)\nUnited\nWinner 1\nNP\nX\nWinner 4\nWinner 2\n"
                                 "NP\nWinner 1\nY\nWinner 3\n");
-  MatchSession s = Ended(MatchMode::KnockOut, 1, 1, "United (By Toss)");
+  MatchSession s = Ended(MatchMode::KnockOut, 1, 1);
+  s.Setup.MatchNumber = 4;
+  s.ResultText = "United (By Toss)";
   s.DecidedByShootOut = true;
   s.Side1Penalties = s.Side2Penalties = 10;
   file_.StoreResult(s);  // There is no table.
   file_.StoreLeagueResult(s);
-  s.Setup.MatchNumber = 4;
-  s.Side1Penalties = 9;
+  s.Setup.MatchNumber = 1;
   s.ResultText = "United";
+  s.Side1Penalties = 9;
   file_.StoreLeagueResult(s);
   EXPECT_EQ(Bytes("Tournies/Cup.trn"),
-            AsWritten(head + "P\nRovers (By Toss)\nUnited\nUnited\nNP\nX\nUnited\nWinner 2\n"
-                             "NP\nUnited (By Toss)\nY\nWinner 3\n"));
-  EXPECT_EQ(Bytes("Tournies/Cup.lrs"), AsWritten("Match 1:\nRovers 1(10) vs United 1(10)" + crowd_ +
+            AsWritten(head + "P\nRovers (By Toss)\nUnited\nUnited\nNP\nX\nUnited (By Toss)\nWinner 2\n"
+                             "NP\nUnited\nY\nWinner 3\n"));
+  EXPECT_EQ(Bytes("Tournies/Cup.lrs"), AsWritten("Match 4:\nRovers 1(10) vs United 1(10)" + crowd_ +
                                                  "United (By Toss)\n\n"
-                                                 "Match 4:\nRovers 1(9) vs United 1(10)" +
+                                                 "Match 1:\nRovers 1(9) vs United 1(10)" +
                                                  crowd_ + "United\n"));
   EXPECT_FALSE(Exists("Tournies/Cup.rec"));
   EXPECT_EQ(Joined(selected_), "Cup.trn|Cup.trn");

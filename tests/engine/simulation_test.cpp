@@ -173,31 +173,30 @@ TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
 }
 
 TEST_F(ClockTest, AMatchEndsWhenItIsDecided) {
-  const std::string tied = "||Result:|The match was tied at 0-0", golden = "|GOLDEN GOAL!||Result:|";
+  const std::string tied = "|Result:|The match was tied at 0-0", golden = "|GOLDEN GOAL!||Result:|";
   struct Case {
-    bool ExtraTime, ShootOut;
     std::size_t Second;  ///< Side 2 scores in that second.
     int Minutes;         ///< So many are played.
+    bool ExtraTime, ShootOut;
     std::string Period, Summary;
   };
   const Case cases[] = {
-      {false, true, 0, 90, "&Normal Time 2nd", "90:00" + tied},
-      {true, false, 0, 120, "&Extra Time 2nd", "120:00" + tied},
-      {true, true, 5400, 90, "&Normal Time 2nd",
-       "90:00|90:00 >> R5 (Rovers)||Result:|Rovers beats United 1-0"},
+      {0, 90, false, true, "&Normal Time 2nd", tied},
+      {0, 120, true, false, "&Extra Time 2nd", tied},
+      {5400, 90, true, true, "&Normal Time 2nd", "90:00 >> R5 (Rovers)||Result:|Rovers beats United 1-0"},
       // Golden goals: not a second more is played, but the minute's other draws are made.
-      {true, true, 5401, 91, "&Extra Time 1st",
-       "90:01|90:01 >> U5 (United)" + golden + "United beats Rovers 1-0"},
-      {true, true, 6300, 105, "&Extra Time 1st",
-       "105:00|105:00 >> U5 (United)" + golden + "United beats Rovers 1-0"},
-      {true, false, 7200, 120, "&Extra Time 2nd",
-       "120:00|120:00 >> R5 (Rovers)" + golden + "Rovers beats United 1-0"},
+      {5401, 91, true, true, "&Extra Time 1st", "90:01 >> U5 (United)" + golden + "United beats Rovers 1-0"},
+      {6300, 105, true, true, "&Extra Time 1st",
+       "105:00 >> U5 (United)" + golden + "United beats Rovers 1-0"},
+      {7200, 120, true, false, "&Extra Time 2nd",
+       "120:00 >> R5 (Rovers)" + golden + "Rovers beats United 1-0"},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.Summary);
     Open(c.ExtraTime, c.ShootOut, c.Second, "2");
     for (const int minutes : {45, 45, 15, 15, 1}) Play(minutes);
-    EXPECT_EQ(S().ClockText + "|" + Joined(S().Summary.Entries), c.Summary);
+    EXPECT_EQ(Joined(S().Summary.Entries), c.Summary);
+    EXPECT_TRUE(c.Second == 0 || c.Summary.starts_with(S().ClockText)) << S().ClockText;
     const std::string ends = c.Period == "&Extra Time 1st" ? "Rovers-United" : "United-Rovers";
     EXPECT_EQ(State(), c.Period + " Half (off), , 0 at 2520 390, " + ends);
     EXPECT_EQ(random_.Minutes, c.Minutes);

@@ -39,8 +39,7 @@ class FakeDesktop : public Desktop {
   }
   void LoadSounds() override { Messages.emplace_back("* loaded"); }
   void PlaySound(Sound sound) override {
-    constexpr const char* Names[] = {"* whistle", "* goal", "* boo"};
-    Messages.emplace_back(Names[static_cast<std::size_t>(sound)]);
+    Messages.emplace_back(sound == Sound::Whistle ? "* whistle" : sound == Sound::Goal ? "* goal" : "* boo");
   }
 
   /// The messages and sounds since the last call.

@@ -32,17 +32,14 @@ inline MatchSetup MakeFullSetup(bool extraTime = false, bool shootOut = false) {
   return setup;
 }
 
-/// Of each side: team, goals/shots/corners/bookings/fouls, and possession.
+/// Of each side: team, goals, shots, corners, bookings, fouls and possession.
 inline std::string Figures(const MatchSession& s) {
   std::string text;
-  for (const Side* side : {&s.Side1, &s.Side2}) {
-    text += (side == &s.Side1 ? "" : ", ") + side->Team;
-    char sign = ' ';
-    for (const int figure : {side->Goals, side->Shots, side->Corners, side->Bookings, side->Fouls}) {
-      text += sign + std::to_string(figure);
-      sign = '/';
-    }
-    text += " " + std::to_string(side->PossessionPercent) + "%";
+  for (const Side& side : {s.Side1, s.Side2}) {
+    text += (text.empty() ? "" : ", ") + side.Team;
+    for (const int figure : {side.Goals, side.Shots, side.Corners, side.Bookings, side.Fouls})
+      text += " " + std::to_string(figure);
+    text += " " + std::to_string(side.PossessionPercent) + "%";
   }
   return text;
 }

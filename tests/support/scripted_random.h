@@ -23,31 +23,26 @@ inline std::string Times(int count, const std::string& draws) {
 /// times. The test fails when a draw has another range, is one too many, or is left over.
 class ScriptedRandom : public Random {
  public:
-  explicit ScriptedRandom(const std::string& script) {
-    std::istringstream words(script);
-    char sign = 0;
-    for (Draw draw; words >> draw.N >> sign >> draw.Value; script_.push_back(draw)) {
-      draw.Times = 1;
-      if (words.peek() == 'x') words >> sign >> draw.Times;
-    }
+  explicit ScriptedRandom(const std::string& script) : script_(script) {}
+  ~ScriptedRandom() override {
+    std::string next;
+    EXPECT_FALSE(times_ > 0 || script_ >> next) << "draws are left over: " << next;
   }
-  ~ScriptedRandom() override { EXPECT_TRUE(script_.empty()) << "next: Int(" << script_.front().N << ")"; }
 
   int Int(int n) override {
-    if (script_.empty()) throw std::out_of_range("unexpected Int(" + std::to_string(n) + ")");
-    const Draw draw = script_.front();
+    char sign = 0;
+    if (times_ == 0 && script_ >> range_ >> sign >> value_) times_ = 1;
+    if (times_ == 0) throw std::out_of_range("unexpected Int(" + std::to_string(n) + ")");
+    if (script_.peek() == 'x') script_ >> sign >> times_;
+    EXPECT_EQ(n, range_) << "draw " << made_;
     ++made_;
-    EXPECT_EQ(n, draw.N) << "draw " << made_;
-    if (--script_.front().Times == 0) script_.pop_front();
-    return draw.Value;
+    --times_;
+    return value_;
   }
 
  private:
-  struct Draw {
-    int N = 0, Value = 0, Times = 1;
-  };
-  std::deque<Draw> script_;
-  int made_ = 0;
+  std::istringstream script_;
+  int range_ = 0, value_ = 0, times_ = 0, made_ = 0;
 };
 
 /// Draws of matches between sides of strength 80 in which side 1 has the ball in midfield and nothing happens

@@ -139,7 +139,7 @@ TEST_F(EditorsTest, WithoutAFileNothingIsChosenAndWhatCannotBeSavedIsNotShown) {
        {AddPlayer(editor, "Ann", "5"), AddTeam(editor, "New", "5"), AddStadium(stadiums, "Park", "5")})
     EXPECT_NE(told.find("!: The file "), std::string::npos) << told;
   EXPECT_EQ(Shown(editor) + std::to_string(editor.Combo3.Count()), "A|75|11|A0|80|GK|New|5|Ann|52");
-  EXPECT_EQ(Joined(stadiums.List1.Entries) + stadiums.Text1, "MillPark");
+  EXPECT_EQ(Joined(stadiums.List1.Entries) + stadiums.Label8() + stadiums.Text1, "Mill1Park");
 }
 
 TEST_F(EditorsTest, StadiumsAreAddedAndRemovedDownToOne) {

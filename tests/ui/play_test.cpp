@@ -5,6 +5,7 @@
 #include <QtTest/QTest>
 
 #include "data/championship_store.h"
+#include "data/file_names.h"
 #include "support/screen_test.h"
 #include "ui/app.h"
 #include "ui/qt_desktop.h"
@@ -28,30 +29,32 @@ class PlayTest : public ScreenTest {
  protected:
   PlayTest() {
     AddTeams(folder_, {"Albion", "Borough", "City"});
-    SaveStadiums(folder_.Folder, {{"Albion", "Mill", "Leat", "1000"}, {"Neutral", "Bowl", "Oss", "500"}})
-        .Ok();
+    Write("stadiums.sim", "2\nAlbion\nMill\nLeat\n1000\nNeutral\nBowl\nOss\n500\n");
   }
 
   void Choose(Qt::Key menu, Qt::Key item) {
     user_.In("Opening", [=](QWidget& window) { User::Choose(window, menu, item); });
   }
 
-  /// Does in a window one after the other: "BUTTON" is clicked, "COMBO#2" picked, "BOX<TEXT" typed, "BOX!"
-  /// entered, and what the controls in "LABEL LABEL=TEXT|TEXT" show is waited for.
+  /// Does in a window one after the other: "BUTTON" is clicked, "COMBO#2" picked, "BOX<TEXT" typed, and what
+  /// the controls in "LABEL LABEL=TEXT|TEXT" show is waited for.
   void Do(const char* window, const QStringList& steps) {
     user_.In(window, [this, steps](QWidget& screen) {
       for (const QString& step : steps) {
-        const QString name = step.section(QRegularExpression("[#<!=]"), 0, 0);
+        const QString name = step.section(QRegularExpression("[#<=]"), 0, 0);
         const QString sign = step.mid(name.size(), 1), text = step.mid(name.size() + 1);
-        auto* const box = screen.findChild<QLineEdit*>(name);
         if (sign.isEmpty()) User::Click(screen, name);
         if (sign == "#") User::Pick(screen, name, text.toInt());
-        if (sign == "<") box->selectAll();
-        if (sign == "<") QTest::keyClicks(box, text);
-        if (sign == "!") QTest::keyClick(box, Qt::Key_Return);
+        if (sign == "<") Type(*screen.findChild<QLineEdit*>(name), text);
         if (sign == "=") See(screen, name.split(' '), text);
       }
     });
+  }
+
+  static void Type(QLineEdit& box, const QString& text) {
+    box.setFocus();
+    box.selectAll();
+    QTest::keyClicks(&box, text);
   }
 
   void See(QWidget& screen, const QStringList& names, const QString& text) {
@@ -65,22 +68,24 @@ class PlayTest : public ScreenTest {
     EXPECT_EQ(shown.toStdString(), text.toStdString());
   }
 
-  void Press(const char* window, std::initializer_list<Qt::Key> keys, Qt::KeyboardModifiers modifiers = {}) {
-    user_.In(window, [=, list = std::vector(keys)](QWidget& screen) {
-      for (const Qt::Key key : list) User::Press(screen, key, modifiers);
+  void Press(const char* window, const std::vector<Qt::Key>& keys, Qt::KeyboardModifiers modifiers = {}) {
+    user_.In(window, [=](QWidget& screen) {
+      for (const Qt::Key key : keys) User::Press(screen, key, modifiers);
     });
   }
 
   /// From the selection, whose squads come when it has been drawn, to the match and out of it.
-  void PlayInstant(const QString& teams) {
-    Do("Selection", {"Team1 Team2 Sk1(0)=" + teams + "|80", "Command1"});
-    Do("Main", {"instant", "Command1"});
+  void PlayInstant(std::initializer_list<const char*> matches) {
+    for (const QString teams : matches) {
+      Do("Selection", {"Team1 Team2 Sk1(0)=" + teams + "|80", "Command1"});
+      Do("Main", {"instant", "Command1"});
+    }
   }
 
   /// Goes through all steps in a program of their own.
-  void Run(Desktop& desktop, MatchTimings timings = {}) {
+  void Run(Desktop& desktop) {
     Choose(Qt::Key_P, Qt::Key_X);
-    App app(folder_.Folder, desktop, random_, timings);
+    App app(folder_.Folder, desktop, random_, {1, 1});
     app.Start();
     ASSERT_TRUE(user_.Finish());
     for (const QWidget* const window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
@@ -91,20 +96,27 @@ class PlayTest : public ScreenTest {
 
 TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
   Choose(Qt::Key_P, Qt::Key_S);
-  // Own team: Borough, so the opposition moves on to City. Venue: Bowl. Extra time, then the shoot-out.
-  Press("Settings", {Qt::Key_Down, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Tab, Qt::Key_Tab,
-                     Qt::Key_Tab, Qt::Key_Space, Qt::Key_Tab, Qt::Key_Space, Qt::Key_Return});
+  // Borough, so that the opposition moves on to City; at Bowl; a full simulation; extra time and shoot-out.
+  constexpr Qt::Key Down = Qt::Key_Down, Tab = Qt::Key_Tab, Space = Qt::Key_Space;
+  Press("Settings", {Down, Tab, Tab, Down, Tab, Tab, Down, Tab, Space, Tab, Space, Qt::Key_Return});
   Do("Selection", {"Team1 Team2 Combo2(10) Post2(10) Sk2(10)=Borough|City|City10|FDR|80",
                    "Formation1 Skill1 OSkill1 Label11 Label12 Label13 Label14=4-4-2|80|75%|80|80|80|80"});
   Press("Selection", {Qt::Key_C}, Qt::AltModifier);
-  Press("Main", {Qt::Key_V}, Qt::AltModifier);
-  const QString summary = "PENALTY SHOOT OUT!||Result:|The match was tied at 0-0|PSO was tied at 0-0";
-  Do("Main", {"List1(1)=" + summary, "t1 Inn1 Pen1 t2 Inn2 Pen2=Borough|0|(0)|City|0|(0)",
-              "ven Label1=Bowl, Oss|Total Attendence: 250 (50%)", "ComSave"});
+  for (const char* period : {"&Normal Time 1st Half", "&Normal Time 2nd Half", "&Extra Time 1st Half",
+                             "&Extra Time 2nd Half", "&Penalty Shoot Out"}) {
+    Do("Main", {QString("halftime=") + period});
+    Press("Main", {Qt::Key_Return});
+  }
+  Do("Main", {"Label4 Label7=City|Borough"});
+  Press("Main", std::vector(20 + 19, Qt::Key_Return));  // All kicks, and between them the next player.
+  Press("Main", {Qt::Key_M}, Qt::AltModifier);
+  Do("Main",
+     {"t1 Inn1 Pen1 t2 Inn2 Pen2 ven Label1=City|0|(0)|Borough|0|(0)|Bowl, Oss|Total Attendence: 250 (50%)",
+      "ComSave"});
   user_.In("SaveDialog", [this](QWidget& window) {
     auto* const name = window.findChild<QLineEdit*>();
-    EXPECT_EQ(name->text(), "Borough_City_Summary");
-    name->setText(QString::fromStdString((folder_ / "page").string()));
+    EXPECT_EQ(name->text(), "City_Borough_Summary");
+    Type(*name, QString::fromStdString((folder_ / "page").string()));
     QTest::keyClick(name, Qt::Key_Return);
   });
   Press("Main", {Qt::Key_Escape});
@@ -129,31 +141,26 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   Do("Main", {"halftime", "halftime Label3=&Normal Time 2nd Half|45:00", "halftime", "Label3=",
               "t1 Inn1 t2 Inn2 ven=Borough|1|Albion|2|Mill, Leat", "Command1"});  // The ends were changed.
   Do("LegSettings", {"From#1", "To#2", "SimulationType#0", "Command1"});
-  PlayInstant("Borough|Albion");
-  PlayInstant("Albion|City");
+  PlayInstant({"Borough|Albion", "Albion|City"});
   Do("LegSettings", {"Command2"});
-  Run(desktop_, {1, 1});
+  Run(desktop_);
   Choose(Qt::Key_P, Qt::Key_L);
   Do("LegSettings", {"From#3", "To#5", "Command1"});
-  for (const char* teams : {"City|Albion", "Borough|City", "City|Borough"}) PlayInstant(teams);
+  PlayInstant({"City|Albion", "Borough|City", "City|Borough"});
   Do("LegSettings", {"Command2"});
   Choose(Qt::Key_S, Qt::Key_L);
   const QString row = "Pos(%1) Team(%1) Played(%1) Won(%1) Tied(%1) Lost(%1) GF(%1) GA(%1) Points(%1)=";
-  Do("Table",
-     {row.arg(1) + "1|City|4|2|1|1|3|4|7", row.arg(2) + "2|Borough|4|1|2|1|5|3|5",
-      row.arg(3) + "3|Albion|4|1|1|2|2|3|4", row.arg(4) + "||||||||", "Label1=Test Standings", "Command1"});
+  Do("Table", {row.arg(1) + "1|City|4|2|1|1|3|4|7", row.arg(3) + "3|Albion|4|1|1|2|2|3|4",
+               row.arg(4) + "||||||||", "Label1=Test Standings", "Command1"});
   Choose(Qt::Key_S, Qt::Key_T);
-  Do("TopScorers", {"Rank(1) Player(1) Team(1) Goals(1)=1|Borough5|Borough|5",
-                    "Rank(3) Player(3) Team(3) Goals(3)=3|Albion5|Albion|2", "Command3"});
+  Do("TopScorers", {"Rank(3) Player(3) Team(3) Goals(3)=3|Albion5|Albion|2", "Command3"});
   Choose(Qt::Key_S, Qt::Key_M);
-  const QString bowl = "Venue: Bowl, Oss|Total Attendence: 250 (50%)|Winner: ";
-  const QString mill = "Venue: Mill, Leat|Total Attendence: 500 (50%)|Winner: ";
-  Do("LegResults",
-     {"List1=Match 1:|Borough 1 vs Albion 2|" + mill + "Albion||Match 2:|Borough 0 vs Albion 0|" + mill +
-          "Match Tied||Match 3:|Albion 0 vs City 1|" + mill + "City||Match 4:|City 1 vs Albion 0|" + mill +
-          "City||Match 5:|Borough 1 vs City 1|" + mill + "Match Tied||Match 6:|City 0 vs Borough 3|" + mill +
-          "Borough",
-      "Command1"});
+  const QString mill = "|Venue: Mill, Leat|Total Attendence: 500 (50%)|Winner: ";
+  Do("LegResults", {"List1=Match 1:|Borough 1 vs Albion 2" + mill + "Albion||Match 2:|Borough 0 vs Albion 0" +
+                        mill + "Match Tied||Match 3:|Albion 0 vs City 1" + mill +
+                        "City||Match 4:|City 1 vs Albion 0" + mill + "City||Match 5:|Borough 1 vs City 1" +
+                        mill + "Match Tied||Match 6:|City 0 vs Borough 3" + mill + "Borough",
+                    "Command1"});
   Run(desktop_);
   EXPECT_EQ(Bytes("Leagues/Test.leg").find(AsWritten("\nNP").substr(2)), std::string::npos);
 }
@@ -161,6 +168,8 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
 TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
   AddTeams(folder_, {"Dynamo"});
   std::filesystem::remove(folder_ / "stadiums.sim");  // Played without any crowd.
+  Choose(Qt::Key_H, Qt::Key_C);
+  Choose(Qt::Key_H, Qt::Key_H);
   Choose(Qt::Key_P, Qt::Key_S);
   Press("Settings", {Qt::Key_Escape});
   Choose(Qt::Key_E, Qt::Key_C);
@@ -169,24 +178,25 @@ TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
   Choose(Qt::Key_P, Qt::Key_K);
   Do("KnockSettings", {"To#2", "Command1"});
   random_.Later = {"2", "", "1"};
-  for (const char* teams : {"Albion|City", "Borough|Dynamo", "City|Borough"}) PlayInstant(teams);
+  PlayInstant({"Albion|City", "Borough|Dynamo", "City|Borough"});
   Do("KnockSettings", {"Command2"});
   Choose(Qt::Key_S, Qt::Key_K);
   Do("KnockCharts", {"team(0) team(1) team(2) team(3) team(4) team(5) team(6) team(7)="
                      "Albion|City|City|Borough|Dynamo|Borough (By Toss)|City|",
                      "Command3"});
-  Choose(Qt::Key_S, Qt::Key_T);
-  Do("TopScorers", {"Rank(1) Player(1) Team(1) Goals(1)=1|City5|City|2", "Command3"});
   Run(desktop_);
   EXPECT_EQ(ReadResults(folder_.Folder, ChampionshipKind::KnockOut, "Cup")[7], "Borough 0(0) vs Dynamo 0(0)");
+  EXPECT_TRUE(
+      desktop_.Told().starts_with("i: Read the file 'Help.htm' in your Kickwell folder for help.|"
+                                  "i: Read the file 'History.txt' in your Kickwell folder for history.|"));
 }
 
 TEST_F(PlayTest, AClubIsBuiltFromNothingAndPlaysInItsStadium) {
   Write("Leagues/Test.leg", "Test\n2\nNewcomers\nAlbion\n1\nNP\nNewcomers\nAlbion\n");
   Choose(Qt::Key_E, Qt::Key_T);
-  Do("TeamEditor",
-     {"Text1<Newcomers and more", "Text5<777", "Text1 Text5=Newcomers and mo|77"});  // 16 characters.
-  Do("TeamEditor", {"Text1<Newcomers", "Command7", "Combo3=Newcomers"});
+  Do("TeamEditor", {"Text1<Newcomers and more", "Text1=Newcomers and mo", "Text1<Newcomers", "Text5<777"});
+  Press("TeamEditor", {Qt::Key_Return});  // Adds the team, too.
+  Do("TeamEditor", {"Combo3 Label13=Newcomers|77"});
   for (int i = 0; i < 11; ++i) {  // The keeper comes last,
     const QString line = "Combo1#" + QString::number(i == 10 ? 3 : i % 3);
     Do("TeamEditor", {"Text2<N" + QString::number(i), "Text4<80", line, "Command8"});
@@ -201,12 +211,20 @@ TEST_F(PlayTest, AClubIsBuiltFromNothingAndPlaysInItsStadium) {
   Do("Selection", {"Sk1(0)=80", "Command1"});
   Do("Main", {"ven=Newcomers Field, Newtown", "instant", "Command1"});
   Do("LegSettings", {"Command2"});
-  Choose(Qt::Key_E, Qt::Key_T);
-  Do("TeamEditor", {"Text1<Third", "Text5<50", "Text5!", "Combo3=Third", "Command4"});  // Enter adds, too.
-  Choose(Qt::Key_S, Qt::Key_L);
-  Do("Table", {"Team(2) Team(3)=Albion|", "Command1"});  // The league's table shows its own teams,
   Run(desktop_);
-  EXPECT_EQ(ReadLines(folder_ / "Leagues/Test.rec")->size(), 24U);  // but its file has taken the new one in.
+}
+
+TEST_F(PlayTest, AStartFinishesWhatACrashInterruptedAndTellsOfAJournalWithoutSense) {
+  Write("Leagues/Top.rec", "old");
+  Write("~kickwell-4999999-1.tmp", "new");
+  Write("~kickwell-4999999-0.tmp", "left over");
+  Write("unfinished.journal", "Kickwell journal 1\n~kickwell-4999999-1.tmp\nLeagues/Top.rec\nEnd\n");
+  Run(desktop_);
+  EXPECT_EQ(Bytes("Leagues/Top.rec") + desktop_.Told(), "new");
+  EXPECT_EQ(Joined(ListFiles(folder_.Folder.Root)), "stadiums.sim");
+  Write("unfinished.journal", "Leagues/Top.rec");
+  Run(desktop_);
+  EXPECT_EQ(desktop_.Taken().size(), 1U);
 }
 
 }  // namespace

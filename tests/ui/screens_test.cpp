@@ -1,0 +1,241 @@
+// What holds on every screen: for keyboards and screen readers, and for names that are made to break it.
+#include <QAccessible>
+#include <QApplication>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QRadioButton>
+#include <QScreen>
+#include <QToolTip>
+#include <map>
+#include <set>
+
+#include "support/screen_test.h"
+#include "tour.h"
+#include "ui/qt_desktop.h"
+#include "ui/text_label.h"
+#include "ui/widgets.h"
+
+namespace kickwell {
+namespace {
+
+class ScreensTest : public ScreenTest {
+ protected:
+  /// A stadium, a league and a knock-out of two teams, with results.
+  void AddChampionships(const std::string& name, const std::string& home, const std::string& away) const {
+    const std::string line = home + "\n", teams = line + away + "\n";
+    Write("stadiums.sim", "1\nNeutral\n" + line + line + "500\n");
+    Write("Leagues/" + name + ".leg", name + "\n2\n" + teams + "2\nNP\n" + teams + "P\n" + teams);
+    Write("Tournies/" + name + ".trn", "1\n" + name + "\n2\n" + teams + "NP\n" + teams + "Winner 1\n");
+    for (const std::string& place : {"Leagues/" + name, "Tournies/" + name}) {
+      Write(place + ".sco", line + line + "99999\n");
+      Write(place + ".lrs", line + line + line + "5\n" + line);
+    }
+  }
+};
+
+/// The window's widgets that its user sees, but for those that Qt makes inside another one.
+std::vector<QWidget*> Seen(QWidget& window) {
+  std::vector<QWidget*> seen;
+  for (QWidget* const widget : window.findChildren<QWidget*>()) {
+    const bool inner = widget->objectName().startsWith("qt_") || widget->window() != &window ||
+                       qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr;
+    if (widget->isVisible() && !inner) seen.push_back(widget);
+  }
+  return seen;
+}
+
+/// What Tab stops at; of a ranking that is the marked row.
+bool IsControl(const QWidget* widget) {
+  static const QStringList pictures{"Picture1", "Picture2", "Marker(1)"};
+  return widget->focusPolicy() != Qt::NoFocus || widget->inherits("QAbstractButton") ||
+         pictures.contains(widget->objectName());
+}
+
+auto Letters(const QString& text) {
+  return std::count_if(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
+}
+
+bool IsWordless(const QString& name) {
+  return Letters(name) < 3 || name.contains('<') || name.contains('>') || name.contains('&');
+}
+
+/// What a screen reader says a widget is; of a chooser it says what is picked, too.
+QString NameOf(QAccessibleInterface& face) {
+  if (face.role() != QAccessible::ComboBox) return face.text(QAccessible::Name);
+  const auto captions = face.relations(QAccessible::Label);
+  return captions.empty() ? face.text(QAccessible::Description) : captions[0].first->text(QAccessible::Name);
+}
+
+/// Controls, figures and pictures tell what they are, and what they show.
+void ExpectNames(QWidget& window) {
+  for (QWidget* const widget : Seen(window)) {
+    const auto* const label = qobject_cast<QLabel*>(widget);
+    const bool decoration = widget->inherits("QSizeGrip") || widget->inherits("QScrollBar") ||
+                            widget->metaObject() == &QFrame::staticMetaObject;
+    const bool leaf = widget->findChildren<QWidget*>().isEmpty() && !decoration;
+    if (!IsControl(widget) && (!leaf || (label != nullptr && label->text().isEmpty()))) continue;
+    SCOPED_TRACE(widget->objectName().toStdString());
+    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_NE(face, nullptr);
+    const QString name = NameOf(*face);
+    EXPECT_TRUE(face->role() != QAccessible::Client && face->role() != QAccessible::NoRole);
+    EXPECT_FALSE(face->text(QAccessible::Description).contains("<qt>"));
+    EXPECT_FALSE(IsWordless(name)) << name.toStdString();
+    const bool figure = label != nullptr && Letters(label->text()) == 0;
+    EXPECT_TRUE(!figure || name.contains(label->text())) << name.toStdString();
+  }
+}
+
+/// Tab stops at every control once, at nothing else, and goes down or to the right.
+void ExpectTabOrder(QWidget& window) {
+  std::set<std::string> controls, stops;
+  for (QWidget* const widget : Seen(window)) {
+    const auto* const radio = qobject_cast<QRadioButton*>(widget);  // Arrow keys reach the others.
+    if (IsControl(widget) && widget->isEnabled() && (radio == nullptr || radio->isChecked()))
+      controls.insert(widget->objectName().toStdString());
+  }
+  const QWidget* const first = window.focusWidget();
+  ASSERT_NE(first, nullptr);
+  const std::string opened = first->property("text").toString().remove('&').toStdString();
+  EXPECT_TRUE(opened.find("Delete") == opened.npos && opened.find("Exit") == opened.npos) << opened;
+  const auto place = [&window] {
+    const QWidget* const widget = window.focusWidget();
+    return QRect(widget->mapTo(&window, QPoint()), widget->size());
+  };
+  int backward = 0;
+  while (stops.insert(window.focusWidget()->objectName().toStdString()).second) {
+    const QRect from = place();
+    User::Press(window, Qt::Key_Tab);
+    const QRect to = place();
+    const bool back = to.bottom() < from.top() && to.left() < from.right();
+    const bool left = std::abs(to.center().y() - from.center().y()) < 5 && to.left() < from.left();
+    backward += back || left ? 1 : 0;
+    EXPECT_LE(backward, 1) << window.focusWidget()->objectName().toStdString();
+  }
+  EXPECT_EQ(window.focusWidget(), first);
+  EXPECT_EQ(stops, controls);
+}
+
+/// The menu of statistics with what it offers; nothing where it is dark.
+std::string ExpectMenu(const QMenuBar& bar) {
+  QString offers;
+  for (const QAction* const menu : bar.actions()) {
+    EXPECT_FALSE(IsWordless(menu->text().remove('&')));
+    for (const QAction* const item : menu->menu()->actions()) {
+      EXPECT_TRUE(item->isSeparator() || !IsWordless(item->text().remove('&')));
+      EXPECT_TRUE(item->isSeparator() || item->text().count('&') == 1);
+      if (menu->text() == "&Statistics" && menu->isEnabled() && item->isVisible())
+        offers += item->text() + " ";
+    }
+  }
+  return offers.toStdString();
+}
+
+TEST_F(ScreensTest, AreToldAndWalked) {
+  AddTeams(folder_, {"Rovers", "United"});
+  AddChampionships("Test", "Rovers", "United");
+  std::set<QString> screens;
+  std::string row, state;
+  Texts menus;
+  Tour tour(folder_.Folder, desktop_, [&](QWidget& window) {
+    SCOPED_TRACE(window.objectName().toStdString());
+    screens.insert(window.objectName());
+    ExpectNames(window);
+    if (const auto* const bar = window.findChild<QMenuBar*>())
+      menus.push_back(User::TextOf(window, "league").toStdString() + " " + ExpectMenu(*bar));
+    else
+      ExpectTabOrder(window);
+    if (window.objectName() == "Table")
+      row = window.findChild<QWidget*>("Marker(1)")->accessibleName().toStdString();
+    if (const auto* const pitch = window.findChild<QWidget*>("Picture2"))
+      state = pitch->accessibleDescription().toStdString();
+  });
+  ASSERT_TRUE(tour.Run());
+  EXPECT_EQ(screens.size(), 13U);
+  EXPECT_EQ(Joined(menus),
+            "N/A |Test &Top Scorers &League Table &Match Results |"
+            "Test &Top Scorers &Match Results &Knock Out Table |N/A ");
+  EXPECT_EQ(row,
+            "Rank 1, Team Rovers, Played 0, Won 0, Tied 0, Lost 0, Goals for 0, Goals against 0, Points 0");
+  EXPECT_TRUE(state.starts_with("United 1, Rovers 1, MISS!, ")) << state;
+}
+
+/// Markup, an entity, a would-be access key, control characters, and marks that turn the text after them
+/// around.
+const std::string Short = "<b>B&amp;&x\x07\t\u202E\u200Fz";
+const std::string Long = Short + std::string(10000, 'W');
+
+QStringList TextsOf(const QWidget* widget) {
+  QStringList texts;
+  if (const auto* const label = qobject_cast<const QLabel*>(widget)) texts.append(label->text());
+  if (const auto* const list = qobject_cast<const QListWidget*>(widget))
+    for (int i = 0; i < list->count(); ++i) texts.append(list->item(i)->text());
+  if (const auto* const combo = qobject_cast<const QComboBox*>(widget))
+    for (int i = 0; i < combo->count(); ++i) texts.append(combo->itemText(i));
+  return texts;
+}
+
+void ExpectRoom(const QSize& size) {
+  const QSize screen = QApplication::primaryScreen()->size();
+  EXPECT_TRUE(size.width() <= screen.width() && size.height() <= screen.height());
+}
+
+/// Whether the hostile name was on view.
+bool ExpectPlain(const QWidget& window) {
+  bool seen = false;
+  for (const QWidget* const widget : window.findChildren<QWidget*>()) {
+    SCOPED_TRACE(widget->objectName().toStdString());
+    const auto* const label = qobject_cast<const QLabel*>(widget);
+    for (const QString& text : TextsOf(widget)) {
+      seen = seen || text.contains("<b>B&amp;&x  \uFFFD\u200Fz");
+      EXPECT_FALSE(text.contains(QChar(0x202E)) || text.contains('\t') || text.contains('\a'));
+      EXPECT_TRUE(label == nullptr || !Qt::mightBeRichText(text) || label->textFormat() == Qt::PlainText);
+    }
+    const auto* const list = qobject_cast<const QListWidget*>(widget);
+    const bool lines = list != nullptr && list->count() > 0;
+    for (const QString& tip : {widget->toolTip(), lines ? list->item(0)->toolTip() : QString()})
+      EXPECT_FALSE(tip.contains("<b>") || tip.size() > 2000);
+  }
+  ExpectRoom(window.frameGeometry().size());
+  return seen;
+}
+
+TEST_F(ScreensTest, AreNotBrokenByAnyNameEvenInLargeType) {
+  AddTeams(folder_, {"Plain"});
+  ASSERT_TRUE(SaveTeam(folder_.Folder, MakeTeam("Hostile", Long)).Ok());
+  std::filesystem::rename(folder_ / "Teams/Hostile", folder_ / ("Teams/" + Short));
+  AddChampionships(Short, Long, Short);
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSizeF(usual.pointSizeF() * 2);
+  QApplication::setFont(large);
+  std::map<QString, bool> seen;
+  Tour tour(folder_.Folder, desktop_, [&](const QWidget& window) {
+    SCOPED_TRACE(window.objectName().toStdString());
+    seen[window.objectName()] |= ExpectPlain(window);
+  });
+  EXPECT_TRUE(tour.Run());
+  QApplication::setFont(usual);
+  for (const auto& [screen, hostile] : seen) EXPECT_TRUE(hostile) << screen.toStdString();
+}
+
+TEST_F(ScreensTest, HaveBoxesAndTipsThatStayInTheirRoom) {
+  User user;
+  user.In("MessageBox", [&](QWidget& box) {
+    ExpectRoom(box.size());
+    for (const QLabel* const label : box.findChildren<QLabel*>())
+      EXPECT_TRUE(!label->pixmap().isNull() || label->textFormat() == Qt::PlainText);
+    User::Press(box, Qt::Key_Return);
+  });
+  QtDesktop(folder_.Folder).Warn(Long);
+  QToolTip::showText({}, PlainTip(Shown(Long)));
+  for (const QWidget* const window : QApplication::topLevelWidgets())
+    if (window->inherits("QTipLabel")) ExpectRoom(window->size());
+  QToolTip::hideText();
+}
+
+}  // namespace
+}  // namespace kickwell

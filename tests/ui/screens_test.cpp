@@ -8,6 +8,7 @@
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QToolTip>
 #include <map>
 #include <set>
@@ -101,9 +102,10 @@ void ExpectTabOrder(QWidget& window) {
   ASSERT_NE(first, nullptr);
   const std::string opened = first->property("text").toString().remove('&').toStdString();
   EXPECT_TRUE(opened.find("Delete") == opened.npos && opened.find("Exit") == opened.npos) << opened;
-  const auto place = [&window] {
+  const QWidget* const page = window.findChild<QScrollArea*>()->widget();  // It scrolls with the focus.
+  const auto place = [&window, page] {
     const QWidget* const widget = window.focusWidget();
-    return QRect(widget->mapTo(&window, QPoint()), widget->size());
+    return QRect(widget->mapTo(page, QPoint()), widget->size());
   };
   int backward = 0;
   while (stops.insert(window.focusWidget()->objectName().toStdString()).second) {

@@ -1,12 +1,12 @@
 #include "support/file_faults.h"
 
 #include <fcntl.h>
-#include <csignal>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdarg>
 #include <cstdlib>
 #include <map>

@@ -9,13 +9,13 @@
 namespace kickwell {
 
 struct FileFaults {
-  int Operations = 0;              ///< Since the faults were reset.
+  int Operations = 0;                ///< Since the faults were reset.
   std::vector<std::string> Paths{};  ///< All that these named.
-  int FailAt = 0;                  ///< The operation that fails, counted from 1; 0 for none.
-  bool FailOn = false;             ///< Whether all later ones fail too.
-  int Error = 0;                   ///< The errno value of a failure.
-  int StopAt = 0;                  ///< The operation at which the process stops, a write half done.
-  bool LoseUnflushed = false;      ///< Whether files not flushed by then are lost, as in a power cut.
+  int FailAt = 0;                    ///< The operation that fails, counted from 1; 0 for none.
+  bool FailOn = false;               ///< Whether all later ones fail too.
+  int Error = 0;                     ///< The errno value of a failure.
+  int StopAt = 0;                    ///< The operation at which the process stops, a write half done.
+  bool LoseUnflushed = false;        ///< Whether files not flushed by then are lost, as in a power cut.
 };
 
 /// The faults at work; assigning FileFaults{} ends them.

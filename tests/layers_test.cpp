@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 TEST(Layers, IncludesPointDownOnly) {
   const std::map<std::string, int> layers = {{"base", 0},         {"data", 1},    {"engine", 2}, {"setup", 3},
                                              {"championship", 3}, {"editors", 3}, {"ui", 4}};
-  const std::regex own("#include \"([a-z]+)/[a-z_]+\\.h\""),
+  const std::regex own(R"(#include "([a-z]+)/[a-z_]+\.h")"),
       system("#include <([Qq]|unistd|fcntl|sys/|csignal|dirent).*");
   int files = 0, includes = 0;
   for (const auto& entry : fs::recursive_directory_iterator(KICKWELL_SOURCES)) {

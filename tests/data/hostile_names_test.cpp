@@ -74,7 +74,7 @@ class HostileUser {
       recording.StoreResult(s);
       recording.StoreLeagueResult(s);
       TopScorers(Folder.Folder, kind, Name);
-      LegResults(Folder.Folder, desktop_, kind, Name);
+      const LegResults results(Folder.Folder, desktop_, kind, Name);
       open(s.Setup);
     }
     StandingsTable(Folder.Folder, Name);

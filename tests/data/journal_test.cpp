@@ -48,20 +48,16 @@ TEST(Journal, IsSetAsideWhenItMakesNoSense) {
       begin + "../~kickwell-4999999-1.tmp\nLeagues/Top.rec\n" + end,
       begin + "~kickwell-x-1.tmp\nLeagues/Top.rec\n" + end,
   };
+  const char* const files[] = {"Leagues/Top.rec", "Top.rec", "Teams/Top.rec", "Leagues/Top.txt",
+                               "stadiums.sim"};
   for (const std::string& text : senseless) {
     const TestFolder folder;
-    for (const char* file :
-         {"Leagues/Top.rec", "Top.rec", "Teams/Top.rec", "Leagues/Top.txt", "stadiums.sim"}) {
-      WriteBytes(folder / file, "old");
-    }
+    for (const char* file : files) WriteBytes(folder / file, "old");
     WriteBytes(folder / "~kickwell-4999999-1.tmp", "new");
     WriteBytes(folder / Journal, text);
     EXPECT_FALSE(FinishChanges(folder.Folder).Ok()) << text;
     EXPECT_EQ(ReadBytes(folder / "unfinished.bad"), text);
-    for (const char* file :
-         {"Leagues/Top.rec", "Top.rec", "Teams/Top.rec", "Leagues/Top.txt", "stadiums.sim"}) {
-      EXPECT_EQ(ReadBytes(folder / file), "old") << text;
-    }
+    for (const char* file : files) EXPECT_EQ(ReadBytes(folder / file), "old") << text;
     EXPECT_TRUE(FinishChanges(folder.Folder).Ok());
   }
 }

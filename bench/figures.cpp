@@ -14,6 +14,8 @@ std::string Text(const char* format, double number) {
   return text;
 }
 
+constexpr const char* MissedMark = "  MISSED";
+
 std::string TimeText(double seconds) {
   if (seconds < 0.9995e-3) return Text("%.3g us", seconds * 1e6);
   if (seconds < 0.9995) return Text("%.3g ms", seconds * 1e3);
@@ -24,7 +26,7 @@ std::string DemandText(Demand demand, double figure, double floor) {
   const double most = demand.Times > 0 ? demand.Times * floor : demand.Milliseconds / 1e3;
   if (most == 0) return "-";
   return (demand.Times > 0 ? Text("%.3g times", demand.Times) : TimeText(most)) +
-         (figure <= most ? "" : "  MISSED");
+         (figure <= most ? "" : MissedMark);
 }
 
 }  // namespace
@@ -72,9 +74,10 @@ void Figures::Finalize() {
     const double figure = Seconds(row.Figure);
     const double floor = Seconds(row.Floor);
     if (figure == 0 || floor == 0) continue;
+    const std::string demand = DemandText(row.Demand, figure, floor);
+    Missed = Missed || demand.ends_with(MissedMark);
     std::printf("%-58s %10s %10s %8s  %s\n", row.Name.c_str(), TimeText(figure).c_str(),
-                TimeText(floor).c_str(), Text("%.2f", figure / floor).c_str(),
-                DemandText(row.Demand, figure, floor).c_str());
+                TimeText(floor).c_str(), Text("%.2f", figure / floor).c_str(), demand.c_str());
   }
 }
 

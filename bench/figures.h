@@ -41,6 +41,8 @@ class Figures : public benchmark::ConsoleReporter {
   void ReportRuns(const std::vector<Run>& runs) override;
   void Finalize() override;
 
+  bool Missed = false;  ///< Whether a figure that was run has not kept its demand.
+
  private:
   struct Row {
     std::string Name;

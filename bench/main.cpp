@@ -35,4 +35,5 @@ int main(int argc, char** argv) {
   kickwell::AddScreenFigures(figures);
   kickwell::AddStartFigures(figures);
   benchmark::RunSpecifiedBenchmarks(&figures);
+  return figures.Missed ? 1 : 0;
 }

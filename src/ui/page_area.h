@@ -6,8 +6,7 @@
 namespace kickwell {
 
 /// Shows `page` whole as long as the screen has room for it, and scrolls it where it has not: on a small
-/// screen or with large type. It opens at its top; whatever the focus moves on to is
-/// scrolled into view.
+/// screen or with large type. It opens at its top; whatever the focus moves on to is scrolled into view.
 class PageArea final : public QScrollArea {
  public:
   explicit PageArea(QWidget* page);

@@ -10,9 +10,9 @@
 
 #include "championship/championship_play.h"
 #include "championship/fixtures.h"
+#include "engine/file_recording.h"
 #include "engine/goal.h"
 #include "engine/match.h"
-#include "engine/recording.h"
 #include "figures.h"
 #include "folders.h"
 #include "setup/selection.h"
@@ -76,7 +76,7 @@ class Laps {
  public:
   void Next() { times_.push_back(Clock::now()); }
 
-  void Report(benchmark::State& state) const {
+  void TellFailure(benchmark::State& state) const {
     if (times_.size() != Matches + 1) std::abort();  // Not every match was played.
     state.SetIterationTime(Between(0, Matches));
     state.counters["first"] = Between(0, Hundred);
@@ -99,7 +99,7 @@ void PlayWholeLeague(benchmark::State& state) {
     const NewLeague league;
     Laps laps;
     PlayLeague(league.Folder(), [&laps](const MatchSession&) { laps.Next(); });
-    laps.Report(state);
+    laps.TellFailure(state);
   }
 }
 
@@ -167,7 +167,7 @@ void PlainLeague(benchmark::State& state) {
       benchmark::DoNotOptimize(ReadPlainly(league.File(".leg")));  // By the play settings.
       laps.Next();
     }
-    laps.Report(state);
+    laps.TellFailure(state);
   }
 }
 

@@ -9,7 +9,7 @@
 #include "engine/match.h"
 #include "figures.h"
 #include "stand_ins.h"
-#include "ui/match_window.h"
+#include "ui/windows/match_window.h"
 
 namespace kickwell {
 namespace {

@@ -2,7 +2,7 @@
 #include <filesystem>
 #include <string>
 
-#include "engine/recording.h"
+#include "engine/file_recording.h"
 #include "figures.h"
 #include "folders.h"
 #include "stand_ins.h"

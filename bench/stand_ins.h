@@ -33,7 +33,7 @@ class NoRecording : public Recording {
 
 class NoScreen : public MatchScreen {
  public:
-  void Show() override {}
+  void Refresh() override {}
   void PauseFunction() override {}
 };
 

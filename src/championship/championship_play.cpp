@@ -30,16 +30,15 @@ void ChampionshipPlay::Championships_Click(int entry) {
 
 void ChampionshipPlay::Load(const std::string& fileName) {
   // A match of which a failing disk has saved a part must not be played again.
-  if (!Report(desktop_, FinishChanges(folder_))) return;
+  if (!TellFailure(desktop_, FinishChanges(folder_))) return;
   std::optional<Championship> read = ReadChampionship(folder_, kind_, fileName);
   if (!read) return;
   if (MainFileName(kind_, read->Name) != fileName) {
     desktop_.Inform(fileName + " holds the championship " + read->Name + ". Rename the file to play it.");
     return;
   }
-  const auto place = std::find(Championships.Entries.begin(), Championships.Entries.end(), fileName);
-  if (place != Championships.Entries.end())
-    Championships.Picked = static_cast<int>(place - Championships.Entries.begin());
+  const int place = Championships.PlaceOf(fileName);
+  if (place != ItemList::None) Championships.Picked = place;
   name_ = read->Name;
   setChampionship_(name_);
   fixtures_ = std::move(read->Fixtures);
@@ -50,13 +49,14 @@ void ChampionshipPlay::Load(const std::string& fileName) {
     From.Add(std::to_string(number));
   }
   To = From;
-  From.Picked = fixtures_.empty() ? Chooser::None : 0;
-  To.Picked = std::min(static_cast<int>(fixtures_.size()), 2) - 1;
+  From.PickFirst();
+  To.Pick(std::min(To.Count(), 2) - 1);
   Changed();
 }
 
 void ChampionshipPlay::Command1_Click() {
-  if (Championships.Picked == Chooser::None || From.Picked == Chooser::None || To.Picked == Chooser::None) {
+  if (Championships.Picked == ItemList::None || From.Picked == ItemList::None ||
+      To.Picked == ItemList::None) {
     desktop_.Inform("Please make all the settings properly");
     return;
   }

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "base/chooser.h"
 #include "base/desktop.h"
+#include "base/item_list.h"
 #include "base/program.h"
 #include "data/championship_store.h"
 #include "engine/match_setup.h"
@@ -39,10 +39,10 @@ class ChampionshipPlay {
   /// Whether the fixture at `place` of the list (from 0) has been played.
   bool IsPlayed(int place) const { return fixtures_.at(static_cast<std::size_t>(place)).Status != NotPlayed; }
 
-  Chooser Championships;  ///< Main files.
-  Chooser FixtureList;
-  Chooser From, To;  ///< Match numbers.
-  Chooser SimulationType;
+  ItemList Championships;  ///< Main files.
+  ItemList FixtureList;
+  ItemList From, To;  ///< Match numbers.
+  ItemList SimulationType;
   bool Closed = false;
 
   std::function<void()> Changed = [] {

@@ -11,33 +11,11 @@
 namespace kickwell {
 namespace {
 
-/// Puts `entry` at its alphabetical place; what is picked stays picked.
-void Insert(Chooser& list, const std::string& entry) {
-  const auto place = std::upper_bound(list.Entries.begin(), list.Entries.end(), entry, ListedBefore);
-  if (place - list.Entries.begin() <= list.Picked) ++list.Picked;
-  list.Entries.insert(place, entry);
-}
-
-/// Takes the entry at `place` out; when it was the picked one, nothing is picked then.
-void RemoveAt(Chooser& list, int place) {
-  if (place < 0 || place >= list.Count()) return;
-  list.Entries.erase(list.Entries.begin() + place);
-  if (place == list.Picked) {
-    list.Picked = Chooser::None;
-  } else if (place < list.Picked) {
-    --list.Picked;
-  }
-}
-
 /// The number of teams of a knock-out that is nearest to `count` from below: 2, 4, 8 or 16.
 int BracketSize(int count) {
   int size = 2;
   while (size < MostTeamsOfKnockOut && size * 2 <= count) size *= 2;
   return size;
-}
-
-void PickFirst(Chooser& list) {
-  list.Picked = list.Entries.empty() ? Chooser::None : 0;
 }
 
 }  // namespace
@@ -50,7 +28,7 @@ LegEditor::LegEditor(ProgramFolder folder, Desktop& desktop, Random& random)
 void LegEditor::Form_Load() {
   for (EditorSide* side : {&League, &KnockOut}) {
     side->Available.Entries = ListTeams(folder_);
-    PickFirst(side->Available);
+    side->Available.PickFirst();
     side->Load.Entries = ListChampionships(folder_, side->Kind);
     side->ManualEntry = false;
   }
@@ -58,19 +36,19 @@ void LegEditor::Form_Load() {
 }
 
 void LegEditor::AddTeam_Click(EditorSide& side) {
-  if (side.Available.Picked == Chooser::None) return;
+  if (side.Available.Picked == ItemList::None) return;
   const std::string team = side.Available.Text();
-  for (Chooser* list : {&side.Selected, &side.Home, &side.Away}) Insert(*list, team);
-  RemoveAt(side.Available, side.Available.Picked);
-  PickFirst(side.Available);
+  for (ItemList* list : {&side.Selected, &side.Home, &side.Away}) list->Insert(team, ListedBefore);
+  side.Available.RemoveAt(side.Available.Picked);
+  side.Available.PickFirst();
 }
 
 void LegEditor::RemoveTeam_Click(EditorSide& side) {
   const int place = side.Selected.Picked;
-  if (place == Chooser::None) return;
-  Insert(side.Available, side.Selected.Text());
-  for (Chooser* list : {&side.Home, &side.Away, &side.Selected}) RemoveAt(*list, place);
-  PickFirst(side.Selected);
+  if (place == ItemList::None) return;
+  side.Available.Insert(side.Selected.Text(), ListedBefore);
+  for (ItemList* list : {&side.Home, &side.Away, &side.Selected}) list->RemoveAt(place);
+  side.Selected.PickFirst();
 }
 
 void LegEditor::MoreTeams_Click() {
@@ -180,8 +158,8 @@ void LegEditor::Save_Click(EditorSide& side) {
     championship.Fixtures.push_back({NotPlayed, fixture.Home, fixture.Away, WinnerPlaceholder(number)});
   }
   if (known) {
-    Report(desktop_, ReplaceChampionship(folder_, championship));
-  } else if (Report(desktop_, WriteChampionship(folder_, championship))) {
+    TellFailure(desktop_, ReplaceChampionship(folder_, championship));
+  } else if (TellFailure(desktop_, WriteChampionship(folder_, championship))) {
     side.Load.Add(fileName);
     Load_Click(side, side.Load.Count() - 1);
   }
@@ -196,10 +174,10 @@ void LegEditor::Load_Click(EditorSide& side, int entry) {
   side.Table.clear();
   side.Name = loaded->Name;
   for (const std::string& team : loaded->Teams) {
-    Insert(side.Selected, team);
+    side.Selected.Insert(team, ListedBefore);
     std::erase(side.Available.Entries, team);
   }
-  PickFirst(side.Available);
+  side.Available.PickFirst();
   side.Home.Entries = side.Away.Entries = side.Selected.Entries;
   side.NumberOfTeams = BracketSize(side.Selected.Count());
   for (const Fixture& fixture : loaded->Fixtures) ShowFixture(side, {fixture.Home, fixture.Away});
@@ -217,9 +195,9 @@ void LegEditor::Delete_Click(EditorSide& side) {
     return;
   }
   if (!desktop_.Ask("Are you sure you want to remove " + fileName + "?")) return;
-  if (!Report(desktop_, DeleteChampionship(folder_, side.Kind, NameOfMainFile(fileName)))) return;
-  RemoveAt(side.Load, side.Load.Picked);
-  PickFirst(side.Load);
+  if (!TellFailure(desktop_, DeleteChampionship(folder_, side.Kind, NameOfMainFile(fileName)))) return;
+  side.Load.RemoveAt(side.Load.Picked);
+  side.Load.PickFirst();
 }
 
 }  // namespace kickwell

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "base/chooser.h"
 #include "base/desktop.h"
+#include "base/item_list.h"
 #include "base/program.h"
 #include "base/random.h"
 #include "championship/fixtures.h"
@@ -18,13 +18,13 @@ struct EditorSide {
   explicit EditorSide(ChampionshipKind kind) : Kind(kind) {}
 
   ChampionshipKind Kind;
-  std::string Name;             ///< The name box, at most 20 characters.
-  Chooser Available, Selected;  ///< Team lists, alphabetical ignoring letter case.
-  Chooser FixtureList;          ///< As the fixtures are shown.
-  std::vector<Pairing> Table;   ///< The fixtures of the list.
-  Chooser Load;                 ///< Main files of this kind.
+  std::string Name;              ///< The name box, at most 20 characters.
+  ItemList Available, Selected;  ///< Team lists, alphabetical ignoring letter case.
+  ItemList FixtureList;          ///< As the fixtures are shown.
+  std::vector<Pairing> Table;    ///< The fixtures of the list.
+  ItemList Load;                 ///< Main files of this kind.
 
-  Chooser Home, Away;        ///< League only: the selected teams.
+  ItemList Home, Away;       ///< League only: the selected teams.
   bool ManualEntry = false;  ///< League only: the next hand-made fixture is added to the list.
   int NumberOfTeams = 2;     ///< Knock-out only: the chosen number, 2, 4, 8 or 16.
 };
@@ -52,7 +52,7 @@ class LegEditor {
   void FewerTeams_Click();  ///< Halves it, down to 2.
   void Exit_Click() { Closed = true; }
 
-  Chooser Kind;  ///< "League Championship" or "Knock Out Championship".
+  ItemList Kind;  ///< "League Championship" or "Knock Out Championship".
   EditorSide League{ChampionshipKind::League};
   EditorSide KnockOut{ChampionshipKind::KnockOut};
   bool Closed = false;

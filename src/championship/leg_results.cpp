@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "engine/report.h"
+#include "engine/pages.h"
 
 namespace kickwell {
 
@@ -14,7 +14,7 @@ void LegResults::Command2_Click() {
   if (!Command2Enabled()) return;
   const std::optional<std::string> name = desktop_.AskSaveName(Label1);
   if (!name || name->empty()) return;
-  Report(desktop_, WritePage(PageFile(*name), ResultsPage(Label1, List1)));
+  TellFailure(desktop_, WritePage(PageFile(*name), ResultsPage(Label1, List1)));
 }
 
 }  // namespace kickwell

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "base/chooser.h"
 #include "base/desktop.h"
+#include "base/item_list.h"
 #include "base/program.h"
 #include "data/championship_store.h"
 
@@ -22,7 +22,7 @@ class LegResults {
   bool Command2Enabled() const { return List1.Count() > 0; }
 
   std::string Label1;  ///< The heading.
-  Chooser List1;       ///< The lines of the log.
+  ItemList List1;      ///< The lines of the log.
   bool Closed = false;
 
  private:

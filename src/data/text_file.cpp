@@ -216,7 +216,7 @@ void DeleteLeftovers(const std::filesystem::path& folder) {
   }
 }
 
-bool Report(Desktop& desktop, const FileResult& result) {
+bool TellFailure(Desktop& desktop, const FileResult& result) {
   if (!result.Ok()) desktop.Warn(result.Failure);
   return result.Ok();
 }

@@ -67,6 +67,6 @@ bool IsTemporaryName(std::string_view name);
 void DeleteLeftovers(const std::filesystem::path& folder);
 
 /// Tells the user about a failure in an exclamation box; true when there is none to tell.
-bool Report(Desktop& desktop, const FileResult& result);
+bool TellFailure(Desktop& desktop, const FileResult& result);
 
 }  // namespace kickwell

@@ -23,13 +23,14 @@ void StadEditor::Form_Load() {
 void StadEditor::ShowStadiums(int selected) {
   List1 = {};
   for (const Stadium& stadium : stadiums_) List1.Add(stadium.Name);
-  List1.Picked = selected < List1.Count() ? selected : Chooser::None;
+  List1.Pick(selected);
 }
 
 /// Makes these the stadiums, on disk and here; neither when saving fails or would replace what has never been
 /// read.
 bool StadEditor::Save(std::vector<Stadium> stadiums) {
-  if (!Report(desktop_, loading_) || !Report(desktop_, SaveStadiums(folder_, stadiums))) return false;
+  if (!TellFailure(desktop_, loading_) || !TellFailure(desktop_, SaveStadiums(folder_, stadiums)))
+    return false;
   stadiums_ = std::move(stadiums);
   return true;
 }
@@ -61,12 +62,13 @@ void StadEditor::Command1_Click() {
     desktop_.Warn("You can't delete any more stadium.");
     return;
   }
-  if (List1.Picked == Chooser::None || !desktop_.Ask("Are you sure you want to remove " + List1.Text() + "?"))
+  if (List1.Picked == ItemList::None ||
+      !desktop_.Ask("Are you sure you want to remove " + List1.Text() + "?"))
     return;
   std::vector<Stadium> fewer = stadiums_;
   fewer.erase(fewer.begin() + List1.Picked);
   if (!Save(std::move(fewer))) return;
-  Report(desktop_, DeleteFile(folder_.Settings()));
+  TellFailure(desktop_, DeleteFile(folder_.Settings()));
   ShowStadiums(0);
 }
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "base/chooser.h"
 #include "base/desktop.h"
+#include "base/item_list.h"
 #include "base/program.h"
 #include "data/stadium_store.h"
 
@@ -26,8 +26,8 @@ class StadEditor {
   std::string Label8() const { return std::to_string(stadiums_.size()); }
   const std::vector<Stadium>& Stadiums() const { return stadiums_; }
 
-  Chooser List1;                    ///< Stadiums by name, in the order of the file.
-  Chooser Combo1;                   ///< "Neutral" and all teams.
+  ItemList List1;                   ///< Stadiums by name, in the order of the file.
+  ItemList Combo1;                  ///< "Neutral" and all teams.
   std::string Text1, Text2, Text3;  ///< Name, city and capacity of a new stadium.
   bool Closed = false;
 

@@ -15,11 +15,6 @@ namespace {
 constexpr int SmallestSquad = 11;  ///< That a match can be played with.
 constexpr int FewestTeams = 2;
 
-int PlaceOf(const Chooser& chooser, const std::string& entry) {
-  const auto place = std::find(chooser.Entries.begin(), chooser.Entries.end(), entry);
-  return place == chooser.Entries.end() ? Chooser::None : static_cast<int>(place - chooser.Entries.begin());
-}
-
 }  // namespace
 
 TeamEditor::TeamEditor(ProgramFolder folder, Desktop& desktop, std::string league)
@@ -43,7 +38,7 @@ void TeamEditor::Combo3_Click(int entry) {
   FileResult failure;
   std::optional<Team> loaded =
       LoadTeam(folder_, Combo3.Entries.at(static_cast<std::size_t>(entry)), &failure);
-  if (!Report(desktop_, failure) || !loaded) return;
+  if (!TellFailure(desktop_, failure) || !loaded) return;
   Combo3.Picked = entry;
   team_ = std::move(*loaded);
   ShowSquad(0);
@@ -52,19 +47,19 @@ void TeamEditor::Combo3_Click(int entry) {
 void TeamEditor::ShowSquad(int selected) {
   List1 = {};
   for (const Player& player : team_.Players) List1.Add(player.Name);
-  List1.Picked = selected < List1.Count() ? selected : Chooser::None;
+  List1.Pick(selected);
 }
 
 /// Makes `changed` the team, on disk and here; neither when saving fails.
 bool TeamEditor::Save(Team changed, int selected) {
-  if (!Report(desktop_, SaveTeam(folder_, changed))) return false;
+  if (!TellFailure(desktop_, SaveTeam(folder_, changed))) return false;
   team_ = std::move(changed);
   ShowSquad(selected);
   return true;
 }
 
 const Player* TeamEditor::Selected() const {
-  return List1.Picked == Chooser::None ? nullptr : &team_.Players.at(static_cast<std::size_t>(List1.Picked));
+  return List1.Picked == ItemList::None ? nullptr : &team_.Players.at(static_cast<std::size_t>(List1.Picked));
 }
 
 bool TeamEditor::SkillIsFine(const std::string& skill) {
@@ -87,7 +82,7 @@ void TeamEditor::Command7_Click() {
   if (!SkillIsFine(Text5)) return;
   // A file of that name that is not in the list is one that differs in letter case alone, where that is no
   // difference.
-  if (PlaceOf(Combo3, name) != Chooser::None || LoadTeam(folder_, name)) {
+  if (Combo3.PlaceOf(name) != ItemList::None || LoadTeam(folder_, name)) {
     desktop_.Inform(name + " already exists");
     return;
   }
@@ -96,22 +91,22 @@ void TeamEditor::Command7_Click() {
     return;
   }
   if (!desktop_.Ask("Are you sure you want to add " + name + "?")) return;
-  if (!Report(desktop_, CreateTeam(folder_, name, Text5))) return;
+  if (!TellFailure(desktop_, CreateTeam(folder_, name, Text5))) return;
   Combo3.Add(name);
-  if (league_ != NoChampionship) Report(desktop_, AppendStandings(folder_, league_, name));
+  if (league_ != NoChampionship) TellFailure(desktop_, AppendStandings(folder_, league_, name));
   Text1.clear();
   Text5.clear();
   Combo3_Click(Combo3.Count() - 1);
 }
 
 void TeamEditor::Command8_Click() {
-  if (Combo3.Picked == Chooser::None) return;
+  if (Combo3.Picked == ItemList::None) return;
   if (Text2.empty() || Text4.empty()) {
     desktop_.Warn("Please enter all the Player Details properly.");
     return;
   }
   if (!SkillIsFine(Text4)) return;
-  if (PlaceOf(List1, Text2) != Chooser::None) {
+  if (List1.PlaceOf(Text2) != ItemList::None) {
     desktop_.Inform(Text2 + " already exists");
     return;
   }
@@ -139,7 +134,7 @@ void TeamEditor::Command6_Click() {
 
 void TeamEditor::Move(int direction) {
   const int from = List1.Picked;
-  if (from == Chooser::None) return;
+  if (from == ItemList::None) return;
   const int to = from + direction;
   const bool possible = to >= 0 && to < List1.Count();
   Team moved = team_;
@@ -155,9 +150,8 @@ void TeamEditor::Command5_Click() {
   }
   const std::string name = Combo3.Text();
   if (name.empty() || !desktop_.Ask("Are you sure you want to delete " + name + "?")) return;
-  if (!Report(desktop_, DeleteTeam(folder_, name))) return;
-  Combo3.Entries.erase(Combo3.Entries.begin() + Combo3.Picked);
-  Combo3.Picked = Chooser::None;
+  if (!TellFailure(desktop_, DeleteTeam(folder_, name))) return;
+  Combo3.RemoveAt(Combo3.Picked);
   Combo3_Click(0);
 }
 

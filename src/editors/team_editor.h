@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "base/chooser.h"
 #include "base/desktop.h"
+#include "base/item_list.h"
 #include "base/program.h"
 #include "data/team_store.h"
 
@@ -35,9 +35,9 @@ class TeamEditor {
   std::string Label4() const { return Selected() == nullptr ? "" : Selected()->Skill; }
   std::string Label5() const { return Selected() == nullptr ? "" : Selected()->Position; }
 
-  Chooser Combo3;            ///< Teams.
-  Chooser List1;             ///< The squad's names.
-  Chooser Combo1, Combo2;    ///< Line and side of a new player.
+  ItemList Combo3;           ///< Teams.
+  ItemList List1;            ///< The squad's names.
+  ItemList Combo1, Combo2;   ///< Line and side of a new player.
   std::string Text1, Text5;  ///< Name and skill of a new team.
   std::string Text2, Text4;  ///< Name and skill of a new player.
   bool Closed = false;

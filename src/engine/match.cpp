@@ -8,7 +8,7 @@
 #include "base/number.h"
 #include "data/stadium_store.h"
 #include "engine/goal.h"
-#include "engine/report.h"
+#include "engine/pages.h"
 
 namespace kickwell {
 namespace {
@@ -147,7 +147,8 @@ void Match::ComSave_Click() {
   const Waiting dialog(waiting_);
   const std::optional<std::string> name = desktop_.AskSaveName(proposed);
   if (!name || name->empty()) return;
-  Report(desktop_, WritePage(PageFile(*name), commentary ? CommentaryPage(session_) : SummaryPage(session_)));
+  TellFailure(desktop_,
+              WritePage(PageFile(*name), commentary ? CommentaryPage(session_) : SummaryPage(session_)));
 }
 
 void Match::Command1_Click() {

@@ -10,7 +10,7 @@ class MatchScreen {
   MatchScreen& operator=(const MatchScreen&) = delete;
   virtual ~MatchScreen() = default;
 
-  virtual void Show() = 0;  ///< Shows the session as it stands now.
+  virtual void Refresh() = 0;  ///< Shows the session as it stands now.
 
   /// Returns after the goal pause, in which the user's events go on: views can be switched, pages saved, and
   /// the match left. Returns early when it was left.

@@ -32,7 +32,7 @@ void ShowPossession(MatchSession& session, Random& random) {
   session.Side2.PossessionPercent = 100 - percent;
 }
 
-void AddLine(Chooser& list, std::string line) {
+void AddLine(ItemList& list, std::string line) {
   list.Add(std::move(line));
   list.PickLast();
 }

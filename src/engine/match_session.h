@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/chooser.h"
+#include "base/item_list.h"
 #include "base/random.h"
 #include "engine/match_setup.h"
 
@@ -95,9 +95,9 @@ struct MatchSession {
   bool ExtraTime = false, PenaltyShootOut = false;
 
   std::string LastScorer, LastScoringTeam;
-  std::string PhrasePlayer;     ///< The player that the commentary's next phrase names.
-  std::string SummaryLine;      ///< The last line of play or result written to the summary.
-  Chooser Summary, Commentary;  ///< The two line lists; the newest line is picked so that it stays in view.
+  std::string PhrasePlayer;      ///< The player that the commentary's next phrase names.
+  std::string SummaryLine;       ///< The last line of play or result written to the summary.
+  ItemList Summary, Commentary;  ///< The two line lists; the newest line is picked so that it stays in view.
 
   int Side1Penalties = 0, Side2Penalties = 0;  ///< Scored in the shoot-out.
   int ShotNumber = 0;                          ///< The next kick, from 0.
@@ -134,6 +134,6 @@ std::string AttendanceText(const MatchSession& session);
 void ShowPossession(MatchSession& session, Random& random);
 
 /// Adds a line and makes it the one in view.
-void AddLine(Chooser& list, std::string line);
+void AddLine(ItemList& list, std::string line);
 
 }  // namespace kickwell

@@ -77,7 +77,7 @@ void Simulation::Goal(Side& side, MatchScreen& screen) {
   AddLine(s.Summary, s.SummaryLine);
   s.Controls.Label2 = Lamp::Green;
   s.Controls.Label3 = "GOAL!";
-  screen.Show();
+  screen.Refresh();
   screen.PauseFunction();
 }
 

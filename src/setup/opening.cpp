@@ -26,24 +26,24 @@ void Opening::Choose(MatchMode mode) {
   KnockChartVisible = mode == MatchMode::KnockOut;
 }
 
-void Opening::Show(const OpeningScreens::Open& screen) const {
+void Opening::OpenScreen(const OpeningScreens::Open& screen) const {
   Changed();
   if (screen) screen();
 }
 
 void Opening::MatchMenu_Click() {
   Choose(MatchMode::Friendly);
-  Show(screens_.Settings);
+  OpenScreen(screens_.Settings);
 }
 
 void Opening::KnockLoad_Click() {
   Choose(MatchMode::KnockOut);
-  Show(screens_.KnockSettings);
+  OpenScreen(screens_.KnockSettings);
 }
 
 void Opening::LegLoad_Click() {
   Choose(MatchMode::League);
-  Show(screens_.LegSettings);
+  OpenScreen(screens_.LegSettings);
 }
 
 void Opening::ReadMenu_Click() {

@@ -26,13 +26,13 @@ class Opening {
   void KnockLoad_Click();
   void LegLoad_Click();
   void ExitMenu_Click() { Closed = true; }
-  void TeamMenu_Click() { Show(screens_.TeamEditor); }
-  void StadMenu_Click() { Show(screens_.StadEditor); }
-  void LegMenu_Click() { Show(screens_.LegEditor); }
-  void ScorerMenu_Click() { Show(screens_.TopScorers); }
-  void LeagueMenu_Click() { Show(screens_.Table); }
-  void LegRes_Click() { Show(screens_.LegResults); }
-  void KnockChart_Click() { Show(screens_.KnockCharts); }
+  void TeamMenu_Click() { OpenScreen(screens_.TeamEditor); }
+  void StadMenu_Click() { OpenScreen(screens_.StadEditor); }
+  void LegMenu_Click() { OpenScreen(screens_.LegEditor); }
+  void ScorerMenu_Click() { OpenScreen(screens_.TopScorers); }
+  void LeagueMenu_Click() { OpenScreen(screens_.Table); }
+  void LegRes_Click() { OpenScreen(screens_.LegResults); }
+  void KnockChart_Click() { OpenScreen(screens_.KnockCharts); }
   void ReadMenu_Click();
   void HistMenu_Click();
 
@@ -50,7 +50,7 @@ class Opening {
 
  private:
   void Choose(MatchMode mode);
-  void Show(const OpeningScreens::Open& screen) const;
+  void OpenScreen(const OpeningScreens::Open& screen) const;
 
   Desktop& desktop_;
   OpeningScreens screens_;

@@ -11,14 +11,14 @@ namespace kickwell {
 namespace {
 
 /// Moves `other` on to its next entry, from the last to the first, when it shows what `picked` shows.
-void KeepApart(const Chooser& picked, Chooser& other) {
-  if (other.Picked != Chooser::None && other.Text() == picked.Text()) {
+void KeepApart(const ItemList& picked, ItemList& other) {
+  if (other.Picked != ItemList::None && other.Text() == picked.Text()) {
     other.Picked = (other.Picked + 1) % other.Count();
   }
 }
 
 template <typename Texts>
-Chooser OfferTexts(const Texts& texts) {
+ItemList OfferTexts(const Texts& texts) {
   return {{texts.begin(), texts.end()}, 0};
 }
 

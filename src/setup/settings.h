@@ -3,8 +3,8 @@
 
 #include <functional>
 
-#include "base/chooser.h"
 #include "base/desktop.h"
+#include "base/item_list.h"
 #include "base/program.h"
 #include "engine/match_setup.h"
 
@@ -34,12 +34,12 @@ class Settings {
   void Command1_Click();
   void Command2_Click() { Closed = true; }
 
-  Chooser Combo1, Combo2;          ///< Own team and opposition.
-  Chooser Combo3, Combo7, Combo6;  ///< Stadiums, their cities and their capacities, entry by entry.
-  Chooser Combo5;                  ///< Weather.
-  Chooser Combo4;                  ///< Simulation type.
-  bool Check1 = false;             ///< Extra time.
-  bool Check2 = false;             ///< Penalty shoot-out.
+  ItemList Combo1, Combo2;          ///< Own team and opposition.
+  ItemList Combo3, Combo7, Combo6;  ///< Stadiums, their cities and their capacities, entry by entry.
+  ItemList Combo5;                  ///< Weather.
+  ItemList Combo4;                  ///< Simulation type.
+  bool Check1 = false;              ///< Extra time.
+  bool Check2 = false;              ///< Penalty shoot-out.
   bool Check2Enabled = false;
   bool Closed = false;
 

@@ -11,21 +11,21 @@
 #include "data/journal.h"
 #include "editors/stad_editor.h"
 #include "editors/team_editor.h"
+#include "engine/file_recording.h"
 #include "engine/match.h"
-#include "engine/recording.h"
 #include "setup/selection.h"
 #include "setup/settings.h"
-#include "ui/championship_play_window.h"
-#include "ui/knock_charts_window.h"
-#include "ui/leg_editor_window.h"
-#include "ui/leg_results_window.h"
-#include "ui/match_window.h"
-#include "ui/opening_window.h"
-#include "ui/ranking_window.h"
-#include "ui/selection_window.h"
-#include "ui/settings_window.h"
-#include "ui/stad_editor_window.h"
-#include "ui/team_editor_window.h"
+#include "ui/windows/championship_play_window.h"
+#include "ui/windows/knock_charts_window.h"
+#include "ui/windows/leg_editor_window.h"
+#include "ui/windows/leg_results_window.h"
+#include "ui/windows/match_window.h"
+#include "ui/windows/opening_window.h"
+#include "ui/windows/ranking_window.h"
+#include "ui/windows/selection_window.h"
+#include "ui/windows/settings_window.h"
+#include "ui/windows/stad_editor_window.h"
+#include "ui/windows/team_editor_window.h"
 
 namespace kickwell {
 App::App(ProgramFolder folder, Desktop& desktop, Random& random, MatchTimings timings)
@@ -41,7 +41,7 @@ App::~App() = default;
 void App::Start() {
   const FileResult finished = CleanUp(folder_);
   window_->show();
-  Report(desktop_, finished);
+  TellFailure(desktop_, finished);
 }
 
 QWidget* App::Owner() const {

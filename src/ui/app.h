@@ -10,7 +10,7 @@
 #include "championship/championship_play.h"
 #include "engine/match_setup.h"
 #include "setup/opening.h"
-#include "ui/match_window.h"
+#include "ui/windows/match_window.h"
 
 namespace kickwell {
 

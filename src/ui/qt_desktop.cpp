@@ -5,7 +5,7 @@
 #include <QMessageBox>
 #include <utility>
 
-#include "ui/widgets.h"
+#include "ui/widgets/widgets.h"
 
 namespace kickwell {
 namespace {

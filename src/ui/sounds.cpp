@@ -5,7 +5,7 @@
 #include <QMediaDevices>
 #include <QUrl>
 
-#include "ui/widgets.h"
+#include "ui/widgets/widgets.h"
 
 namespace kickwell {
 namespace {

@@ -59,7 +59,7 @@ class LegEditorTest : public ScreenTest {
   /// The entries of the lists with what is picked.
   static std::string Lists(const EditorSide& side) {
     std::string text;
-    for (const Chooser* list : {&side.Available, &side.Selected, &side.Home, &side.Away, &side.FixtureList})
+    for (const ItemList* list : {&side.Available, &side.Selected, &side.Home, &side.Away, &side.FixtureList})
       text += Joined(list->Entries) + " " + std::to_string(list->Picked) + "; ";
     return text;
   }

@@ -4,7 +4,7 @@
 #include "championship/leg_results.h"
 #include "championship/standings_table.h"
 #include "championship/top_scorers.h"
-#include "engine/report.h"
+#include "engine/pages.h"
 #include "support/screen_test.h"
 
 namespace kickwell {

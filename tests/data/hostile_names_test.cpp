@@ -7,6 +7,7 @@
 #include "championship/top_scorers.h"
 #include "editors/stad_editor.h"
 #include "editors/team_editor.h"
+#include "engine/file_recording.h"
 #include "setup/selection.h"
 #include "support/file_faults.h"
 #include "support/screen_test.h"

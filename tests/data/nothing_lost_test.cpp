@@ -10,6 +10,7 @@
 #include "data/journal.h"
 #include "editors/stad_editor.h"
 #include "editors/team_editor.h"
+#include "engine/file_recording.h"
 #include "support/fakes.h"
 #include "support/file_faults.h"
 #include "support/folders.h"
@@ -74,11 +75,11 @@ const std::pair<const char*, std::function<void(const ProgramFolder&, Desktop&)>
      }},
     {"championship",
      [](const auto& folder, Desktop& desktop) {
-       Report(desktop, ReplaceChampionship(folder, {ChampionshipKind::League, "Cup", {"Rovers"}, {}}));
+       TellFailure(desktop, ReplaceChampionship(folder, {ChampionshipKind::League, "Cup", {"Rovers"}, {}}));
      }},
     {"deleted championship",
      [](const auto& folder, Desktop& desktop) {
-       Report(desktop, DeleteChampionship(folder, ChampionshipKind::KnockOut, "Cup"));
+       TellFailure(desktop, DeleteChampionship(folder, ChampionshipKind::KnockOut, "Cup"));
      }},
 };
 

@@ -111,7 +111,7 @@ TEST(TextFile, AFailedSaveLeavesTheOldFileAndIsToldOnce) {
   const TestFolder folder;
   WriteBytes(folder / "file", "old");
   FakeDesktop desktop;
-  EXPECT_FALSE(Report(desktop, WriteLines(folder / "file", {"new"}, folder / "no such folder")));
+  EXPECT_FALSE(TellFailure(desktop, WriteLines(folder / "file", {"new"}, folder / "no such folder")));
   EXPECT_EQ(desktop.Taken(), std::vector{"!: The file " + (folder / "file").string() +
                                          " can't be saved: No such file or directory."});
   EXPECT_EQ(ReadBytes(folder / "file"), "old");
@@ -121,9 +121,9 @@ TEST(TextFile, AFailedSaveLeavesTheOldFileAndIsToldOnce) {
   EXPECT_FALSE(WriteLines(folder / "folder", {"new"}, folder.Folder.Root).Ok());
   EXPECT_EQ(FileCount(folder.Folder.Root), 2U);
 
-  EXPECT_TRUE(Report(desktop, DeleteFile(folder / "file")));
-  EXPECT_TRUE(Report(desktop, DeleteFile(folder / "file")));
-  EXPECT_FALSE(Report(desktop, DeleteFile(folder / "folder")));
+  EXPECT_TRUE(TellFailure(desktop, DeleteFile(folder / "file")));
+  EXPECT_TRUE(TellFailure(desktop, DeleteFile(folder / "file")));
+  EXPECT_FALSE(TellFailure(desktop, DeleteFile(folder / "folder")));
   EXPECT_EQ(desktop.Messages.size(), 1U);
 }
 

@@ -1,7 +1,7 @@
 // How a match opens, and its pages.
 #include "engine/match.h"
 
-#include "engine/report.h"
+#include "engine/pages.h"
 #include "support/screen_test.h"
 
 namespace kickwell {

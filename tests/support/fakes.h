@@ -73,7 +73,7 @@ class FakeRecording : public Recording {
 /// Runs what a test does in a goal pause.
 class FakeScreen : public MatchScreen {
  public:
-  void Show() override {}
+  void Refresh() override {}
   void PauseFunction() override { WhilePaused(); }
 
   std::function<void()> WhilePaused = [] {};

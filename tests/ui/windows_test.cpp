@@ -7,9 +7,9 @@
 
 #include "championship/ranking.h"
 #include "support/screen_test.h"
-#include "ui/match_window.h"
-#include "ui/ranking_window.h"
-#include "ui/widgets.h"
+#include "ui/widgets/widgets.h"
+#include "ui/windows/match_window.h"
+#include "ui/windows/ranking_window.h"
 #include "user.h"
 
 namespace kickwell {

@@ -1,0 +1,164 @@
+#include "ui/widgets/goal_picture.h"
+
+#include <QPainter>
+#include <QTransform>
+#include <algorithm>
+#include <iterator>
+
+#include "ui/widgets/accessible.h"
+#include "ui/widgets/ball.h"
+#include "ui/widgets/widgets.h"
+
+namespace kickwell {
+namespace {
+
+// The scene, in parts of the picture's width and height, seen from behind the taker's right shoulder.
+constexpr qreal GoalLine = 0.52;
+constexpr QRectF Mouth(0.381, 0.12, 0.42,
+                       GoalLine - 0.12);  ///< Its left post stands between net and near miss.
+constexpr QRectF GoalArea(0.28, GoalLine, 0.62, 0.14);
+constexpr qreal SpotHeight = 0.93;
+constexpr qreal FlightHeight = 0.30;  ///< Of a ball that has arrived, in the net or beside it.
+
+// What of the ball's screen units the picture's width shows.
+constexpr qreal ViewLeft = 380, ViewWidth = 2140, BallSize = 240;
+
+constexpr int ColumnWidth = 360;  ///< From marker to marker of a row, in screen units.
+
+/// Where a ball at this place is drawn.
+QPointF OnScene(const QPointF& ball) {
+  const qreal near = ball.y() / PenaltySpot.Top;
+  return {(ball.x() + BallSize / 2 - ViewLeft) / ViewWidth,
+          FlightHeight + near * (SpotHeight - FlightHeight)};
+}
+
+void DrawStandAndGrass(QPainter& painter) {
+  painter.fillRect(QRectF(0, 0, 1, GoalLine), QColor(0x26, 0x34, 0x44));
+  painter.setPen(Qt::NoPen);
+  constexpr int Rows = 7, Seats = 72;
+  for (int row = 0; row < Rows; ++row) {
+    for (int seat = 0; seat < Seats; ++seat) {
+      const int shade = 60 + (row * 37 + seat * 53 + row * seat * 7) % 80;
+      painter.setBrush(QColor(shade, shade, shade + 22));
+      painter.drawEllipse(QPointF((seat + row % 2 * 0.5) / Seats, (row + 0.6) * GoalLine / Rows), 0.005,
+                          0.022);
+    }
+  }
+  constexpr qreal Stripes[] = {GoalLine, 0.57, 0.63, 0.71, 0.82, 1};  // Wider towards the taker.
+  for (std::size_t i = 0; i + 1 < std::size(Stripes); ++i) {
+    painter.fillRect(QRectF(0, Stripes[i], 1, Stripes[i + 1] - Stripes[i]),
+                     i % 2 == 0 ? QColor(0x3f, 0x9b, 0x46) : QColor(0x36, 0x8a, 0x3e));
+  }
+}
+
+void DrawGoal(QPainter& painter) {
+  const auto pen = [&painter](int alpha, int width) {
+    QPen chalk(QColor(255, 255, 255, alpha), width);
+    chalk.setCosmetic(true);
+    painter.setPen(chalk);
+  };
+  painter.fillRect(Mouth, QColor(0, 0, 0, 130));
+  pen(70, 1);
+  constexpr int Meshes = 28, MeshRows = 9;
+  for (int i = 1; i < Meshes; ++i) {
+    const qreal x = Mouth.left() + i * Mouth.width() / Meshes;
+    painter.drawLine(QPointF(x, Mouth.top()), QPointF(x, GoalLine));
+  }
+  for (int i = 1; i < MeshRows; ++i) {
+    const qreal y = Mouth.top() + i * Mouth.height() / MeshRows;
+    painter.drawLine(QPointF(Mouth.left(), y), QPointF(Mouth.right(), y));
+  }
+  pen(225, 2);
+  painter.drawLine(QPointF(0, GoalLine), QPointF(1, GoalLine));
+  const QPointF goalArea[] = {{GoalArea.left() + 0.02, GoalLine},
+                              GoalArea.bottomLeft() - QPointF(0.07, 0),
+                              GoalArea.bottomRight() - QPointF(0.03, 0),
+                              {GoalArea.right(), GoalLine}};
+  painter.drawPolyline(goalArea, 4);
+  painter.setBrush(Qt::white);
+  painter.drawEllipse(OnScene(QPointF(PenaltySpot.Left, PenaltySpot.Top)) + QPointF(0, 0.02), 0.014, 0.014);
+  pen(255, 4);
+  const QPointF frame[] = {
+      {Mouth.left(), GoalLine}, Mouth.topLeft(), Mouth.topRight(), {Mouth.right(), GoalLine}};
+  painter.drawPolyline(frame, 4);
+}
+
+}  // namespace
+
+QColor LampColour(Lamp lamp) {
+  switch (lamp) {
+    case Lamp::Green:
+      return {0, 255, 0};
+    case Lamp::Red:
+      return {255, 0, 0};
+    default:
+      return {0, 0, 0};
+  }
+}
+
+GoalPicture::GoalPicture(int glide) : ball_(PenaltySpot.Left, PenaltySpot.Top), target_(PenaltySpot) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setFocusPolicy(Qt::TabFocus);
+  SetRole(this, QAccessible::Graphic);
+  setAccessibleName(tr("Goal"));
+  flight_.setDuration(glide);
+  flight_.setEasingCurve(QEasingCurve::OutQuad);
+  connect(&flight_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
+    ball_ = value.toPointF();
+    update();
+  });
+}
+
+void GoalPicture::SetBall(SpotPoint point) {
+  if (point == target_) return;
+  target_ = point;
+  flight_.stop();
+  flight_.setStartValue(ball_);
+  flight_.setEndValue(QPointF(point.Left, point.Top));
+  if (isVisible() && point != PenaltySpot) {
+    flight_.start();
+  } else {
+    ball_ = QPointF(point.Left, point.Top);
+    update();
+  }
+}
+
+void GoalPicture::paintEvent(QPaintEvent* /*event*/) {
+  QTransform scene;
+  scene.scale(width(), height());
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setTransform(scene);
+  DrawStandAndGrass(painter);
+  DrawGoal(painter);
+  painter.resetTransform();
+  const qreal near = ball_.y() / PenaltySpot.Top;
+  DrawBall(painter, scene.map(OnScene(ball_)), std::max(4.0, height() * (0.032 + 0.035 * near)));
+  DrawFocus(this);
+}
+
+KickMark::KickMark() {
+  SetRole(this, QAccessible::Graphic);
+  const int size = Twips(this, ColumnWidth);
+  setFixedSize(size, size);
+}
+
+void KickMark::SetMarker(const KickMarker& marker, const QString& kick) {
+  if (colour_ != marker.Colour) update();
+  colour_ = marker.Colour;
+  setVisible(marker.Visible);
+  setAccessibleName(kick + ": " +
+                    (colour_ == Lamp::Black   ? tr("To come")
+                     : colour_ == Lamp::Green ? tr("Goal")
+                                              : tr("Miss")));
+}
+
+void KickMark::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(LampColour(colour_));
+  painter.setPen(QPen(palette().color(QPalette::WindowText), 1.2));
+  painter.drawEllipse(QRectF(rect()).adjusted(5, 5, -5, -5));
+}
+
+}  // namespace kickwell

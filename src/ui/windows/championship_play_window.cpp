@@ -1,0 +1,82 @@
+#include "ui/windows/championship_play_window.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/widgets/widgets.h"
+
+namespace kickwell {
+
+ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, ChampionshipKind kind, QWidget* parent)
+    : ScreenWindow(kind == ChampionshipKind::League ? "LegSettings" : "KnockSettings",
+                   kind == ChampionshipKind::League ? tr("Kickwell League") : tr("Kickwell Knock Out"),
+                   parent),
+      play_(play),
+      championships_(MakeCombo("Championships")),
+      from_(MakeCombo("From")),
+      to_(MakeCombo("To")),
+      simulationType_(MakeCombo("SimulationType")),
+      fixtures_(MakeList("Fixtures")) {
+  const bool league = kind == ChampionshipKind::League;
+  for (QComboBox* const number : {from_, to_}) number->setMinimumContentsLength(6);
+  auto* const range = new QHBoxLayout;
+  range->addWidget(from_);
+  QLabel* const to = MakeCaption(tr("To"), to_);
+  range->addWidget(to);
+  range->addWidget(to_);
+  range->addStretch();
+
+  QPushButton* const command1 = Button("Command1", tr("&Continue >>"), [this] { play_.Command1_Click(); });
+  command1->setDefault(true);
+  QPushButton* const command2 = Button("Command2", tr("Close"), [this] { play_.Command2_Click(); });
+  auto* const buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(command1);
+  buttons->addWidget(command2);
+
+  auto* const layout = new QVBoxLayout(Page());
+  layout->setContentsMargins(24, 20, 24, 20);
+  layout->setSpacing(4);
+  const auto add = [layout](QWidget* caption, auto&& content) {
+    layout->addWidget(caption);
+    content();
+    layout->addSpacing(12);
+  };
+  add(MakeCaption(league ? tr("Load League:") : tr("Load Knock Out:"), championships_),
+      [&] { layout->addWidget(championships_); });
+  add(MakeCaption(league ? tr("League Fixtures:") : tr("Knock Out Fixtures:"), fixtures_),
+      [&] { layout->addWidget(fixtures_, 1); });
+  add(MakeCaption(tr("Play Matches:"), from_), [&] { layout->addLayout(range); });
+  Name(from_, tr("Play Matches from"));
+  Name(to_, tr("Play Matches to"));
+  to->setAccessibleName(tr("Play Matches to"));
+  add(MakeCaption(tr("Match Simulation Type:"), simulationType_),
+      [&] { layout->addWidget(simulationType_); });
+  layout->addLayout(buttons);
+
+  OnPick(championships_, [this](int entry) { play_.Championships_Click(entry); });
+  OnPick(from_, [this](int entry) { play_.From_Click(entry); });
+  OnPick(to_, [this](int entry) { play_.To_Click(entry); });
+  OnPick(simulationType_, [this](int entry) { play_.SimulationType_Click(entry); });
+  play_.Changed = [this] { Refresh(); };
+  Refresh();
+  OpenAt(460, 560);
+}
+
+void ChampionshipPlayWindow::Refresh() {
+  ShowChooser(championships_, play_.Championships);
+  ShowList(fixtures_, play_.FixtureList);
+  for (int i = 0; i < fixtures_->count(); ++i) {
+    const bool played = play_.IsPlayed(i);
+    fixtures_->item(i)->setForeground(played ? FaintText(palette()) : palette().color(QPalette::Text));
+    fixtures_->item(i)->setToolTip(played ? tr("Played") : QString());
+    fixtures_->item(i)->setData(Qt::AccessibleTextRole,
+                                fixtures_->item(i)->text() + (played ? ", " + tr("Played") : QString()));
+  }
+  ShowChooser(from_, play_.From);
+  ShowChooser(to_, play_.To);
+  ShowChooser(simulationType_, play_.SimulationType);
+}
+
+}  // namespace kickwell

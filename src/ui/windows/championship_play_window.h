@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QComboBox>
+#include <QListWidget>
+
+#include "championship/championship_play.h"
+#include "ui/windows/screen_window.h"
+
+namespace kickwell {
+
+/// The league's or the knock-out's play settings, which differ in their captions alone.
+class ChampionshipPlayWindow final : public ScreenWindow {
+ public:
+  ChampionshipPlayWindow(ChampionshipPlay& play, ChampionshipKind kind, QWidget* parent);
+
+ protected:
+  void Refresh() override;
+  bool IsClosed() const override { return play_.Closed; }
+  void Leave() override { play_.Command2_Click(); }
+
+ private:
+  ChampionshipPlay& play_;
+  QComboBox *championships_, *from_, *to_, *simulationType_;
+  QListWidget* fixtures_;
+};
+
+}  // namespace kickwell

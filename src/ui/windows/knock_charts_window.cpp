@@ -1,0 +1,124 @@
+#include "ui/windows/knock_charts_window.h"
+
+#include <QFontInfo>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/widgets/accessible.h"
+#include "ui/widgets/widgets.h"
+
+namespace kickwell {
+namespace {
+
+constexpr qreal ChartWidth = 8775, ChartTop = 360,
+                ChartHeight = 5175;  ///< What of the screen units is shown.
+constexpr qreal SmallestType = 6;    ///< In points.
+constexpr int SmallestName = 14;     ///< Characters that a box has room for.
+
+}  // namespace
+
+BracketView::BracketView(const KnockCharts& charts) : charts_(charts) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setFocusPolicy(Qt::TabFocus);
+  SetRole(this, QAccessible::Chart);
+  setAccessibleName(tr("Knock Out Table"));
+  for (int slot = 0; slot < SlotTotal; ++slot) {
+    QLabel* const label = MakeText(ArrayName("team", slot), Shown(charts.Text(slot)), Qt::AlignHCenter);
+    label->setParent(this);
+    label->setVisible(slot < charts.VisibleSlots);
+    QFont font = label->font();
+    const bool known = PlaceholderNumber(charts.Text(slot)) == 0;
+    const bool beyondFirstRound = ChartSlots()[static_cast<std::size_t>(slot)].Left > ChartSlots()[0].Left;
+    font.setBold(known && beyondFirstRound);  // A winner stands out from those to come.
+    font.setItalic(!known);
+    label->setFont(font);
+    team_[static_cast<std::size_t>(slot)] = label;
+  }
+  NameSlots();
+}
+
+void BracketView::NameSlots() {
+  const auto name = [this](int slot, const QString& caption) {
+    SetFigureCaption(team_[static_cast<std::size_t>(slot)], caption);
+    return Shown(charts_.Text(slot));
+  };
+  QStringList matches;
+  int number = 0;
+  for (const auto& [home, away, winner] : charts_.Matches) {
+    const QString match = tr("Match %1").arg(++number);
+    matches.append(match + ": " + name(home, match + tr(", home")) + tr(" against ") +
+                   name(away, match + tr(", away")));
+    name(winner, tr("Winner"));  // Until a later match takes him.
+  }
+  if (!charts_.Matches.empty())
+    matches.append(tr("Winner: ") + Shown(charts_.Text(charts_.Matches.back()[2])));
+  setAccessibleDescription(matches.join("; "));
+}
+
+QSize BracketView::minimumSizeHint() const {
+  const QFontMetrics metrics = fontMetrics();
+  return {static_cast<int>(SmallestName * metrics.averageCharWidth() * ChartWidth / SlotWidth),
+          static_cast<int>((metrics.height() + 4) * ChartHeight / SlotHeight)};
+}
+
+QRectF BracketView::BoxOf(int slot) const {
+  const ChartSlot& place = ChartSlots()[static_cast<std::size_t>(slot)];
+  const qreal x = width() / ChartWidth;
+  const qreal y = height() / ChartHeight;
+  return {place.Left * x, (place.Top - ChartTop) * y, SlotWidth * x, SlotHeight * y};
+}
+
+void BracketView::resizeEvent(QResizeEvent* /*event*/) {
+  for (int slot = 0; slot < SlotTotal; ++slot) {
+    QLabel* const label = team_[static_cast<std::size_t>(slot)];
+    label->setGeometry(BoxOf(slot).toRect().adjusted(3, 1, -3, -1));
+    // A long name is made to fit: its end, the toss, must be seen.
+    QFont fitting = label->font();
+    fitting.setPointSizeF(QFontInfo(font()).pointSizeF());
+    while (fitting.pointSizeF() > SmallestType &&
+           QFontMetrics(fitting).horizontalAdvance(label->text()) > label->width()) {
+      fitting.setPointSizeF(fitting.pointSizeF() - 0.5);
+    }
+    label->setFont(fitting);
+  }
+}
+
+void BracketView::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(FaintText(palette()), 1.2));
+  for (const auto& [home, away, winner] : charts_.Matches) {
+    const QRectF next = BoxOf(winner);
+    const QPointF join((BoxOf(home).right() + next.left()) / 2, next.center().y());
+    painter.drawLine(join, QPointF(next.left(), join.y()));
+    for (const int slot : {home, away}) {
+      const QPointF from(BoxOf(slot).right(), BoxOf(slot).center().y());
+      const QPointF corners[] = {from, {join.x(), from.y()}, join};
+      painter.drawPolyline(corners, 3);
+    }
+  }
+  painter.setBrush(palette().base());
+  for (int slot = 0; slot < charts_.VisibleSlots; ++slot) painter.drawRoundedRect(BoxOf(slot), 3, 3);
+  DrawFocus(this);
+}
+
+KnockChartsWindow::KnockChartsWindow(KnockCharts& charts, QWidget* parent)
+    : ScreenWindow("KnockCharts", tr("Kickwell Knock Out Table"), parent), charts_(charts) {
+  QLabel* const label1 = MakeHeading("Label1");
+  label1->setText(Shown(charts.Label1));
+  QPushButton* const command3 = MakeButton("Command3", tr("Close"));
+  command3->setDefault(true);
+  connect(command3, &QPushButton::clicked, this, [this] { Act([this] { charts_.Command3_Click(); }); });
+  auto* const layout = new QVBoxLayout(Page());
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(12);
+  layout->addWidget(label1);
+  layout->addWidget(new BracketView(charts), 1);
+  layout->addWidget(command3, 0, Qt::AlignRight);
+  command3->setFocus();
+  OpenAt(980, 640);
+}
+
+}  // namespace kickwell

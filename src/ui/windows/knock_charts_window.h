@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QLabel>
+#include <array>
+
+#include "championship/knock_charts.h"
+#include "ui/windows/screen_window.h"
+
+namespace kickwell {
+
+/// The bracket: a box for each slot and lines from each pair to its winner's slot. Screen readers are told
+/// the matches in their order.
+class BracketView final : public QWidget {
+ public:
+  explicit BracketView(const KnockCharts& charts);
+
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  QRectF BoxOf(int slot) const;
+  void NameSlots();
+
+  const KnockCharts& charts_;
+  std::array<QLabel*, SlotTotal> team_{};
+};
+
+class KnockChartsWindow final : public ScreenWindow {
+ public:
+  KnockChartsWindow(KnockCharts& charts, QWidget* parent);
+
+ protected:
+  void Refresh() override {}  // Nothing changes while it is open.
+  bool IsClosed() const override { return charts_.Closed; }
+  void Leave() override { charts_.Command3_Click(); }
+
+ private:
+  KnockCharts& charts_;
+};
+
+}  // namespace kickwell

@@ -1,0 +1,209 @@
+#include "ui/windows/leg_editor_window.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "ui/widgets/widgets.h"
+#include "ui/windows/editor_parts.h"
+
+namespace kickwell {
+namespace {
+
+constexpr int LongestName = 20;
+
+bool IsLeague(const EditorSide& side) {
+  return side.Kind == ChampionshipKind::League;
+}
+
+QFrame* Line() {
+  auto* const line = new QFrame;
+  line->setFrameShape(QFrame::HLine);
+  line->setFrameShadow(QFrame::Sunken);
+  return line;
+}
+
+}  // namespace
+
+LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
+    : ScreenWindow("LegEditor", tr("Kickwell Championship Editor"), parent),
+      editor_(editor),
+      kind_(MakeCombo("Kind")) {
+  auto* const kind = new QHBoxLayout;
+  kind->addWidget(MakeCaption(tr("Type of Competition / Championship:"), kind_));
+  kind->addWidget(kind_);
+  kind->addStretch();
+  OnPick(kind_, [this](int entry) { editor_.Kind_Click(entry); });
+
+  auto* const layout = new QVBoxLayout(Page());
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(12);
+  layout->addLayout(kind);
+  layout->addWidget(BuildSide(league_, editor.League), 1);
+  layout->addWidget(BuildSide(knockOut_, editor.KnockOut), 1);
+  layout->addWidget(
+      Button("Exit", tr("E&xit Kickwell Championship Editor"), [this] { editor_.Exit_Click(); }), 0,
+      Qt::AlignRight);
+  Refresh();
+  OpenAt(900, 640);
+}
+
+void LegEditorWindow::OnSelect(QListWidget* list, ItemList& chooser) {
+  connect(list, &QListWidget::itemSelectionChanged, this,
+          [list, &chooser] { chooser.Picked = SelectedRow(list); });
+}
+
+QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
+  const QString prefix = IsLeague(side) ? "League" : "KnockOut";
+  widgets.Page = new QWidget;
+  widgets.Page->setObjectName(prefix);
+  widgets.Name = MakeTextBox(prefix + "Name", LongestName, side.Name);
+  widgets.Name->setMinimumWidth(widgets.Name->fontMetrics().horizontalAdvance(QString(LongestName, 'M')));
+
+  QLabel* const heading =
+      Enlarged(MakeCaption(IsLeague(side) ? tr("League Details") : tr("Tournie Details")), 1.3);
+  auto* const name = new QHBoxLayout;
+  name->addWidget(MakeCaption(tr("Championship")));
+  name->addSpacing(12);
+  name->addWidget(MakeCaption(IsLeague(side) ? tr("League:") : tr("Knock Out:"), widgets.Name));
+  widgets.Name->setAccessibleName(IsLeague(side) ? tr("Championship League") : tr("Championship Knock Out"));
+  name->addWidget(widgets.Name);
+  name->addStretch();
+
+  auto* const columns = new QHBoxLayout;
+  columns->setSpacing(24);
+  columns->addLayout(BuildTeams(widgets, side, prefix), 1);
+  columns->addLayout(BuildFixtures(widgets, side, prefix), 1);
+  auto* const layout = new QVBoxLayout(widgets.Page);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(heading);
+  layout->addLayout(name);
+  layout->addLayout(columns, 1);
+  layout->addWidget(Line());
+  layout->addLayout(BuildFiles(widgets, side, prefix));
+  layout->addWidget(Line());
+  return widgets.Page;
+}
+
+QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
+  widgets.Available = MakeList(prefix + "Available");
+  widgets.Selected = MakeList(prefix + "Selected");
+  widgets.Selected->setAccessibleName(tr("Selected teams"));
+  OnSelect(widgets.Available, side.Available);
+  OnSelect(widgets.Selected, side.Selected);
+  auto* const moves = new QVBoxLayout;
+  moves->addStretch();
+  moves->addWidget(ArrowButton(prefix + "AddTeam", QStyle::SP_ArrowRight, tr("Add the team"),
+                               [&side] { LegEditor::AddTeam_Click(side); }));
+  moves->addWidget(ArrowButton(prefix + "RemoveTeam", QStyle::SP_ArrowLeft, tr("Remove the team"),
+                               [&side] { LegEditor::RemoveTeam_Click(side); }));
+  moves->addStretch();
+
+  auto* const grid = new QGridLayout;
+  grid->addWidget(MakeCaption(tr("Select Teams:"), widgets.Available), 0, 0);
+  grid->addWidget(widgets.Available, 1, 0);
+  grid->addLayout(moves, 1, 1);
+  grid->addWidget(widgets.Selected, 1, 2);
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(2, 1);
+
+  auto* const counts = new QGridLayout;
+  widgets.TeamCount = MakeText(prefix + "TeamCount", "0");
+  widgets.MatchCount = MakeText(prefix + "MatchCount", "0");
+  int row = 0;
+  if (!IsLeague(side)) {
+    widgets.NumberOfTeams = MakeText("NumberOfTeams", "2");
+    counts->addWidget(MakeFigureCaption(tr("Total number of teams:"), widgets.NumberOfTeams), row, 0);
+    counts->addWidget(widgets.NumberOfTeams, row, 1);
+    counts->addWidget(
+        ArrowButton("MoreTeams", QStyle::SP_ArrowUp, tr("More teams"), [this] { editor_.MoreTeams_Click(); }),
+        row, 2);
+    counts->addWidget(ArrowButton("FewerTeams", QStyle::SP_ArrowDown, tr("Fewer teams"),
+                                  [this] { editor_.FewerTeams_Click(); }),
+                      row++, 3);
+  }
+  counts->addWidget(MakeFigureCaption(IsLeague(side) ? tr("Total teams in the League:")
+                                                     : tr("Total teams currently selected:"),
+                                      widgets.TeamCount),
+                    row, 0);
+  counts->addWidget(widgets.TeamCount, row++, 1);
+  counts->addWidget(
+      MakeFigureCaption(IsLeague(side) ? tr("Total matches in the League:") : tr("Total number of matches:"),
+                        widgets.MatchCount),
+      row, 0);
+  counts->addWidget(widgets.MatchCount, row, 1);
+  counts->setColumnStretch(4, 1);
+  grid->addLayout(counts, 2, 0, 1, 3);
+  return grid;
+}
+
+QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
+  widgets.Fixtures = MakeList(prefix + "Fixtures");
+  auto* const layout = new QVBoxLayout;
+  layout->addWidget(MakeCaption(tr("Fixtures"), widgets.Fixtures));
+  layout->addWidget(widgets.Fixtures, 1);
+  auto* const buttons = new QHBoxLayout;
+  if (IsLeague(side)) {
+    widgets.Home = MakeCombo("Home");
+    widgets.Away = MakeCombo("Away");
+    auto* const teams = new QGridLayout;
+    teams->addWidget(MakeCaption(tr("Home Team:"), widgets.Home), 0, 0);
+    teams->addWidget(widgets.Home, 0, 1);
+    teams->addWidget(MakeCaption(tr("Away Team:"), widgets.Away), 1, 0);
+    teams->addWidget(widgets.Away, 1, 1);
+    teams->setColumnStretch(1, 1);
+    layout->addLayout(teams);
+    OnPick(widgets.Home, [&side](int entry) { side.Home.Picked = entry; });
+    OnPick(widgets.Away, [&side](int entry) { side.Away.Picked = entry; });
+    QPushButton* const add =
+        Button("AddFixture", tr("&Add &Fixture"), [this] { editor_.AddFixture_Click(); });
+    add->setShortcut(QKeySequence(tr("Alt+F")));  // Alt+A is the other button's.
+    buttons->addWidget(add);
+  }
+  buttons->addWidget(Button(prefix + "AutoFixtures", tr("&Auto Fixtures"),
+                            [this, &side] { editor_.AutoFixtures_Click(side); }));
+  buttons->addStretch();
+  layout->addLayout(buttons);
+  return layout;
+}
+
+QLayout* LegEditorWindow::BuildFiles(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
+  widgets.Load = MakeCombo(prefix + "Load");
+  OnPick(widgets.Load, [this, &side](int entry) { editor_.Load_Click(side, entry); });
+  auto* const layout = new QHBoxLayout;
+  layout->addWidget(MakeCaption(tr("Open / Load"), widgets.Load));
+  layout->addWidget(widgets.Load);
+  layout->addStretch();
+  layout->addWidget(MakeCaption(tr("Save / Delete"), nullptr));
+  layout->addWidget(Button(prefix + "Save", IsLeague(side) ? tr("&Save League") : tr("&Save Knock Out"),
+                           [this, &side] { editor_.Save_Click(side); }));
+  layout->addWidget(Button(prefix + "Delete", IsLeague(side) ? tr("Delete &League") : tr("Delete &Knock Out"),
+                           [this, &side] { editor_.Delete_Click(side); }));
+  return layout;
+}
+
+void LegEditorWindow::Refresh() {
+  ShowChooser(kind_, editor_.Kind);
+  ShowSide(league_, editor_.League);
+  ShowSide(knockOut_, editor_.KnockOut);
+  ShowChooser(league_.Home, editor_.League.Home);
+  ShowChooser(league_.Away, editor_.League.Away);
+  knockOut_.NumberOfTeams->setText(QString::number(editor_.KnockOut.NumberOfTeams));
+  league_.Page->setVisible(editor_.Kind.Picked == 0);
+  knockOut_.Page->setVisible(editor_.Kind.Picked == 1);
+}
+
+void LegEditorWindow::ShowSide(const SideWidgets& widgets, const EditorSide& side) {
+  ShowText(widgets.Name, side.Name);
+  ShowList(widgets.Available, side.Available);
+  ShowList(widgets.Selected, side.Selected);
+  ShowList(widgets.Fixtures, side.FixtureList);
+  ShowChooser(widgets.Load, side.Load);
+  widgets.TeamCount->setText(QString::number(side.Selected.Count()));
+  widgets.MatchCount->setText(QString::number(side.FixtureList.Count()));
+}
+
+}  // namespace kickwell

@@ -1,0 +1,42 @@
+#include "ui/windows/leg_results_window.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "ui/widgets/widgets.h"
+
+namespace kickwell {
+
+LegResultsWindow::LegResultsWindow(LegResults& results, QWidget* parent)
+    : ScreenWindow("LegResults", tr("Kickwell League/Tournament Results"), parent),
+      results_(results),
+      label1_(MakeHeading("Label1")),
+      list1_(MakeList("List1")),
+      command2_(MakeButton("Command2", tr("&Save"))) {
+  list1_->setAccessibleName(tr("Results"));
+  command2_->setAutoDefault(false);
+  QPushButton* const command1 = MakeButton("Command1", tr("Close"));
+  command1->setDefault(true);
+  auto* const buttons = new QHBoxLayout;
+  buttons->addWidget(command2_);
+  buttons->addStretch();
+  buttons->addWidget(command1);
+  auto* const layout = new QVBoxLayout(Page());
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(12);
+  layout->addWidget(label1_);
+  layout->addWidget(list1_, 1);
+  layout->addLayout(buttons);
+  connect(command2_, &QPushButton::clicked, this, [this] { Act([this] { results_.Command2_Click(); }); });
+  connect(command1, &QPushButton::clicked, this, [this] { Act([this] { results_.Command1_Click(); }); });
+  Refresh();
+  OpenAt(560, 560);
+}
+
+void LegResultsWindow::Refresh() {
+  label1_->setText(Shown(results_.Label1));
+  ShowList(list1_, results_.List1);
+  command2_->setEnabled(results_.Command2Enabled());
+}
+
+}  // namespace kickwell

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <array>
+
+#include "engine/match.h"
+#include "engine/match_screen.h"
+#include "ui/widgets/goal_picture.h"
+#include "ui/widgets/pitch_picture.h"
+#include "ui/windows/screen_window.h"
+
+namespace kickwell {
+
+/// How long things take, in milliseconds. Tests hurry them.
+struct MatchTimings {
+  int Tick = 1000;       ///< Of the clock: a minute of play.
+  int GoalPause = 3000;  ///< After every goal.
+};
+
+class MatchWindow final : public ScreenWindow, public MatchScreen {
+ public:
+  MatchWindow(Match& match, MatchTimings timings, QWidget* parent);
+
+  void PauseFunction() override;
+
+ protected:
+  void Refresh() override;
+  bool IsClosed() const override { return match_.Closed(); }
+  void Leave() override { match_.Command1_Click(); }
+
+ private:
+  /// The widgets of one side of the pitch.
+  struct SideWidgets {
+    QLabel *Team, *Goals, *Penalties;
+    QWidget* Score;  ///< Holds goals and penalties, the goals to the left.
+    QLabel *Shots, *Corners, *Bookings, *Fouls, *Possession;
+    QLabel* Takers;  ///< The team's name beside its row of kick markers.
+  };
+
+  QWidget* BuildScoreBoard();
+  void BuildScore(SideWidgets& side, int number);
+  QWidget* BuildFacts(SideWidgets& side, int number);
+  QWidget* BuildShootOut();
+  QLayout* BuildLists();
+  QLayout* BuildButtons();
+  void ConnectActions();
+  void ShowSide(const SideWidgets& widgets, const Side& side, int penalties, bool hasBall) const;
+  void ShowClock(const MatchControls& controls);
+  void ShowShootOut(const MatchControls& controls);
+  void ShowLists(const MatchSession& session);
+  void ShowButtons(const MatchControls& controls);
+  void TellState(const MatchSession& session);
+
+  Match& match_;
+  MatchTimings timings_;
+  QTimer timer1_{this};
+  SideWidgets side1_{}, side2_{};
+  QLabel *label1_, *ven_, *label2_, *label3_;
+  PitchPicture* picture2_;
+  GoalPicture* picture1_;
+  QWidget *scoreBoard_ = nullptr, *shootOut_ = nullptr;
+  std::array<KickMark*, KickCount> penalty_{};
+  std::array<QListWidget*, 2> list1_{};
+  std::array<QRadioButton*, 2> option1_{};
+  QPushButton *halftime_, *instant_, *kick_, *nextshot_, *comSave_, *command1_;
+};
+
+}  // namespace kickwell

@@ -1,0 +1,135 @@
+#include "ui/windows/opening_window.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "base/program.h"
+#include "ui/widgets/accessible.h"
+#include "ui/widgets/page_area.h"
+#include "ui/widgets/widgets.h"
+
+namespace kickwell {
+namespace {
+
+/// Mown grass under the title, with the centre circle.
+class Grass : public QWidget {
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    constexpr int Stripe = 60;
+    for (int x = 0; x < width(); x += Stripe) {
+      painter.fillRect(x, 0, Stripe, height(),
+                       x / Stripe % 2 == 0 ? QColor(0x23, 0x68, 0x33) : QColor(0x1e, 0x5e, 0x2d));
+    }
+    painter.setPen(QPen(QColor(255, 255, 255, 60), 3));
+    const QPointF centre = rect().toRectF().center();
+    painter.drawLine(QPointF(centre.x(), 0), QPointF(centre.x(), height()));
+    painter.drawEllipse(centre, height() * 0.42, height() * 0.42);
+  }
+};
+
+QLabel* AddText(QVBoxLayout* layout, const QString& name, const QString& text, qreal size, bool bold) {
+  // What is fixed is always shown whole.
+  QLabel* const label = text.isEmpty() ? MakeText(name, text) : MakeCaption(text);
+  label->setObjectName(name);
+  label->setAlignment(Qt::AlignCenter);
+  Enlarged(label, size);
+  QFont font = label->font();
+  font.setBold(bold);
+  label->setFont(font);
+  QPalette white = label->palette();
+  white.setColor(QPalette::WindowText, Qt::white);
+  label->setPalette(white);
+  layout->addWidget(label);
+  return label;
+}
+
+}  // namespace
+
+OpeningWindow::OpeningWindow(Opening& opening) : opening_(opening) {
+  setObjectName("Opening");
+  setWindowTitle(tr("Kickwell v4.0"));
+  BuildMenus();
+  setCentralWidget(new PageArea(BuildTitle()));
+  Refresh();
+  opening_.Changed = [this] { Refresh(); };
+  resize(QSize(640, 420).expandedTo(sizeHint()).boundedTo(RoomOnScreen(this)));
+}
+
+void OpeningWindow::BuildMenus() {
+  const auto add = [this](QMenu* menu, const char* name, const QString& caption, void (Opening::*action)(),
+                          bool available = true) {
+    QAction* const item = menu->addAction(caption);
+    item->setObjectName(QLatin1String(name));
+    item->setEnabled(available);
+    connect(item, &QAction::triggered, this, [this, action] {
+      (opening_.*action)();
+      Refresh();
+    });
+    return item;
+  };
+  const OpeningScreens& screens = opening_.Screens();
+  const auto wired = [](const OpeningScreens::Open& open) { return static_cast<bool>(open); };
+
+  QMenu* const play = menuBar()->addMenu(tr("&Play"));
+  add(play, "MatchMenu", tr("&Single Match"), &Opening::MatchMenu_Click, wired(screens.Settings));
+  add(play, "KnockLoad", tr("&Knock Out"), &Opening::KnockLoad_Click, wired(screens.KnockSettings));
+  add(play, "LegLoad", tr("&League"), &Opening::LegLoad_Click, wired(screens.LegSettings));
+  play->addSeparator();
+  add(play, "ExitMenu", tr("E&xit"), &Opening::ExitMenu_Click);
+
+  QMenu* const editors = menuBar()->addMenu(tr("&Editors"));
+  add(editors, "TeamMenu", tr("&Team Editor"), &Opening::TeamMenu_Click, wired(screens.TeamEditor));
+  add(editors, "StadMenu", tr("&Stadium Editor"), &Opening::StadMenu_Click, wired(screens.StadEditor));
+  add(editors, "LegMenu", tr("&Championship Editor"), &Opening::LegMenu_Click, wired(screens.LegEditor));
+
+  statistics_ = menuBar()->addMenu(tr("&Statistics"));
+  add(statistics_, "ScorerMenu", tr("&Top Scorers"), &Opening::ScorerMenu_Click, wired(screens.TopScorers));
+  leagueMenu_ =
+      add(statistics_, "LeagueMenu", tr("&League Table"), &Opening::LeagueMenu_Click, wired(screens.Table));
+  add(statistics_, "LegRes", tr("&Match Results"), &Opening::LegRes_Click, wired(screens.LegResults));
+  knockChart_ = add(statistics_, "KnockChart", tr("&Knock Out Table"), &Opening::KnockChart_Click,
+                    wired(screens.KnockCharts));
+
+  QMenu* const help = menuBar()->addMenu(tr("&Help"));
+  add(help, "ReadMenu", tr("&Contents"), &Opening::ReadMenu_Click);
+  add(help, "HistMenu", tr("&History"), &Opening::HistMenu_Click);
+}
+
+QWidget* OpeningWindow::BuildTitle() {
+  auto* const grass = new Grass;
+  auto* const layout = new QVBoxLayout(grass);
+  layout->setContentsMargins(24, 24, 24, 24);
+  layout->addStretch(2);
+  AddText(layout, "Label1", tr("Kickwell v4.0"), 3.2, true);
+  layout->addStretch(1);
+  AddText(layout, "Label4", tr("League/Tournament"), 1, false);
+  league_ = AddText(layout, "league", {}, 1.5, true);
+  SetFigureCaption(league_, tr("League/Tournament"));
+  layout->addStretch(2);
+  AddText(layout, "Label2", tr("Programming and Design"), 0.9, false);
+  AddText(layout, "Label3", ToQt(Credits), 1, true);
+  mode_ = MakeText("mode", {});
+  mode_->setParent(grass);
+  mode_->setVisible(false);
+  return grass;
+}
+
+void OpeningWindow::Refresh() {
+  league_->setText(Shown(opening_.ChampionshipName));
+  mode_->setText(Shown(ToText(opening_.Mode)));
+  statistics_->menuAction()->setEnabled(opening_.StatisticsEnabled);
+  leagueMenu_->setVisible(opening_.LeagueMenuVisible);
+  knockChart_->setVisible(opening_.KnockChartVisible);
+  if (opening_.Closed) close();
+}
+
+void OpeningWindow::closeEvent(QCloseEvent* event) {
+  opening_.ExitMenu_Click();
+  event->accept();
+}
+
+}  // namespace kickwell

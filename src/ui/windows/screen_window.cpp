@@ -1,0 +1,76 @@
+#include "ui/windows/screen_window.h"
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "ui/widgets/page_area.h"
+#include "ui/widgets/widgets.h"
+
+namespace kickwell {
+
+ScreenWindow::ScreenWindow(const char* name, const QString& caption, QWidget* parent)
+    : QDialog(parent), page_(new QWidget) {
+  setObjectName(QLatin1String(name));
+  setWindowTitle(caption);
+  setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
+  setSizeGripEnabled(true);
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(new PageArea(page_));
+}
+
+void ScreenWindow::OpenAt(int width, int height) {
+  constexpr int UsualType = 15;  // The height of a line.
+  const qreal type = std::max(1.0, qreal(fontMetrics().height()) / UsualType);
+  resize((QSizeF(width, height) * type).toSize().expandedTo(sizeHint()).boundedTo(RoomOnScreen(this)));
+}
+
+void ScreenWindow::reject() {
+  Act([this] { Leave(); });
+}
+
+void ScreenWindow::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  auto* const button = qobject_cast<QPushButton*>(focusWidget());
+  if (enter && button != nullptr) {
+    button->click();
+  } else {
+    QDialog::keyPressEvent(event);
+  }
+}
+
+void ScreenWindow::Act(const std::function<void()>& action) {
+  action();
+  if (!IsClosed()) {
+    Refresh();
+  } else if (isVisible()) {  // An action within this one may have closed the window already.
+    done(Accepted);
+    // Where two screens close at once, a window manager may lose the keyboard.
+    if (parentWidget() != nullptr) parentWidget()->activateWindow();
+  }
+}
+
+QPushButton* ScreenWindow::Button(const QString& name, const QString& caption, std::function<void()> action) {
+  QPushButton* const button = MakeButton(name, caption);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, [this, action = std::move(action)] { Act(action); });
+  return button;
+}
+
+QPushButton* ScreenWindow::ArrowButton(const QString& name, QStyle::StandardPixmap arrow, const QString& tip,
+                                       std::function<void()> action) {
+  QPushButton* const button = Button(name, {}, std::move(action));
+  button->setIcon(style()->standardIcon(arrow));
+  button->setToolTip(tip);
+  button->setAccessibleName(tip);
+  return button;
+}
+
+void ScreenWindow::OnPick(QComboBox* combo, std::function<void(int)> action) {
+  connect(combo, &QComboBox::activated, this,
+          [this, action = std::move(action)](int entry) { Act([&] { action(entry); }); });
+}
+
+}  // namespace kickwell

@@ -1,0 +1,171 @@
+#include "ui/windows/selection_window.h"
+
+#include <QEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QStringListModel>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <optional>
+#include <utility>
+
+#include "ui/widgets/accessible.h"
+#include "ui/widgets/widgets.h"
+
+namespace kickwell {
+namespace {
+
+constexpr int UsualName = 14;  ///< Two choosers stand side by side.
+
+/// A figure beside its caption, in two columns of the grid.
+QLabel* AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& name,
+                  const QString& text) {
+  QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), 1);
+  grid->addWidget(MakeFigureCaption(caption, figure), row, column);
+  grid->addWidget(figure, row, column + 1);
+  return figure;
+}
+
+QString FigureText(const std::optional<int>& figure) {
+  return figure ? QString::number(*figure) : QString();
+}
+
+}  // namespace
+
+SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
+    : ScreenWindow("Selection", tr("Kickwell Team Selection"), parent),
+      selection_(selection),
+      command1_(MakeButton("Command1", tr("&Continue >>"))) {
+  const MatchSetup& setup = selection.Setup();
+  auto* const sides = new QHBoxLayout;
+  sides->setSpacing(16);
+  sides->addWidget(BuildSide(side1_, 1, Shown(setup.Team1Name), &Selection::Combo1_Click), 1);
+  sides->addWidget(BuildSide(side2_, 2, Shown(setup.Team2Name), &Selection::Combo2_Click), 1);
+
+  QLabel* const num = MakeText("num", QString::number(setup.MatchNumber));
+  num->setVisible(false);
+  command1_->setDefault(true);
+  QPushButton* const command2 = MakeButton("Command2", tr("Cancel"));
+  command2->setAutoDefault(false);
+  auto* const buttons = new QHBoxLayout;
+  buttons->addWidget(num);
+  buttons->addStretch();
+  buttons->addWidget(command1_);
+  buttons->addWidget(command2);
+
+  auto* const layout = new QVBoxLayout(Page());
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(16);
+  layout->addLayout(sides);
+  layout->addStretch();
+  layout->addLayout(buttons);
+
+  connect(command1_, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command1_Click(); }); });
+  connect(command2, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command2_Click(); }); });
+  Page()->installEventFilter(this);
+  Refresh();
+  selection_.Changed = [this] { Refresh(); };
+  OpenAt(860, 0);
+}
+
+QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& team, Pick pick) {
+  const QString number = QString::number(side);
+  auto* const box = new QWidget;
+  QLabel* const name = Enlarged(MakeText("Team" + number, team, Qt::AlignHCenter), 1.4);
+
+  auto* const slots_ = new QGridLayout;
+  slots_->setVerticalSpacing(4);
+  slots_->setHorizontalSpacing(10);
+  slots_->setColumnStretch(0, 1);
+  column.Squad = new QStringListModel(this);
+  const QByteArray combo = ("Combo" + number).toLatin1();
+  const QByteArray post = ("Post" + number).toLatin1();
+  const QByteArray skill = ("Sk" + number).toLatin1();
+  for (int i = 0; i < SlotCount; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    column.Combos[at] = MakeCombo(ArrayName(combo, i));
+    column.Combos[at]->setModel(column.Squad);
+    const QString player = team + tr(", player %1").arg(i + 1);
+    Name(column.Combos[at], player);
+    column.Combos[at]->setMinimumContentsLength(UsualName);
+    column.Posts[at] = MakeText(ArrayName(post, i), {}, Qt::AlignHCenter);
+    column.Posts[at]->setMinimumWidth(fontMetrics().horizontalAdvance("MMMM"));
+    SetFigureCaption(column.Posts[at], player + tr(", position"));
+    column.Skills[at] = MakeText(ArrayName(skill, i), {}, Qt::AlignRight);
+    column.Skills[at]->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
+    SetFigureCaption(column.Skills[at], player + tr(", skill"));
+    slots_->addWidget(column.Combos[at], i, 0);
+    slots_->addWidget(column.Posts[at], i, 1);
+    slots_->addWidget(column.Skills[at], i, 2);
+    OnPick(column.Combos[at], [this, pick, i](int entry) { (selection_.*pick)(i, entry); });
+  }
+
+  auto* const layout = new QVBoxLayout(box);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(10);
+  layout->addWidget(name);
+  layout->addLayout(slots_);
+  layout->addWidget(BuildFigures(column, side, team));
+  return box;
+}
+
+QWidget* SelectionWindow::BuildFigures(Column& column, int side, const QString& team) {
+  const QString number = QString::number(side);
+  auto* const figures = new QGridLayout;
+  figures->setHorizontalSpacing(10);
+  figures->setVerticalSpacing(6);
+  figures->setColumnMinimumWidth(2, 24);
+  figures->setColumnStretch(1, 1);
+  figures->setColumnStretch(4, 1);
+  column.Formation = AddFigure(figures, 0, 0, tr("Formation:"), "Formation" + number, "0-0-0");
+  column.Skill = AddFigure(figures, 1, 0, tr("Overall Skill:"), "Skill" + number, "0");
+  column.OSkill = AddFigure(figures, 2, 0, tr("Reputation:"), "OSkill" + number, "0");
+  const int firstLabel = side == 1 ? 11 : 15;
+  const auto labelName = [firstLabel](int i) { return "Label" + QString::number(firstLabel + i); };
+  column.Attack = AddFigure(figures, 0, 3, tr("Attack:"), labelName(0), {});
+  column.Defence = AddFigure(figures, 1, 3, tr("Defence:"), labelName(1), {});
+  column.Midfield = AddFigure(figures, 2, 3, tr("Mid-Field:"), labelName(2), {});
+  column.Keeping = AddFigure(figures, 3, 3, tr("Keeping:"), labelName(3), {});
+  auto* const figuresBox = new QFrame;
+  figuresBox->setAccessibleName(team);
+  figuresBox->setFrameShape(QFrame::StyledPanel);
+  figuresBox->setLayout(figures);
+  return figuresBox;
+}
+
+bool SelectionWindow::eventFilter(QObject* watched, QEvent* event) {
+  // The squads are loaded when the screen has been drawn.
+  if (watched == Page() && event->type() == QEvent::Paint && !std::exchange(timer1Started_, true))
+    QTimer::singleShot(0, this, [this] { Act([this] { selection_.Timer1_Timer(); }); });
+  return ScreenWindow::eventFilter(watched, event);
+}
+
+void SelectionWindow::Refresh() {
+  ShowSide(side1_, selection_.Side1);
+  ShowSide(side2_, selection_.Side2);
+  command1_->setEnabled(selection_.Command1Enabled);
+}
+
+void SelectionWindow::ShowSide(const Column& column, const LineUp& lineUp) {
+  if (lineUp.CanPlay() && column.Squad->rowCount() == 0) {
+    QStringList names;
+    for (const Player& player : lineUp.Squad) names.append(Shown(player.Name));
+    column.Squad->setStringList(names);
+  }
+  for (std::size_t i = 0; i < SlotCount; ++i) {
+    const LineUpSlot& slot = lineUp.Slots[i];
+    column.Combos[i]->setCurrentIndex(slot.Player);
+    column.Posts[i]->setText(Shown(slot.Position));
+    column.Skills[i]->setText(Shown(slot.Skill));
+  }
+  column.Formation->setText(Shown(lineUp.Formation));
+  column.Skill->setText(QString::number(lineUp.OverallSkill));
+  column.OSkill->setText(Shown(lineUp.Reputation));
+  column.Attack->setText(FigureText(lineUp.Attack));
+  column.Defence->setText(FigureText(lineUp.Defence));
+  column.Midfield->setText(FigureText(lineUp.Midfield));
+  column.Keeping->setText(FigureText(lineUp.Keeping));
+}
+
+}  // namespace kickwell

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <array>
+
+#include "setup/selection.h"
+#include "ui/windows/screen_window.h"
+
+class QStringListModel;
+
+namespace kickwell {
+
+class SelectionWindow final : public ScreenWindow {
+ public:
+  SelectionWindow(Selection& selection, QWidget* parent);
+
+ protected:
+  void Refresh() override;
+  bool IsClosed() const override { return selection_.Closed; }
+  void Leave() override { selection_.Command2_Click(); }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  /// One side's widgets: eleven choosers with position and skill, and the figures.
+  struct Column {
+    QStringListModel* Squad;  ///< The players' names, which all eleven choosers offer.
+    std::array<QComboBox*, SlotCount> Combos;
+    std::array<QLabel*, SlotCount> Posts, Skills;
+    QLabel *Formation, *Skill, *OSkill, *Attack, *Defence, *Midfield, *Keeping;
+  };
+  using Pick = void (Selection::*)(int slot, int entry);
+
+  QWidget* BuildSide(Column& column, int side, const QString& team, Pick pick);
+  QWidget* BuildFigures(Column& column, int side, const QString& team);
+  static void ShowSide(const Column& column, const LineUp& lineUp);
+
+  Selection& selection_;
+  bool timer1Started_ = false;
+  Column side1_{}, side2_{};
+  QPushButton* command1_;
+};
+
+}  // namespace kickwell

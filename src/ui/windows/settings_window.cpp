@@ -1,0 +1,109 @@
+#include "ui/windows/settings_window.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "ui/widgets/text_label.h"
+#include "ui/widgets/widgets.h"
+
+namespace kickwell {
+namespace {
+
+/// A caption above its control.
+QVBoxLayout* Captioned(const QString& caption, QComboBox* combo) {
+  auto* const box = new QVBoxLayout;
+  box->setSpacing(4);
+  box->addWidget(MakeCaption(caption, combo));
+  box->addWidget(combo);
+  return box;
+}
+
+}  // namespace
+
+SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
+    : ScreenWindow("Settings", tr("Kickwell Settings"), parent),
+      settings_(settings),
+      combo1_(MakeCombo("Combo1")),
+      combo2_(MakeCombo("Combo2")),
+      combo3_(MakeCombo("Combo3")),
+      combo4_(MakeCombo("Combo4")),
+      combo5_(MakeCombo("Combo5")),
+      check1_(new QCheckBox(tr("Extra Time (Golden Goal)"))),
+      check2_(new QCheckBox(tr("Penalty Shoot Out"))) {
+  QPushButton* const command1 =
+      Button("Command1", tr("&Continue >>"), [this] { settings_.Command1_Click(); });
+  command1->setDefault(true);
+  QPushButton* const command2 = Button("Command2", tr("Close"), [this] { settings_.Command2_Click(); });
+  auto* const buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(command1);
+  buttons->addWidget(command2);
+
+  auto* const grid = new QGridLayout;
+  grid->setHorizontalSpacing(24);
+  grid->setVerticalSpacing(18);
+  grid->addLayout(Captioned(tr("Select Your Team:"), combo1_), 0, 0);
+  grid->addLayout(Captioned(tr("Select Your Opposition:"), combo2_), 0, 1);
+  grid->addLayout(Captioned(tr("Match Venue (Stadium/Ground):"), combo3_), 1, 0);
+  grid->addLayout(Captioned(tr("Weather Condition:"), combo5_), 1, 1);
+  grid->addLayout(Captioned(tr("Match Simulation Type:"), combo4_), 2, 0, Qt::AlignTop);
+  grid->addLayout(BuildDeciders(), 2, 1);
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(1, 1);
+
+  auto* const layout = new QVBoxLayout(Page());
+  layout->setContentsMargins(24, 20, 24, 20);
+  layout->setSpacing(24);
+  layout->addLayout(grid);
+  layout->addStretch();
+  layout->addLayout(buttons);
+  const QWidget* const order[] = {combo1_, combo2_, combo3_,  combo5_, combo4_,
+                                  check1_, check2_, command1, command2};
+  for (std::size_t i = 1; i < std::size(order); ++i) {
+    setTabOrder(const_cast<QWidget*>(order[i - 1]), const_cast<QWidget*>(order[i]));
+  }
+
+  OnPick(combo1_, [this](int entry) { settings_.Combo1_Click(entry); });
+  OnPick(combo2_, [this](int entry) { settings_.Combo2_Click(entry); });
+  OnPick(combo3_, [this](int entry) { settings_.Combo3_Click(entry); });
+  OnPick(combo4_, [this](int entry) { settings_.Combo4_Click(entry); });
+  OnPick(combo5_, [this](int entry) { settings_.Combo5_Click(entry); });
+  Refresh();
+  OpenAt(560, 0);
+}
+
+QLayout* SettingsWindow::BuildDeciders() {
+  check1_->setObjectName("Check1");
+  check2_->setObjectName("Check2");
+  auto* const deciders = new QVBoxLayout;
+  deciders->setSpacing(4);
+  deciders->addWidget(MakeCaption(tr("Match Result Decider:"), check1_));
+  deciders->addWidget(check1_);
+  deciders->addWidget(check2_);
+  check1_->setAccessibleName(check1_->text());
+  connect(check1_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check1_Click(on); }); });
+  connect(check2_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check2_Click(on); }); });
+  return deciders;
+}
+
+void SettingsWindow::Refresh() {
+  ShowChooser(combo1_, settings_.Combo1);
+  ShowChooser(combo2_, settings_.Combo2);
+  ShowChooser(combo3_, settings_.Combo3);
+  ShowChooser(combo4_, settings_.Combo4);
+  ShowChooser(combo5_, settings_.Combo5);
+  const Settings& chosen = settings_;
+  const QString stadium =
+      chosen.Combo3.Picked == ItemList::None
+          ? QString()
+          : Shown(chosen.Combo3.Text() + ", " + chosen.Combo7.Text() + " (" + chosen.Combo6.Text() + ")");
+  combo3_->setToolTip(PlainTip(stadium));
+  combo3_->setAccessibleDescription(stadium);
+  check1_->setChecked(settings_.Check1);
+  check2_->setChecked(settings_.Check2);
+  check2_->setEnabled(settings_.Check2Enabled);
+}
+
+}  // namespace kickwell

@@ -1,0 +1,112 @@
+#include "ui/windows/stad_editor_window.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "ui/widgets/text_label.h"
+#include "ui/widgets/widgets.h"
+#include "ui/windows/editor_parts.h"
+
+namespace kickwell {
+namespace {
+
+constexpr int LongestName = 25, LongestCity = 10, LongestCapacity = 5;
+
+const char* const Removing =
+    "To Remove an existing stadium, select the stadium from the list and click on Remove Stadium button. ";
+const char* const Adding =
+    "To add a new stadium to the list, write the Stadium Name, City or Country of its existence and Crowd "
+    "Capacity "
+    "and then click on Add Stadium button. Remember that each and every field is compulsory and the Capacity "
+    "field "
+    "will only accept numerical values.";
+
+QLabel* Instruction(const QString& name, const QString& text) {
+  QLabel* const label = MakeCaption(text);
+  label->setObjectName(name);
+  label->setWordWrap(true);
+  return label;
+}
+
+}  // namespace
+
+StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
+    : ScreenWindow("StadEditor", tr("Kickwell Stadium Editor"), parent),
+      editor_(editor),
+      list1_(MakeList("List1")),
+      label8_(MakeText("Label8", {})),
+      text1_(MakeTextBox("Text1", LongestName, editor.Text1)),
+      text2_(MakeTextBox("Text2", LongestCity, editor.Text2)),
+      text3_(MakeTextBox("Text3", LongestCapacity, editor.Text3)),
+      combo1_(MakeCombo("Combo1")) {
+  list1_->setAccessibleName(tr("Stadiums"));
+  connect(list1_, &QListWidget::itemSelectionChanged, this,
+          [this] { Act([this] { editor_.List1_Click(SelectedRow(list1_)); }); });
+  OnPick(combo1_, [this](int entry) { editor_.Combo1_Click(entry); });
+  auto* const instructions = new QGroupBox(tr("Instructions"));
+  auto* const texts = new QVBoxLayout(instructions);
+  texts->addWidget(Instruction("Label9", tr(Removing)));
+  texts->addWidget(Instruction("Label10", tr(Adding)));
+  auto* const right = new QVBoxLayout;
+  right->setSpacing(10);
+  right->addWidget(BuildAddition());
+  right->addWidget(instructions);
+  right->addStretch();
+  auto* const columns = new QHBoxLayout;
+  columns->setSpacing(20);
+  columns->addWidget(BuildRemoval(), 1);
+  columns->addLayout(right, 1);
+  auto* const layout = new QVBoxLayout(Page());
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(12);
+  layout->addLayout(columns, 1);
+  layout->addWidget(
+      Button("Command3", tr("E&xit Kickwell Stadium Editor"), [this] { editor_.Command3_Click(); }), 0,
+      Qt::AlignRight);
+  Refresh();
+  OpenAt(760, 460);
+}
+
+QWidget* StadEditorWindow::BuildRemoval() {
+  auto* const box = new QGroupBox(tr("Remove Stadiums"));
+  auto* const total = new QHBoxLayout;
+  total->addWidget(MakeFigureCaption(tr("Total number of stadiums:"), label8_));
+  total->addWidget(label8_);
+  total->addStretch();
+  auto* const layout = new QVBoxLayout(box);
+  layout->addWidget(list1_, 1);
+  layout->addLayout(total);
+  layout->addWidget(Button("Command1", tr("&Remove Stadium"), [this] { editor_.Command1_Click(); }), 0,
+                    Qt::AlignLeft);
+  return box;
+}
+
+QWidget* StadEditorWindow::BuildAddition() {
+  Section add(tr("Add Stadiums"));
+  add.Add(tr("Name:"), text1_);
+  add.Add(tr("City/Country:"), text2_);
+  add.Add(tr("Capacity:"), text3_);
+  add.Add(tr("Home To:"), combo1_);
+  add.AddButton(Button("Command2", tr("&Add Stadium"), [this] { editor_.Command2_Click(); }));
+  return add.Box;
+}
+
+void StadEditorWindow::Refresh() {
+  ShowList(list1_, editor_.List1);
+  for (int i = 0; i < list1_->count(); ++i) {
+    const Stadium& stadium = editor_.Stadiums()[static_cast<std::size_t>(i)];
+    const QString whole =
+        Shown(stadium.Name + ", " + stadium.City + " (" + stadium.Capacity + "), " + stadium.HomeTeam);
+    list1_->item(i)->setToolTip(PlainTip(whole));
+    list1_->item(i)->setData(Qt::AccessibleTextRole, whole);
+  }
+  label8_->setText(Shown(editor_.Label8()));
+  ShowText(text1_, editor_.Text1);
+  ShowText(text2_, editor_.Text2);
+  ShowText(text3_, editor_.Text3);
+  ShowChooser(combo1_, editor_.Combo1);
+}
+
+}  // namespace kickwell

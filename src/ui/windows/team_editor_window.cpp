@@ -1,0 +1,142 @@
+#include "ui/windows/team_editor_window.h"
+
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+#include "ui/widgets/widgets.h"
+#include "ui/windows/editor_parts.h"
+
+namespace kickwell {
+namespace {
+
+constexpr int LongestTeamName = 16, LongestPlayerName = 25, LongestSkill = 2;
+
+const char* const Warning =
+    "Before deleting any team from the existing list of teams, please make sure that the team doesn't appear "
+    "on any "
+    "of the existing leagues otherwise all the data will become corrupted and unexpected bugs may creep in. "
+    "Please "
+    "be very careful.";
+
+}  // namespace
+
+TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
+    : ScreenWindow("TeamEditor", tr("Kickwell Team/Player Editor"), parent),
+      editor_(editor),
+      combo1_(Combo("Combo1", &TeamEditor::Combo1_Click)),
+      combo2_(Combo("Combo2", &TeamEditor::Combo2_Click)),
+      combo3_(Combo("Combo3", &TeamEditor::Combo3_Click)),
+      label13_(MakeText("Label13", {})),
+      label14_(MakeText("Label14", {})),
+      label4_(MakeText("Label4", {})),
+      label5_(MakeText("Label5", {})),
+      list1_(MakeList("List1")),
+      text1_(MakeTextBox("Text1", LongestTeamName, editor.Text1)),
+      text2_(MakeTextBox("Text2", LongestPlayerName, editor.Text2)),
+      text4_(MakeTextBox("Text4", LongestSkill, editor.Text4)),
+      text5_(MakeTextBox("Text5", LongestSkill, editor.Text5)) {
+  list1_->setAccessibleName(tr("Players"));
+  connect(list1_, &QListWidget::itemSelectionChanged, this,
+          [this] { Act([this] { editor_.List1_Click(SelectedRow(list1_)); }); });
+  auto* const columns = new QHBoxLayout;
+  columns->setSpacing(20);
+  columns->addLayout(BuildSquad(), 1);
+  columns->addLayout(BuildChanges(), 1);
+  auto* const layout = new QVBoxLayout(Page());
+  layout->setContentsMargins(20, 16, 20, 16);
+  layout->setSpacing(12);
+  layout->addLayout(columns, 1);
+  layout->addWidget(
+      Button("Command4", tr("E&xit Kickwell Team/Player Editor"), [this] { editor_.Command4_Click(); }), 0,
+      Qt::AlignRight);
+  Refresh();
+  OpenAt(820, 620);
+}
+
+QComboBox* TeamEditorWindow::Combo(const char* name, void (TeamEditor::*action)(int)) {
+  QComboBox* const combo = MakeCombo(name);
+  OnPick(combo, [this, action](int entry) { (editor_.*action)(entry); });
+  return combo;
+}
+
+QLayout* TeamEditorWindow::BuildSquad() {
+  auto* const team = new QFormLayout;
+  team->addRow(MakeCaption(tr("Team Name:"), combo3_), combo3_);
+  team->addRow(MakeFigureCaption(tr("Team Skill:"), label13_), label13_);
+  team->addRow(MakeFigureCaption(tr("No. of Players:"), label14_), label14_);
+  auto* const player = new QFormLayout;
+  player->addRow(MakeFigureCaption(tr("Player Skill:"), label4_), label4_);
+  player->addRow(MakeFigureCaption(tr("Position:"), label5_), label5_);
+
+  auto* const moves = new QVBoxLayout;
+  moves->addWidget(ArrowButton("Command1", QStyle::SP_ArrowUp, tr("Move the player up"),
+                               [this] { editor_.Command1_Click(); }));
+  moves->addWidget(ArrowButton("Command2", QStyle::SP_ArrowDown, tr("Move the player down"),
+                               [this] { editor_.Command2_Click(); }));
+  moves->addStretch();
+  auto* const squad = new QHBoxLayout;
+  squad->addWidget(list1_, 1);
+  squad->addLayout(moves);
+
+  Section remove(tr("Remove Players"));
+  remove.Form->addRow(Button("Command6", tr("Delete &Player"), [this] { editor_.Command6_Click(); }));
+  auto* const layout = new QVBoxLayout;
+  layout->setSpacing(10);
+  layout->addLayout(team);
+  layout->addLayout(squad, 1);
+  layout->addLayout(player);
+  layout->addWidget(remove.Box);
+  return layout;
+}
+
+QLayout* TeamEditorWindow::BuildChanges() {
+  Section players(tr("Add Players"));
+  players.Add(tr("Name:"), text2_);
+  players.Add(tr("Skill (1 - 99):"), text4_);
+  players.Add(tr("Field Position:"), combo1_);
+  players.Add(tr("Side:"), combo2_);
+  players.AddButton(Button("Command8", tr("&Add Player"), [this] { editor_.Command8_Click(); }));
+  Section teams(tr("Add Team"));
+  teams.Add(tr("Team Name:"), text1_);
+  teams.Add(tr("Skill (1 - 99):"), text5_);
+  teams.AddButton(Button("Command7", tr("Add &Team"), [this] { editor_.Command7_Click(); }));
+  auto* const layout = new QVBoxLayout;
+  layout->setSpacing(10);
+  layout->addWidget(players.Box);
+  layout->addWidget(teams.Box);
+  layout->addWidget(BuildTeamRemoval());
+  layout->addStretch();
+  return layout;
+}
+
+QWidget* TeamEditorWindow::BuildTeamRemoval() {
+  Section remove(tr("Remove Team"));
+  QLabel* const label22 = MakeCaption(tr("Warning Note"), nullptr);
+  label22->setObjectName("Label22");
+  QLabel* const label23 = MakeCaption(tr(Warning));
+  label23->setObjectName("Label23");
+  label23->setWordWrap(true);
+  remove.Form->addRow(label22);
+  remove.Form->addRow(label23);
+  remove.Form->addRow(Button("Command5", tr("&Delete Team"), [this] { editor_.Command5_Click(); }));
+  return remove.Box;
+}
+
+void TeamEditorWindow::Refresh() {
+  ShowChooser(combo1_, editor_.Combo1);
+  ShowChooser(combo2_, editor_.Combo2);
+  ShowChooser(combo3_, editor_.Combo3);
+  ShowList(list1_, editor_.List1);
+  label13_->setText(Shown(editor_.Label13()));
+  label14_->setText(Shown(editor_.Label14()));
+  label4_->setText(Shown(editor_.Label4()));
+  label5_->setText(Shown(editor_.Label5()));
+  ShowText(text1_, editor_.Text1);
+  ShowText(text2_, editor_.Text2);
+  ShowText(text4_, editor_.Text4);
+  ShowText(text5_, editor_.Text5);
+}
+
+}  // namespace kickwell

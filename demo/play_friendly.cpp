@@ -11,6 +11,7 @@
 #include <QtTest/QTest>
 #include <cstdio>
 
+#include "data/posix_file_system.h"
 #include "pictures.h"
 #include "ui/app.h"
 #include "ui/qt_desktop.h"
@@ -74,7 +75,8 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "play_friendly PROGRAM_FOLDER PICTURE_FOLDER\n");
     return 2;
   }
-  const kickwell::ProgramFolder folder{arguments[1].toStdString()};
+  kickwell::PosixFileSystem files;
+  const kickwell::ProgramFolder folder(arguments[1].toStdString(), files);
   QDir().mkpath(arguments[2]);
   const QString page = QDir(arguments[2]).absoluteFilePath("friendly.htm");
   QFile::remove(page);

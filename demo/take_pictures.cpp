@@ -14,6 +14,7 @@
 #include <cstdio>
 #include <stdexcept>
 
+#include "data/posix_file_system.h"
 #include "pictures.h"
 #include "ui/app.h"
 #include "ui/qt_desktop.h"
@@ -267,7 +268,8 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setCursorFlashTime(0);
   QCursor::setPos(QApplication::primaryScreen()->geometry().bottomRight());  // Out of the way.
-  const kickwell::ProgramFolder folder{arguments[1].toStdString()};
+  kickwell::PosixFileSystem files;
+  const kickwell::ProgramFolder folder(arguments[1].toStdString(), files);
   Session(folder, arguments[2], MatchLuck, Watched).Watch();
   Session(folder, arguments[2], ShootOutLuck, Hurried).ShootOut();
   Session(folder, arguments[2], LeagueLuck).PlayLeague();

@@ -1,10 +1,12 @@
 #include "championship/championship_play.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
+#include "data/championship_store.h"
+#include "data/knock_out.h"
 #include "data/team_store.h"
+#include "data/tell_failure.h"
 
 namespace kickwell {
 
@@ -25,27 +27,28 @@ void ChampionshipPlay::Form_Load() {
 }
 
 void ChampionshipPlay::Championships_Click(int entry) {
-  Load(Championships.Entries.at(static_cast<std::size_t>(entry)));
+  Load(At(Championships.Entries, entry));
 }
 
 void ChampionshipPlay::Load(const std::string& fileName) {
-  // A match of which a failing disk has saved a part must not be played again.
+  // A match that a failing disk has saved in part must not be played again.
   if (!TellFailure(desktop_, FinishChanges(folder_))) return;
-  std::optional<Championship> read = ReadChampionship(folder_, kind_, fileName);
+  auto [read, result] = ReadChampionship(folder_, IdOfMainFile(kind_, fileName));
+  TellFailure(desktop_, result);
   if (!read) return;
-  if (MainFileName(kind_, read->Name) != fileName) {
-    desktop_.Inform(fileName + " holds the championship " + read->Name + ". Rename the file to play it.");
+  if (MainFileName(read->Id) != fileName) {
+    desktop_.Inform(fileName + " holds the championship " + read->Id.Name + ". Rename the file to play it.");
     return;
   }
   const int place = Championships.PlaceOf(fileName);
   if (place != ItemList::None) Championships.Picked = place;
-  name_ = read->Name;
+  name_ = read->Id.Name;
   setChampionship_(name_);
   fixtures_ = std::move(read->Fixtures);
   FixtureList = From = To = {};
   for (const Fixture& fixture : fixtures_) {
     const int number = FixtureList.Count() + 1;
-    FixtureList.Add(FixtureText(number, fixture.Home, fixture.Away));
+    FixtureList.Add(FixtureText(number, {fixture.Home, fixture.Away}));
     From.Add(std::to_string(number));
   }
   To = From;
@@ -71,7 +74,7 @@ void ChampionshipPlay::Command1_Click() {
 
 void ChampionshipPlay::HandOver(int number) {
   if (number > static_cast<int>(fixtures_.size())) return;  // The file has lost it in the meantime.
-  const Fixture fixture = fixtures_[static_cast<std::size_t>(number) - 1];
+  const Fixture fixture = At(fixtures_, number - 1);
   const std::string match = "Match " + std::to_string(number);
   if (fixture.Status != NotPlayed) {
     desktop_.Inform(match + " has been played already");
@@ -87,7 +90,7 @@ void ChampionshipPlay::HandOver(int number) {
     }
   }
   MatchSetup setup;
-  setup.Mode = kind_ == ChampionshipKind::League ? MatchMode::League : MatchMode::KnockOut;
+  setup.Mode = ModeOf(kind_);
   setup.ChampionshipName = name_;
   setup.MatchNumber = number;
   setup.Team1Name = TeamOf(fixture.Home);
@@ -97,7 +100,7 @@ void ChampionshipPlay::HandOver(int number) {
 }
 
 std::string ChampionshipPlay::TeamOf(const std::string& entry) const {
-  return LoadTeam(folder_, entry) ? entry : WithoutToss(entry);
+  return TeamExists(folder_, entry) ? entry : WithoutToss(entry);
 }
 
 }  // namespace kickwell

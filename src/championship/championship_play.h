@@ -5,10 +5,11 @@
 #include <string>
 #include <vector>
 
+#include "base/at.h"
 #include "base/desktop.h"
 #include "base/item_list.h"
-#include "base/program.h"
-#include "data/championship_store.h"
+#include "data/championship.h"
+#include "data/program_folder.h"
 #include "engine/match_setup.h"
 
 namespace kickwell {
@@ -27,9 +28,9 @@ class ChampionshipPlay {
   void To_Click(int entry) { To.Picked = entry; }
   void SimulationType_Click(int entry) { SimulationType.Picked = entry; }
 
-  /// Reads the championship's fixtures and offers all of them. A file that is gone changes nothing, and one
-  /// whose stored name is another than the file's is refused: its results would go to that other
-  /// championship. Nor does a change that cannot be finished let anything be loaded.
+  /// Reads the championship's fixtures and offers all of them. A missing file changes nothing. A file that
+  /// stores another name than its own is refused: its results would go to that other championship. So is
+  /// every file while an earlier change cannot be finished.
   void Load(const std::string& fileName);
 
   /// Hands the unplayed fixtures of the range to the line-up selection, one after the other.
@@ -37,7 +38,7 @@ class ChampionshipPlay {
   void Command2_Click() { Closed = true; }
 
   /// Whether the fixture at `place` of the list (from 0) has been played.
-  bool IsPlayed(int place) const { return fixtures_.at(static_cast<std::size_t>(place)).Status != NotPlayed; }
+  bool IsPlayed(int place) const { return At(fixtures_, place).Status != NotPlayed; }
 
   ItemList Championships;  ///< Main files.
   ItemList FixtureList;

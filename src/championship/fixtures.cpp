@@ -1,8 +1,11 @@
 #include "championship/fixtures.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
-#include "data/championship_store.h"
+#include "base/at.h"
+#include "data/knock_out.h"
 
 namespace kickwell {
 namespace {
@@ -11,9 +14,8 @@ namespace {
 void Shuffle(std::vector<Pairing>& fixtures, Random& random) {
   const int count = static_cast<int>(fixtures.size());
   for (int i = 0; i < count; ++i) {
-    const auto a = static_cast<std::size_t>(random.Int(count));
-    const auto b = static_cast<std::size_t>(random.Int(count));
-    std::swap(fixtures[a], fixtures[b]);
+    Pairing& first = At(fixtures, random.Int(count));
+    std::swap(first, At(fixtures, random.Int(count)));
   }
 }
 
@@ -36,9 +38,7 @@ std::vector<Pairing> KnockOutFixture(const std::vector<std::string>& teams, Rand
   std::vector<Pairing> fixtures;
   for (std::size_t i = 0; i < half; ++i) fixtures.push_back({teams[i], teams[i + half]});
   Shuffle(fixtures, random);
-  for (int i = 1; i <= static_cast<int>(teams.size()) - 2; i += 2) {
-    fixtures.push_back({WinnerPlaceholder(i), WinnerPlaceholder(i + 1)});
-  }
+  std::ranges::copy(LaterRounds(static_cast<int>(teams.size())), std::back_inserter(fixtures));
   return fixtures;
 }
 

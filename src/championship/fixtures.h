@@ -5,20 +5,13 @@
 #include <vector>
 
 #include "base/random.h"
+#include "data/championship.h"
 
 namespace kickwell {
-
-/// Who plays whom, and where.
-struct Pairing {
-  std::string Home, Away;
-
-  bool operator==(const Pairing&) const = default;
-};
 
 inline constexpr int MostFixtures = 1001;              ///< Of one championship.
 inline constexpr int MostTeamsOfGeneratedLeague = 32;  ///< Their fixtures are no more than MostFixtures.
 inline constexpr int MostTeamsOfLeague = 100;
-inline constexpr int MostTeamsOfKnockOut = 16;
 
 /// The double round robin of `teams`, in an order drawn: every ordered pair of teams once.
 std::vector<Pairing> LeagueFixture(const std::vector<std::string>& teams, Random& random);

@@ -1,25 +1,15 @@
 #include "championship/leg_editor.h"
 
-#include <algorithm>
-#include <optional>
-#include <set>
 #include <utility>
 
+#include "base/at.h"
+#include "data/championship_store.h"
 #include "data/file_names.h"
+#include "data/knock_out.h"
 #include "data/team_store.h"
+#include "data/tell_failure.h"
 
 namespace kickwell {
-namespace {
-
-/// The number of teams of a knock-out that is nearest to `count` from below: 2, 4, 8 or 16.
-int BracketSize(int count) {
-  int size = 2;
-  while (size < MostTeamsOfKnockOut && size * 2 <= count) size *= 2;
-  return size;
-}
-
-}  // namespace
-
 LegEditor::LegEditor(ProgramFolder folder, Desktop& desktop, Random& random)
     : folder_(std::move(folder)), desktop_(desktop), random_(random) {
   Form_Load();
@@ -56,11 +46,11 @@ void LegEditor::MoreTeams_Click() {
 }
 
 void LegEditor::FewerTeams_Click() {
-  if (KnockOut.NumberOfTeams > 2) KnockOut.NumberOfTeams /= 2;
+  if (KnockOut.NumberOfTeams > FewestTeamsOfKnockOut) KnockOut.NumberOfTeams /= 2;
 }
 
 void LegEditor::ShowFixture(EditorSide& side, Pairing fixture) {
-  side.FixtureList.Add(FixtureText(side.FixtureList.Count() + 1, fixture.Home, fixture.Away));
+  side.FixtureList.Add(FixtureText(side.FixtureList.Count() + 1, fixture));
   side.Table.push_back(std::move(fixture));
 }
 
@@ -108,29 +98,13 @@ void LegEditor::AddFixture_Click() {
   }
 }
 
-bool LegEditor::IsKnockOut(const EditorSide& side) {
-  const std::set<std::string> teams(side.Selected.Entries.begin(), side.Selected.Entries.end());
-  const auto count = static_cast<int>(teams.size());
-  if (count != side.Selected.Count() || count != side.NumberOfTeams ||
-      side.FixtureList.Count() != count - 1) {
-    return false;
-  }
-  int number = 0;
-  const auto known = [&](const std::string& entry) {
-    const int earlier = PlaceholderNumber(entry);
-    return (earlier > 0 && earlier < number) || teams.contains(entry) || teams.contains(WithoutToss(entry));
-  };
-  return std::all_of(side.Table.begin(), side.Table.end(), [&](const Pairing& fixture) {
-    ++number;
-    return known(fixture.Home) && known(fixture.Away);
-  });
-}
-
 bool LegEditor::MayBeSaved(const EditorSide& side) {
   const bool league = side.Kind == ChampionshipKind::League;
+  const bool holdsKnockOut =
+      side.Selected.Count() == side.NumberOfTeams && IsKnockOut(side.Selected.Entries, side.Table);
   if (side.Selected.Count() < 2) {
     desktop_.Inform("Please select the championship teams properly");
-  } else if (side.Table.empty() || (!league && !IsKnockOut(side))) {
+  } else if (side.Table.empty() || (!league && !holdsKnockOut)) {
     desktop_.Inform("Please add the championship fixtures properly");
   } else if (side.Name.empty()) {
     desktop_.Inform("Please enter a name for the championship");
@@ -146,13 +120,13 @@ bool LegEditor::MayBeSaved(const EditorSide& side) {
 
 void LegEditor::Save_Click(EditorSide& side) {
   if (!MayBeSaved(side)) return;
-  const std::string fileName = MainFileName(side.Kind, side.Name);
-  const bool known = ChampionshipExists(folder_, side.Kind, fileName);
+  const ChampionshipId id{side.Kind, side.Name};
+  const bool known = ChampionshipExists(folder_, id);
   if (!desktop_.Ask(known ? "Do you want to overwrite " + side.Name + "?"
                           : "Are you sure you want to add " + side.Name + "?")) {
     return;
   }
-  Championship championship{side.Kind, side.Name, side.Selected.Entries, {}};
+  Championship championship{id, side.Selected.Entries, {}};
   for (const Pairing& fixture : side.Table) {
     const int number = static_cast<int>(championship.Fixtures.size()) + 1;
     championship.Fixtures.push_back({NotPlayed, fixture.Home, fixture.Away, WinnerPlaceholder(number)});
@@ -160,26 +134,28 @@ void LegEditor::Save_Click(EditorSide& side) {
   if (known) {
     TellFailure(desktop_, ReplaceChampionship(folder_, championship));
   } else if (TellFailure(desktop_, WriteChampionship(folder_, championship))) {
-    side.Load.Add(fileName);
+    side.Load.Add(MainFileName(id));
     Load_Click(side, side.Load.Count() - 1);
   }
 }
 
 void LegEditor::Load_Click(EditorSide& side, int entry) {
+  const auto [loaded, result] =
+      ReadChampionship(folder_, IdOfMainFile(side.Kind, At(side.Load.Entries, entry)));
+  if (!TellFailure(desktop_, result)) return;
   side.Load.Picked = entry;
-  const std::optional<Championship> loaded = ReadChampionship(folder_, side.Kind, side.Load.Text());
   if (!loaded) return;
   side.Available.Entries = ListTeams(folder_);
   side.Selected = side.FixtureList = side.Home = side.Away = {};
   side.Table.clear();
-  side.Name = loaded->Name;
+  side.Name = loaded->Id.Name;
   for (const std::string& team : loaded->Teams) {
     side.Selected.Insert(team, ListedBefore);
     std::erase(side.Available.Entries, team);
   }
   side.Available.PickFirst();
   side.Home.Entries = side.Away.Entries = side.Selected.Entries;
-  side.NumberOfTeams = BracketSize(side.Selected.Count());
+  side.NumberOfTeams = KnockOutSizeWithin(side.Selected.Count());
   for (const Fixture& fixture : loaded->Fixtures) ShowFixture(side, {fixture.Home, fixture.Away});
   side.ManualEntry = true;
 }
@@ -195,7 +171,7 @@ void LegEditor::Delete_Click(EditorSide& side) {
     return;
   }
   if (!desktop_.Ask("Are you sure you want to remove " + fileName + "?")) return;
-  if (!TellFailure(desktop_, DeleteChampionship(folder_, side.Kind, NameOfMainFile(fileName)))) return;
+  if (!TellFailure(desktop_, DeleteChampionship(folder_, IdOfMainFile(side.Kind, fileName)))) return;
   side.Load.RemoveAt(side.Load.Picked);
   side.Load.PickFirst();
 }

@@ -6,10 +6,10 @@
 
 #include "base/desktop.h"
 #include "base/item_list.h"
-#include "base/program.h"
 #include "base/random.h"
 #include "championship/fixtures.h"
-#include "data/championship_store.h"
+#include "data/championship.h"
+#include "data/program_folder.h"
 
 namespace kickwell {
 
@@ -46,8 +46,8 @@ class LegEditor {
   void Load_Click(EditorSide& side, int entry);
   void Delete_Click(EditorSide& side);
 
-  void
-  AddFixture_Click();  ///< Appends the home and away teams picked; the first one replaces a generated list.
+  /// Adds a fixture of the home and away teams picked. The first one replaces a generated list.
+  void AddFixture_Click();
   void MoreTeams_Click();   ///< Doubles the number of teams, up to 16.
   void FewerTeams_Click();  ///< Halves it, down to 2.
   void Exit_Click() { Closed = true; }
@@ -59,7 +59,6 @@ class LegEditor {
 
  private:
   static void ShowFixture(EditorSide& side, Pairing fixture);
-  static bool IsKnockOut(const EditorSide& side);
   bool MayBeSaved(const EditorSide& side);
 
   ProgramFolder folder_;

@@ -5,16 +5,15 @@
 
 #include "base/desktop.h"
 #include "base/item_list.h"
-#include "base/program.h"
-#include "data/championship_store.h"
+#include "data/championship.h"
+#include "data/program_folder.h"
 
 namespace kickwell {
 
 class LegResults {
  public:
   /// Reads the results log; there may be none.
-  LegResults(const ProgramFolder& folder, Desktop& desktop, ChampionshipKind kind,
-             const std::string& championship);
+  LegResults(ProgramFolder folder, Desktop& desktop, const ChampionshipId& id);
 
   void Command2_Click();  ///< Asks for a file name and writes the list as an HTML page.
   void Command1_Click() { Closed = true; }
@@ -26,6 +25,7 @@ class LegResults {
   bool Closed = false;
 
  private:
+  ProgramFolder folder_;
   Desktop& desktop_;
 };
 

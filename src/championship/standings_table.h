@@ -3,8 +3,9 @@
 
 #include <string>
 
-#include "base/program.h"
+#include "base/desktop.h"
 #include "championship/ranking.h"
+#include "data/program_folder.h"
 
 namespace kickwell {
 
@@ -14,6 +15,6 @@ inline constexpr int MostStandings = 100;  ///< Rows of a table.
 /// teams level in all three stay in the order of the file. Columns: rank, team, played, won, tied, lost,
 /// goals for, goals against, points. Without a standings file all teams are there with zeros; without a
 /// league file nothing is.
-Ranking StandingsTable(const ProgramFolder& folder, const std::string& league);
+Ranking StandingsTable(const ProgramFolder& folder, Desktop& desktop, const std::string& league);
 
 }  // namespace kickwell

@@ -1,15 +1,19 @@
 #include "championship/top_scorers.h"
 
 #include <algorithm>
+#include <functional>
+
+#include "data/championship_store.h"
+#include "data/tell_failure.h"
 
 namespace kickwell {
 
-Ranking TopScorers(const ProgramFolder& folder, ChampionshipKind kind, const std::string& championship) {
+Ranking TopScorers(const ProgramFolder& folder, Desktop& desktop, const ChampionshipId& id) {
   Ranking list;
-  list.Label1 = championship + " Goal Scorers";
-  std::vector<ScorerRow> scorers = ReadScorers(folder, kind, championship);
-  std::stable_sort(scorers.begin(), scorers.end(),
-                   [](const ScorerRow& a, const ScorerRow& b) { return a.Goals > b.Goals; });
+  list.Label1 = id.Name + " Goal Scorers";
+  auto [scorers, result] = ReadScorers(folder, id);
+  TellFailure(desktop, result);
+  std::ranges::stable_sort(scorers, std::greater(), &ScorerRow::Goals);
   list.Rows.reserve(scorers.size());
   for (ScorerRow& row : scorers) {
     list.Rows.push_back({std::to_string(list.Rows.size() + 1), std::move(row.Player), std::move(row.Team),

@@ -3,14 +3,15 @@
 
 #include <string>
 
-#include "base/program.h"
+#include "base/desktop.h"
 #include "championship/ranking.h"
-#include "data/championship_store.h"
+#include "data/championship.h"
+#include "data/program_folder.h"
 
 namespace kickwell {
 
 /// All scorers, most goals first; those with equally many in the order in which they first scored. Columns:
 /// rank, player, team, goals.
-Ranking TopScorers(const ProgramFolder& folder, ChampionshipKind kind, const std::string& championship);
+Ranking TopScorers(const ProgramFolder& folder, Desktop& desktop, const ChampionshipId& id);
 
 }  // namespace kickwell

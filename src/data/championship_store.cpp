@@ -5,6 +5,8 @@
 
 #include "base/number.h"
 #include "data/file_names.h"
+#include "data/line_reader.h"
+#include "data/text_file.h"
 
 namespace kickwell {
 namespace {
@@ -15,83 +17,59 @@ constexpr const char* Results = ".lrs";
 
 constexpr std::size_t StandingsLines = 8, ScorerLines = 3;  ///< Of a row.
 
-constexpr std::string_view WinnerOf = "Winner ";
+bool IsLeague(ChampionshipKind kind) {
+  return kind == ChampionshipKind::League;
+}
 
 const char* MainExtension(ChampionshipKind kind) {
-  return kind == ChampionshipKind::League ? ".leg" : ".trn";
+  return IsLeague(kind) ? ".leg" : ".trn";
+}
+
+std::size_t FixtureLines(ChampionshipKind kind) {
+  return IsLeague(kind) ? 3 : 4;
 }
 
 std::filesystem::path FolderOf(const ProgramFolder& folder, ChampionshipKind kind) {
-  return kind == ChampionshipKind::League ? folder.Leagues() : folder.Tournies();
+  return IsLeague(kind) ? folder.Leagues() : folder.Tournies();
 }
 
-/// A championship's file from the program folder, as changes name it.
-std::string FileIn(ChampionshipKind kind, const std::string& fileName) {
-  return (FolderOf({}, kind) / fileName).string();
+std::filesystem::path PathOf(const ProgramFolder& folder, const ChampionshipId& id, const char* extension) {
+  return FolderOf(folder, id.Kind) / (id.Name + extension);
 }
 
-Lines ReadFile(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName,
-               FileResult* failure = nullptr) {
-  if (!StaysInFolder(fileName)) return {};
-  return ReadLines(FolderOf(folder, kind) / fileName, failure).value_or(Lines{});
+/// A championship's file by its path from the program folder, as changes name it.
+std::string FileIn(const ChampionshipId& id, const char* extension) {
+  return (IsLeague(id.Kind) ? "Leagues/" : "Tournies/") + id.Name + extension;
 }
 
-FileResult WriteFile(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName,
-                     const Lines& lines) {
-  if (!StaysInFolder(fileName)) return {FileNameRefusal(fileName)};
-  return WriteLines(FolderOf(folder, kind) / fileName, lines, folder.Root);
+/// The lines of a championship's file; none when there is no such file.
+Loaded<std::optional<TextLines>> ReadFile(const ProgramFolder& folder, const ChampionshipId& id,
+                                          const char* extension) {
+  if (!StaysInFolder(id.Name + extension)) return {};
+  return ReadText(folder.Files(), PathOf(folder, id, extension));
 }
 
-/// Lines taken one after the other; empty ones after the last.
-class Reader {
- public:
-  explicit Reader(Lines lines) : lines_(std::move(lines)) {}
-
-  std::size_t Left() const { return lines_.size() - place_; }
-  std::string Take() { return place_ < lines_.size() ? std::move(lines_[place_++]) : std::string(); }
-
-  /// A count line, at most as many records of `recordLines` lines as are left behind it.
-  std::size_t TakeCount(std::size_t recordLines) {
-    const int count = ToNumber(Take());
-    return count < 0 ? 0 : std::min(static_cast<std::size_t>(count), Left() / recordLines);
-  }
-
- private:
-  Lines lines_;
-  std::size_t place_ = 0;
-};
-
-/// The lines of a main file; nothing when there is none.
-std::optional<Reader> OpenMain(const ProgramFolder& folder, ChampionshipKind kind,
-                               const std::string& fileName, FileResult* failure = nullptr) {
-  if (!StaysInFolder(fileName)) return std::nullopt;
-  std::optional<Lines> lines = ReadLines(FolderOf(folder, kind) / fileName, failure);
-  if (!lines) return std::nullopt;
-  return Reader(std::move(*lines));
+FileResult WriteFile(const ProgramFolder& folder, const ChampionshipId& id, const char* extension,
+                     const EncodedText& text) {
+  if (!StaysInFolder(id.Name + extension)) return {FileNameRefusal(id.Name + extension)};
+  return ReplaceFile(folder.Files(), PathOf(folder, id, extension), text.Bytes(), folder.Root);
 }
 
-std::vector<std::string> TakeTeams(Reader& reader) {
-  std::vector<std::string> teams(reader.TakeCount(1));
-  for (std::string& team : teams) team = reader.Take();
-  return teams;
-}
-
-std::vector<Fixture> TakeFixtures(Reader& reader, std::size_t count, bool withWinner) {
+std::vector<Fixture> TakeFixtures(LineReader& reader, std::size_t count, ChampionshipKind kind) {
   std::vector<Fixture> fixtures(count);
   for (Fixture& fixture : fixtures) {
-    fixture.Status = reader.Take();
-    fixture.Home = reader.Take();
-    fixture.Away = reader.Take();
-    if (withWinner) fixture.Winner = reader.Take();
+    fixture.Status = reader.Text();
+    fixture.Home = reader.Text();
+    fixture.Away = reader.Text();
+    if (!IsLeague(kind)) fixture.Winner = reader.Text();
   }
   return fixtures;
 }
 
-/// The deletion of all companions.
-std::vector<ChangedFile> DeletedCompanions(ChampionshipKind kind, const std::string& name) {
+std::vector<ChangedFile> DeletedCompanions(const ChampionshipId& id) {
   std::vector<ChangedFile> deleted;
-  for (const char* extension : {Scorers, Results}) deleted.push_back({FileIn(kind, name + extension), {}});
-  if (kind == ChampionshipKind::League) deleted.push_back({FileIn(kind, name + Standings), {}});
+  for (const char* extension : {Scorers, Results}) deleted.push_back({FileIn(id, extension), {}});
+  if (IsLeague(id.Kind)) deleted.push_back({FileIn(id, Standings), {}});
   return deleted;
 }
 
@@ -101,94 +79,72 @@ FileResult ChangeAfterFinishing(const ProgramFolder& folder, const std::vector<C
   return finished.Ok() ? ChangeFiles(folder, changes) : finished;
 }
 
+/// Adds the complete records of `lines`; what an incomplete one at the end holds is left out.
+void AddRecords(EncodedText& text, const TextLines& lines, std::size_t recordLines) {
+  const std::size_t complete = lines.size() / recordLines * recordLines;
+  for (std::size_t i = 0; i < complete; ++i) text.Add(lines[i]);
+}
+
 }  // namespace
 
-std::string WinnerPlaceholder(int number) {
-  return std::string(WinnerOf) + std::to_string(number);
+std::string MainFileName(const ChampionshipId& id) {
+  return id.Name + MainExtension(id.Kind);
 }
 
-int PlaceholderNumber(std::string_view text) {
-  if (!text.starts_with(WinnerOf)) return 0;
-  const int number = ToNumber(text.substr(WinnerOf.size()));
-  return text == WinnerPlaceholder(number) ? std::max(number, 0) : 0;
-}
-
-std::string WithoutToss(const std::string& name) {
-  return name.ends_with(TossSuffix) ? name.substr(0, name.size() - TossSuffix.size()) : name;
-}
-
-std::string FixtureText(int number, const std::string& home, const std::string& away) {
-  return "Match " + std::to_string(number) + ": " + home + " v " + away;
-}
-
-std::string MainFileName(ChampionshipKind kind, const std::string& name) {
-  return name + MainExtension(kind);
-}
-
-std::string NameOfMainFile(const std::string& fileName) {
-  return fileName.substr(0, fileName.rfind('.'));
+ChampionshipId IdOfMainFile(ChampionshipKind kind, const std::string& fileName) {
+  return {kind, fileName.substr(0, fileName.rfind('.'))};
 }
 
 std::vector<std::string> ListChampionships(const ProgramFolder& folder, ChampionshipKind kind) {
-  return ListFiles(FolderOf(folder, kind), MainExtension(kind));
+  return ListFiles(folder.Files(), FolderOf(folder, kind), MainExtension(kind));
 }
 
-bool ChampionshipExists(const ProgramFolder& folder, ChampionshipKind kind, const std::string& fileName) {
-  return StaysInFolder(fileName) && FileExists(FolderOf(folder, kind) / fileName);
+bool ChampionshipExists(const ProgramFolder& folder, const ChampionshipId& id) {
+  return StaysInFolder(MainFileName(id)) &&
+         FileExists(folder.Files(), PathOf(folder, id, MainExtension(id.Kind)));
 }
 
-std::optional<Championship> ReadChampionship(const ProgramFolder& folder, ChampionshipKind kind,
-                                             const std::string& fileName, FileResult* failure) {
-  std::optional<Reader> main = OpenMain(folder, kind, fileName, failure);
-  if (!main) return std::nullopt;
-  Reader& reader = *main;
-  Championship read{kind, {}, {}, {}};
-  std::size_t fixtures = 0;
-  const bool league = kind == ChampionshipKind::League;
-  const std::size_t fixtureLines = league ? 3 : 4;
-  if (league) {
-    read.Name = reader.Take();
-    read.Teams = TakeTeams(reader);
-    fixtures = reader.TakeCount(fixtureLines);
-  } else {
-    const int promised = ToNumber(reader.Take());
-    read.Name = reader.Take();
-    read.Teams = TakeTeams(reader);
-    fixtures = std::min(static_cast<std::size_t>(std::max(promised, 0)), reader.Left() / fixtureLines);
-  }
-  read.Fixtures = TakeFixtures(reader, fixtures, !league);
-  return read;
+Loaded<std::optional<Championship>> ReadChampionship(const ProgramFolder& folder, const ChampionshipId& id) {
+  const auto [lines, result] = ReadFile(folder, id, MainExtension(id.Kind));
+  if (!lines) return {std::nullopt, result};
+  LineReader reader(*lines);
+  const std::size_t fixtureLines = FixtureLines(id.Kind);
+  const int promised = IsLeague(id.Kind) ? 0 : reader.Number();  // Of fixtures: a knock-out begins with them.
+  Championship read{{id.Kind, reader.Text()}, {}, {}};
+  read.Teams.resize(reader.Count(1));
+  for (std::string& team : read.Teams) team = reader.Text();
+  const std::size_t fixtures = IsLeague(id.Kind) ? reader.Count(fixtureLines)
+                                                 : std::min(static_cast<std::size_t>(std::max(promised, 0)),
+                                                            reader.RecordsLeft(fixtureLines));
+  read.Fixtures = TakeFixtures(reader, fixtures, id.Kind);
+  return {std::move(read)};
 }
 
-std::optional<Bracket> ReadBracket(const ProgramFolder& folder, const std::string& name) {
-  constexpr ChampionshipKind Kind = ChampionshipKind::KnockOut;
-  std::optional<Reader> main = OpenMain(folder, Kind, MainFileName(Kind, name));
-  if (!main) return std::nullopt;
-  Reader& reader = *main;
-  reader.Take();  // The number of fixtures.
-  Bracket bracket;
-  bracket.Name = reader.Take();
-  bracket.TeamCount = ToNumber(reader.Take());
-  for (int i = 0; i < bracket.TeamCount && reader.Left() > 0; ++i) reader.Take();
-  bracket.Fixtures = TakeFixtures(reader, reader.Left() / 4, true);
-  return bracket;
+Loaded<std::optional<Bracket>> ReadBracket(const ProgramFolder& folder, const ChampionshipId& id) {
+  const auto [lines, result] = ReadFile(folder, id, MainExtension(id.Kind));
+  if (!lines) return {std::nullopt, result};
+  LineReader reader(*lines);
+  reader.View();  // The number of fixtures.
+  Bracket bracket{reader.Text(), reader.Number(), {}};
+  for (int i = 0; i < bracket.TeamCount && reader.RecordsLeft(1) > 0; ++i) reader.View();
+  bracket.Fixtures = TakeFixtures(reader, reader.RecordsLeft(FixtureLines(id.Kind)), id.Kind);
+  return {std::move(bracket)};
 }
 
 ChangedFile ChangedChampionship(const Championship& championship) {
-  const bool league = championship.Kind == ChampionshipKind::League;
-  const std::string count = std::to_string(championship.Fixtures.size());
-  Lines lines;
-  lines.reserve(4 + championship.Teams.size() + 4 * championship.Fixtures.size());
-  if (!league) lines.push_back(count);
-  lines.push_back(championship.Name);
-  lines.push_back(std::to_string(championship.Teams.size()));
-  lines.insert(lines.end(), championship.Teams.begin(), championship.Teams.end());
-  if (league) lines.push_back(count);
+  const ChampionshipId& id = championship.Id;
+  const int fixtures = static_cast<int>(championship.Fixtures.size());
+  EncodedText text;
+  if (!IsLeague(id.Kind)) text.Add(fixtures);
+  text.Add(id.Name);
+  text.Add(static_cast<int>(championship.Teams.size()));
+  for (const std::string& team : championship.Teams) text.Add(team);
+  if (IsLeague(id.Kind)) text.Add(fixtures);
   for (const Fixture& fixture : championship.Fixtures) {
-    for (const std::string* line : {&fixture.Status, &fixture.Home, &fixture.Away}) lines.push_back(*line);
-    if (!league) lines.push_back(fixture.Winner);
+    for (const std::string* line : {&fixture.Status, &fixture.Home, &fixture.Away}) text.Add(*line);
+    if (!IsLeague(id.Kind)) text.Add(fixture.Winner);
   }
-  return {FileIn(championship.Kind, MainFileName(championship.Kind, championship.Name)), Encode(lines)};
+  return {FileIn(id, MainExtension(id.Kind)), text.Bytes()};
 }
 
 FileResult WriteChampionship(const ProgramFolder& folder, const Championship& championship) {
@@ -196,99 +152,111 @@ FileResult WriteChampionship(const ProgramFolder& folder, const Championship& ch
 }
 
 FileResult ReplaceChampionship(const ProgramFolder& folder, const Championship& championship) {
-  std::vector<ChangedFile> changes = DeletedCompanions(championship.Kind, championship.Name);
+  std::vector<ChangedFile> changes = DeletedCompanions(championship.Id);
   changes.insert(changes.begin(), ChangedChampionship(championship));
   return ChangeAfterFinishing(folder, changes);
 }
 
-FileResult DeleteChampionship(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name) {
-  std::vector<ChangedFile> changes = DeletedCompanions(kind, name);
-  changes.insert(changes.begin(), {FileIn(kind, MainFileName(kind, name)), {}});
+FileResult DeleteChampionship(const ProgramFolder& folder, const ChampionshipId& id) {
+  std::vector<ChangedFile> changes = DeletedCompanions(id);
+  changes.insert(changes.begin(), {FileIn(id, MainExtension(id.Kind)), {}});
   return ChangeAfterFinishing(folder, changes);
 }
 
-std::vector<StandingsRow> ReadStandings(const ProgramFolder& folder, const std::string& league,
-                                        const std::vector<std::string>& teams, FileResult* failure) {
-  Reader reader(ReadFile(folder, ChampionshipKind::League, league + Standings, failure));
-  std::vector<StandingsRow> standings(std::min(teams.size(), reader.Left() / StandingsLines));
+Loaded<std::vector<StandingsRow>> ReadStandings(const ProgramFolder& folder, const ChampionshipId& league,
+                                                const std::vector<std::string>& teams) {
+  const auto [lines, result] = ReadFile(folder, league, Standings);
+  LineReader reader(lines.value_or(TextLines()));
+  std::vector<StandingsRow> standings(std::min(teams.size(), reader.RecordsLeft(StandingsLines)));
   for (StandingsRow& row : standings) {
-    row.Team = reader.Take();
-    for (int* figure :
-         {&row.Played, &row.Won, &row.Drawn, &row.Lost, &row.GoalsFor, &row.GoalsAgainst, &row.Points}) {
-      *figure = ToNumber(reader.Take());
-    }
+    row.Team = reader.Text();
+    for (const auto figure : StandingsRow::Figures()) row.*figure = reader.Number();
   }
   for (const std::string& team : teams) {
-    const auto isTeam = [&team](const StandingsRow& row) { return row.Team == team; };
     if (standings.size() == teams.size()) break;
-    if (std::none_of(standings.begin(), standings.end(), isTeam)) standings.push_back({team});
+    if (std::ranges::find(standings, team, &StandingsRow::Team) == standings.end())
+      standings.push_back({team});
   }
-  return standings;
+  return {std::move(standings), result};
 }
 
-ChangedFile ChangedStandings(const std::string& league, const std::vector<StandingsRow>& standings) {
-  Lines lines;
+ChangedFile ChangedStandings(const ChampionshipId& league, const std::vector<StandingsRow>& standings) {
+  EncodedText text;
   for (const StandingsRow& row : standings) {
-    lines.push_back(row.Team);
-    for (const int figure :
-         {row.Played, row.Won, row.Drawn, row.Lost, row.GoalsFor, row.GoalsAgainst, row.Points}) {
-      lines.push_back(std::to_string(figure));
-    }
+    text.Add(row.Team);
+    for (const auto figure : StandingsRow::Figures()) text.Add(row.*figure);
   }
-  return {FileIn(ChampionshipKind::League, league + Standings), Encode(lines)};
+  return {FileIn(league, Standings), text.Bytes()};
 }
 
-FileResult AppendStandings(const ProgramFolder& folder, const std::string& league, const std::string& team) {
-  if (!ChampionshipExists(folder, ChampionshipKind::League, league + Standings)) return {};
-  FileResult failure = FinishChanges(folder);
-  if (!failure.Ok()) return failure;
-  Lines lines = ReadFile(folder, ChampionshipKind::League, league + Standings, &failure);
-  if (!failure.Ok()) return failure;
-  lines.resize(lines.size() / StandingsLines * StandingsLines);
-  lines.push_back(team);
-  lines.resize(lines.size() + StandingsLines - 1, "0");
-  return WriteFile(folder, ChampionshipKind::League, league + Standings, lines);
+FileResult AppendStandings(const ProgramFolder& folder, const ChampionshipId& league,
+                           const std::string& team) {
+  FileResult finished = FinishChanges(folder);
+  if (!finished.Ok()) return finished;
+  const auto [lines, result] = ReadFile(folder, league, Standings);
+  if (!lines) return result;
+  EncodedText text;
+  AddRecords(text, *lines, StandingsLines);
+  text.Add(team);
+  for (std::size_t i = 0; i < StandingsRow::Figures().size(); ++i) text.Add(0);
+  return WriteFile(folder, league, Standings, text);
 }
 
-std::vector<ScorerRow> ReadScorers(const ProgramFolder& folder, ChampionshipKind kind,
-                                   const std::string& name, FileResult* failure) {
-  Reader reader(ReadFile(folder, kind, name + Scorers, failure));
-  std::vector<ScorerRow> scorers(reader.Left() / ScorerLines);
+Loaded<std::vector<ScorerRow>> ReadScorers(const ProgramFolder& folder, const ChampionshipId& id) {
+  const auto [lines, result] = ReadFile(folder, id, Scorers);
+  LineReader reader(lines.value_or(TextLines()));
+  std::vector<ScorerRow> scorers(reader.RecordsLeft(ScorerLines));
   for (ScorerRow& row : scorers) {
-    row.Player = reader.Take();
-    row.Team = reader.Take();
-    row.Goals = ToNumber(reader.Take());
+    row.Player = reader.Text();
+    row.Team = reader.Text();
+    row.Goals = reader.Number();
   }
-  return scorers;
+  return {std::move(scorers), result};
 }
 
-FileResult AddGoal(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
-                   const std::string& player, const std::string& team) {
-  FileResult failure = FinishChanges(folder);
-  if (!failure.Ok()) return failure;
-  Lines lines = ReadFile(folder, kind, name + Scorers, &failure);
-  if (!failure.Ok()) return failure;
-  lines.resize(lines.size() / ScorerLines * ScorerLines);
+FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const ScorerRow& scored) {
+  FileResult finished = FinishChanges(folder);
+  if (!finished.Ok()) return finished;
+  const auto [lines, result] = ReadFile(folder, id, Scorers);
+  if (!result.Ok()) return result;
+  LineReader reader(lines.value_or(TextLines()));
+  EncodedText text;
   bool known = false;
-  for (std::size_t i = 0; i < lines.size(); i += ScorerLines) {
-    if (lines[i] != player) continue;
-    lines[i + 2] = std::to_string(Raised(ToNumber(lines[i + 2]), 1));
+  while (reader.RecordsLeft(ScorerLines) > 0) {
+    const std::string_view player = reader.View(), team = reader.View(), goals = reader.View();
+    text.Add(player);
+    text.Add(team);
+    if (player != scored.Player) {
+      text.Add(goals);
+      continue;
+    }
+    text.Add(Raised(ToNumber(goals), scored.Goals));
     known = true;
   }
-  if (!known) lines.insert(lines.end(), {player, team, "1"});
-  return WriteFile(folder, kind, name + Scorers, lines);
+  if (!known) {
+    text.Add(scored.Player);
+    text.Add(scored.Team);
+    text.Add(scored.Goals);
+  }
+  return WriteFile(folder, id, Scorers, text);
 }
 
-Lines ReadResults(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name) {
-  return ReadFile(folder, kind, name + Results);
+Loaded<Lines> ReadResults(const ProgramFolder& folder, const ChampionshipId& id) {
+  const auto [lines, result] = ReadFile(folder, id, Results);
+  if (!lines) return {{}, result};
+  return {Lines(lines->begin(), lines->end())};
 }
 
-ChangedFile ChangedResults(const ProgramFolder& folder, ChampionshipKind kind, const std::string& name,
-                           const std::array<std::string, 5>& block, FileResult* failure) {
-  const std::string fileName = name + Results;
-  std::optional<std::string> bytes;
-  if (StaysInFolder(fileName)) bytes = ReadWholeFile(FolderOf(folder, kind) / fileName, failure);
-  return {FileIn(kind, fileName), EncodeBehind(std::move(bytes).value_or(""), {block.begin(), block.end()})};
+Loaded<ChangedFile> ChangedResults(const ProgramFolder& folder, const ChampionshipId& id,
+                                   const std::array<std::string, 5>& block) {
+  const auto [lines, result] = ReadFile(folder, id, Results);
+  EncodedText text;
+  if (lines && !lines->empty()) {
+    AddRecords(text, *lines, 1);
+    text.Add("");
+  }
+  for (const std::string& line : block) text.Add(line);
+  return {{FileIn(id, Results), text.Bytes()}, result};
 }
 
 }  // namespace kickwell

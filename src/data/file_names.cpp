@@ -4,7 +4,7 @@
 #include <array>
 #include <cctype>
 #include <locale>
-#include <system_error>
+#include <stdexcept>
 #include <utility>
 
 #include "data/text_encoding.h"
@@ -37,15 +37,15 @@ std::u32string CaseKey(std::string_view text) {
 bool IsDeviceName(std::string_view name) {
   std::string base(name.substr(0, name.find('.')));
   while (base.ends_with(' ')) base.pop_back();
-  std::transform(base.begin(), base.end(), base.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  std::ranges::transform(base, base.begin(),
+                         [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
   constexpr std::array Devices = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
-  if (std::find(Devices.begin(), Devices.end(), base) != Devices.end()) return true;
+  if (std::ranges::find(Devices, base) != Devices.end()) return true;
   if (!base.starts_with("COM") && !base.starts_with("LPT")) return false;
   const std::string_view port = std::string_view(base).substr(3);
   constexpr std::array<std::string_view, 3> Superscripts = {"\u00B9", "\u00B2", "\u00B3"};
   return (port.size() == 1 && port[0] >= '0' && port[0] <= '9') ||
-         std::find(Superscripts.begin(), Superscripts.end(), port) != Superscripts.end();
+         std::ranges::find(Superscripts, port) != Superscripts.end();
 }
 
 }  // namespace
@@ -58,7 +58,7 @@ bool IsFileName(std::string_view name) {
     return c < 0x20 || (c >= 0x7F && c < 0xA0) ||
            std::u32string_view(U"/\\:*?\"<>|").find(c) != std::u32string::npos;
   };
-  return std::none_of(points.begin(), points.end(), forbidden) && !IsDeviceName(name);
+  return std::ranges::none_of(points, forbidden) && !IsDeviceName(name);
 }
 
 std::string FileNameRefusal(std::string_view name) {
@@ -74,17 +74,13 @@ bool ListedBefore(std::string_view a, std::string_view b) {
   return std::pair(CaseKey(a), a) < std::pair(CaseKey(b), b);
 }
 
-std::vector<std::string> ListFiles(const std::filesystem::path& folder, std::string_view extension) {
+std::vector<std::string> ListFiles(FileSystem& files, const std::filesystem::path& folder,
+                                   std::string_view extension) {
   std::vector<std::pair<std::u32string, std::string>> found;  // With the case key, made once for each.
-  std::error_code error;
-  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-       entry.increment(error)) {
-    std::string name = entry->path().filename().string();
-    std::error_code typeError;
-    if (name.ends_with(extension) && entry->is_regular_file(typeError))
-      found.emplace_back(CaseKey(name), std::move(name));
+  for (std::string& name : files.List(folder)) {
+    if (name.ends_with(extension)) found.emplace_back(CaseKey(name), std::move(name));
   }
-  std::sort(found.begin(), found.end());
+  std::ranges::sort(found);
   std::vector<std::string> names;
   names.reserve(found.size());
   for (auto& [key, name] : found) names.push_back(std::move(name));

@@ -1,31 +1,33 @@
 // Names of files: which ones are safe to use, and folders listed in the order the user sees.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "data/file_system.h"
+
 namespace kickwell {
 
-/// Whether a new file may bear `name` on every common desktop system: no path separator, none of : * ? " < >
+/// Whether every common desktop system allows a new file of that name: no path separator, none of : * ? " < >
 /// |, no control character, no trailing dot or blank, not empty, no reserved device name (with or without an
 /// extension), at most 255 bytes.
 bool IsFileName(std::string_view name);
 
-/// What the user is told of a name that fails IsFileName.
+/// What the user reads about a name that fails IsFileName.
 std::string FileNameRefusal(std::string_view name);
 
-/// Whether `name` addresses an entry of its folder itself and nothing beyond it. Wider than IsFileName: a
-/// file that the user made by hand under a name of this system can be read.
+/// Whether `name` is an entry of its folder itself and nothing beyond it. Wider than IsFileName: what users
+/// name by hand as this system allows can be read.
 bool StaysInFolder(std::string_view name);
 
 /// Whether `a` comes before `b` in a listing: alphabetical ignoring letter case in any script, then by exact
 /// text.
 bool ListedBefore(std::string_view a, std::string_view b);
 
-/// The names of all regular files in `folder` that end in `extension`, in the order of
-/// ListedBefore; a folder that cannot be read lists none.
-std::vector<std::string> ListFiles(const std::filesystem::path& folder, std::string_view extension = "");
+/// The names of all regular files in `folder` that end in `extension`, in the order of ListedBefore; none
+/// when the folder cannot be read.
+std::vector<std::string> ListFiles(FileSystem& files, const std::filesystem::path& folder,
+                                   std::string_view extension = "");
 
 }  // namespace kickwell

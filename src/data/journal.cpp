@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "data/file_names.h"
+#include "data/text_file.h"
 
 namespace kickwell {
 namespace {
@@ -30,7 +31,7 @@ bool IsChampionshipFile(const ProgramFolder& folder, std::string_view file) {
   const auto ends = [name](std::string_view extension) { return name.ends_with(extension); };
   return (place == folder.Leagues().filename() || place == folder.Tournies().filename()) &&
          StaysInFolder(name) && name.find('\n') == std::string_view::npos &&
-         std::any_of(Extensions.begin(), Extensions.end(), ends);
+         std::ranges::any_of(Extensions, ends);
 }
 
 /// The journal's text is bytes, not encoded as other files are: a name must come back exactly.
@@ -40,7 +41,7 @@ std::string ToText(const std::vector<Step>& steps) {
   return text + std::string(LastLine) + "\n";
 }
 
-/// The steps of a journal; nothing when it makes no sense.
+/// The steps of a journal; none when it is damaged.
 std::optional<std::vector<Step>> FromText(const ProgramFolder& folder, const std::string& text) {
   std::vector<Step> steps;
   std::istringstream lines(text);
@@ -58,45 +59,70 @@ std::optional<std::vector<Step>> FromText(const ProgramFolder& folder, const std
 }
 
 FileResult Make(const ProgramFolder& folder, const Step& step) {
-  if (step.Temporary == Deleted) return DeleteFile(folder.Root / step.File);
-  return MoveIntoPlace(folder.Root / step.Temporary, folder.Root / step.File);
+  if (step.Temporary == Deleted) return DeleteFile(folder.Files(), folder.Root / step.File);
+  return MoveIntoPlace(folder.Files(), folder.Root / step.Temporary, folder.Root / step.File);
 }
 
-/// Whether a step that cannot be made has been made already, before an interruption.
+/// Whether a step that fails was made before an interruption.
 bool WasMade(const ProgramFolder& folder, const Step& step) {
-  return step.Temporary != Deleted && FileIsMissing(folder.Root / step.Temporary);
+  return step.Temporary != Deleted && FileIsMissing(folder.Files(), folder.Root / step.Temporary);
 }
 
-/// Ends the journal, for good: one that comes back after a power cut could meet files of a later one.
+/// Deletes the journal for good: if it came back after a power cut, it could apply to files of a later one.
 FileResult EndJournal(const ProgramFolder& folder) {
-  FileResult ended = DeleteFile(JournalOf(folder));
-  FlushFolderOf(JournalOf(folder));
+  FileResult ended = DeleteFile(folder.Files(), JournalOf(folder));
+  folder.Files().FlushFolderOf(JournalOf(folder));
   return ended;
 }
 
-/// Makes the steps, but for those that an earlier attempt has made, and ends the journal. `made` counts how
-/// many are made.
+/// Makes the steps that no earlier attempt has made, and ends the journal. `made` counts them.
 FileResult Follow(const ProgramFolder& folder, const std::vector<Step>& steps, std::size_t& made) {
   for (made = 0; made < steps.size(); ++made) {
     FileResult result = Make(folder, steps[made]);
     if (!result.Ok() && !WasMade(folder, steps[made])) return result;
   }
-  for (const Step& step : steps) FlushFolderOf(folder.Root / step.File);
+  for (const Step& step : steps) folder.Files().FlushFolderOf(folder.Root / step.File);
   return EndJournal(folder);
 }
 
-FileResult MayBeDeleted(const std::filesystem::path& file) {
-  std::error_code error;
-  if (FileIsMissing(file) || std::filesystem::is_regular_file(file, error)) return {};
-  return {"The file " + file.string() + " can't be deleted: it is no file."};
+FileResult MayBeDeleted(const ProgramFolder& folder, const Step& step) {
+  const std::filesystem::path file = folder.Root / step.File;
+  const FileKind kind = folder.Files().Ask(file);
+  if (kind == FileKind::Missing || kind == FileKind::File) return {};
+  return {"The file " + file.string() + " can't be deleted: It is not a file."};
 }
 
-void DeleteTemporaries(const ProgramFolder& folder, const std::vector<Step>& steps) {
-  for (const Step& step : steps) {
-    if (step.Temporary == Deleted) continue;
-    const FileResult left = DeleteFile(folder.Root / step.Temporary);
-    if (!left.Ok()) continue;  // Some later start tries again.
+/// The first half of a change: everything but the renaming, and then the journal.
+FileResult Prepare(const ProgramFolder& folder, const std::vector<Step>& steps,
+                   const std::vector<ChangedFile>& changes) {
+  FileSystem& files = folder.Files();
+  for (std::size_t i = 0; i < steps.size(); ++i) {
+    const Step& step = steps[i];
+    FileResult result = changes[i].Bytes ? PrepareFile(files, folder.Root / step.Temporary, *changes[i].Bytes,
+                                                       folder.Root / step.File)
+                                         : MayBeDeleted(folder, step);
+    if (!result.Ok()) return result;
   }
+  files.FlushFolderOf(JournalOf(folder));  // The temporary files must be on the disk when the journal is.
+  return ReplaceFile(files, JournalOf(folder), ToText(steps), folder.Root);
+}
+
+/// Takes back a change of which nothing has been renamed. A temporary file that stays is deleted by a later
+/// start.
+void TakeBack(const ProgramFolder& folder, const std::vector<Step>& steps) {
+  if (!EndJournal(folder).Ok()) return;
+  for (const Step& step : steps) {
+    if (step.Temporary != Deleted) folder.Files().Delete(folder.Root / step.Temporary);
+  }
+}
+
+/// A name for a damaged journal that no other file has.
+std::filesystem::path PlaceAside(const ProgramFolder& folder) {
+  std::filesystem::path aside = folder.Root / "unfinished.bad";
+  for (int i = 2; FileExists(folder.Files(), aside); ++i) {
+    aside = folder.Root / ("unfinished-" + std::to_string(i) + ".bad");
+  }
+  return aside;
 }
 
 }  // namespace
@@ -106,53 +132,41 @@ FileResult ChangeFiles(const ProgramFolder& folder, const std::vector<ChangedFil
   for (const ChangedFile& change : changes) {
     if (!IsChampionshipFile(folder, change.File)) return {FileNameRefusal(change.File)};
     const int number = static_cast<int>(steps.size()) + 1;
-    steps.push_back({change.Bytes ? TemporaryName(number) : std::string(Deleted), change.File});
+    steps.push_back(
+        {change.Bytes ? TemporaryName(folder.Files(), number) : std::string(Deleted), change.File});
   }
-  if (!FileIsMissing(JournalOf(folder))) {
-    return {"Nothing can be saved while the changes in " + JournalOf(folder).string() + " are unfinished."};
-  }
-  FileResult result;
-  for (std::size_t i = 0; i < steps.size() && result.Ok(); ++i) {
-    const std::filesystem::path file = folder.Root / steps[i].File;
-    result = changes[i].Bytes ? PrepareFile(file, *changes[i].Bytes, folder.Root / steps[i].Temporary)
-                              : MayBeDeleted(file);
-  }
-  if (result.Ok()) {
-    FlushFolderOf(JournalOf(folder));  // The temporary files must be there when the journal is.
-    result = WriteWholeFile(JournalOf(folder), ToText(steps), folder.Root);
+  if (!FileIsMissing(folder.Files(), JournalOf(folder))) {
+    return {"Nothing can be saved until the changes in " + JournalOf(folder).string() + " are finished."};
   }
   std::size_t made = 0;
+  FileResult result = Prepare(folder, steps, changes);
   if (result.Ok()) result = Follow(folder, steps, made);
   if (result.Ok()) return result;
-  if (made > 0) {
-    result.Failure += " What is missing is saved when the program next starts.";
-  } else if (EndJournal(folder).Ok()) {  // Without its journal the change was never begun.
-    DeleteTemporaries(folder, steps);
+  if (made == 0) {
+    TakeBack(folder, steps);
+  } else {
+    result.Failure += " The rest will be saved when you next start the program.";
   }
   return result;
 }
 
 FileResult FinishChanges(const ProgramFolder& folder) {
   const std::filesystem::path journal = JournalOf(folder);
-  FileResult result;
-  const std::optional<std::string> text = ReadWholeFile(journal, &result);
-  std::error_code error;
-  const bool strange = !result.Ok() && !std::filesystem::is_regular_file(journal, error) && !error;
-  if (!text && !strange) return result;
-  const std::optional<std::vector<Step>> steps = text ? FromText(folder, *text) : std::nullopt;
+  const auto [text, result] = ReadBytesOf(folder.Files(), journal);
+  if (!text) return result;
   std::size_t made = 0;
-  if (steps) return Follow(folder, *steps, made);
-  std::filesystem::path aside = folder.Root / "unfinished.bad";
-  for (int i = 2; FileExists(aside); ++i) aside = folder.Root / ("unfinished-" + std::to_string(i) + ".bad");
-  result = MoveIntoPlace(journal, aside);
-  if (!result.Ok()) return result;
-  return {"The file " + journal.string() + " made no sense. It has not been followed and is called " +
-          aside.filename().string() + " now."};
+  if (const std::optional<std::vector<Step>> steps = FromText(folder, *text))
+    return Follow(folder, *steps, made);
+  const std::filesystem::path aside = PlaceAside(folder);
+  FileResult moved = MoveIntoPlace(folder.Files(), journal, aside);
+  if (!moved.Ok()) return moved;
+  return {"The file " + journal.string() + " is damaged. It was ignored and renamed to " +
+          aside.filename().string() + "."};
 }
 
 FileResult CleanUp(const ProgramFolder& folder) {
   FileResult finished = FinishChanges(folder);
-  if (FileIsMissing(JournalOf(folder))) DeleteLeftovers(folder.Root);
+  if (FileIsMissing(folder.Files(), JournalOf(folder))) DeleteLeftovers(folder.Files(), folder.Root);
   return finished;
 }
 

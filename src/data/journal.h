@@ -1,8 +1,8 @@
-// Files of championships that change together: all of them or none, whatever happens in the middle.
+// Files of championships that change together: all of them or none, whatever happens in between.
 //
-// The new files are written beside the old ones first, under temporary names. Then a journal that says what
-// is to become of them is written, the changes are made, and the journal is deleted. While it is there, the
-// changes can be finished, also by another start of the program.
+// The new files are written under temporary names first. Then the journal is written, which says what becomes
+// of them; the changes are made; the journal is deleted. As long as the journal exists, the changes can be
+// finished, even by a later start of the program.
 #pragma once
 
 #include <optional>
@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "base/program.h"
-#include "data/text_file.h"
+#include "data/file_result.h"
+#include "data/program_folder.h"
 
 namespace kickwell {
 
@@ -19,21 +19,21 @@ inline constexpr std::string_view JournalName = "unfinished.journal";
 
 /// What becomes of one file of a championship.
 struct ChangedFile {
-  std::string File;                  ///< From the program folder, for example "Leagues/Top.rec".
-  std::optional<std::string> Bytes;  ///< Its new content; nothing deletes it, where it exists.
+  std::string File;                  ///< Its path from the program folder, for example "Leagues/Top.rec".
+  std::optional<std::string> Bytes;  ///< Its new content; none deletes it, if it exists.
 };
 
-/// Makes all `changes` or none. Only a disk that fails in the middle of the renaming can keep it from either:
-/// the journal stays then. Refuses files that are none of a championship, the deletion of what is no file,
-/// and any change while a journal is there.
+/// Makes all `changes` or none. If the disk fails in the middle of the renaming, the journal stays and the
+/// rest is made later. Refuses files that do not belong to a championship, the deletion of what is no file,
+/// and any change while a journal exists.
 FileResult ChangeFiles(const ProgramFolder& folder, const std::vector<ChangedFile>& changes);
 
-/// Finishes the changes that a journal tells of, if there is one. A journal that makes no sense is not
-/// followed but renamed, for a look at it, and the user is to be told.
+/// Finishes the changes that an earlier journal lists, if there is one. A damaged journal is renamed instead,
+/// and the result says so. Nothing may build on a championship's files while this fails.
 FileResult FinishChanges(const ProgramFolder& folder);
 
-/// What each start of the program does first: finishes the changes, and deletes the temporary files that no
-/// process and no journal needs any more.
+/// What each start of the program does first: finishes changes, then deletes temporary files that nobody
+/// needs.
 FileResult CleanUp(const ProgramFolder& folder);
 
 }  // namespace kickwell

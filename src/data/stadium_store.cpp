@@ -5,8 +5,13 @@
 #include <limits>
 #include <string_view>
 
+#include "data/line_reader.h"
+#include "data/text_file.h"
+
 namespace kickwell {
 namespace {
+
+constexpr std::size_t StadiumLines = 4;
 
 /// The count that line 1 states; no limit when it is not a whole number.
 std::size_t CountLimit(std::string_view line) {
@@ -18,34 +23,35 @@ std::size_t CountLimit(std::string_view line) {
 
 }  // namespace
 
-std::string VenueText(const std::string& name, const std::string& city) {
-  return name + ", " + city;
+std::string VenueText(const Stadium& stadium) {
+  return stadium.Name + ", " + stadium.City;
 }
 
 bool StadiumListExists(const ProgramFolder& folder) {
-  return FileExists(folder.Stadiums());
+  return FileExists(folder.Files(), folder.Stadiums());
 }
 
-std::vector<Stadium> LoadStadiums(const ProgramFolder& folder, FileResult* failure) {
-  const Lines lines = ReadLines(folder.Stadiums(), failure).value_or(Lines{});
-  if (lines.empty()) return {};
-  constexpr std::size_t RecordLines = 4;
-  const std::size_t count = std::min(CountLimit(lines.front()), (lines.size() - 1) / RecordLines);
-  std::vector<Stadium> stadiums;
-  stadiums.reserve(count);
-  for (std::size_t i = 0; i < count; ++i) {
-    const std::string* const record = &lines[1 + i * RecordLines];
-    stadiums.push_back({record[0], record[1], record[2], record[3]});
+Loaded<std::vector<Stadium>> LoadStadiums(const ProgramFolder& folder) {
+  const auto [lines, result] = ReadText(folder.Files(), folder.Stadiums());
+  if (!lines) return {{}, result};
+  LineReader reader(*lines);
+  const std::size_t promised = CountLimit(reader.View());
+  std::vector<Stadium> stadiums(std::min(promised, reader.RecordsLeft(StadiumLines)));
+  for (Stadium& stadium : stadiums) {
+    stadium = {reader.Text(), reader.Text(), reader.Text(), reader.Text()};
   }
-  return stadiums;
+  return {std::move(stadiums)};
 }
 
 FileResult SaveStadiums(const ProgramFolder& folder, const std::vector<Stadium>& stadiums) {
-  Lines lines{std::to_string(stadiums.size())};
+  EncodedText text;
+  text.Add(static_cast<int>(stadiums.size()));
   for (const Stadium& stadium : stadiums) {
-    lines.insert(lines.end(), {stadium.HomeTeam, stadium.Name, stadium.City, stadium.Capacity});
+    for (const std::string* line : {&stadium.HomeTeam, &stadium.Name, &stadium.City, &stadium.Capacity}) {
+      text.Add(*line);
+    }
   }
-  return WriteLines(folder.Stadiums(), lines, folder.Root);
+  return ReplaceFile(folder.Files(), folder.Stadiums(), text.Bytes(), folder.Root);
 }
 
 }  // namespace kickwell

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "base/program.h"
-#include "data/text_file.h"
+#include "data/file_result.h"
+#include "data/program_folder.h"
 
 namespace kickwell {
 
@@ -19,15 +19,14 @@ struct Stadium {
 };
 
 /// How a stadium is named as a venue: its name, ", " and its city.
-std::string VenueText(const std::string& name, const std::string& city);
+std::string VenueText(const Stadium& stadium);
 
 /// Whether there is a stadium list at all; an empty one is one.
 bool StadiumListExists(const ProgramFolder& folder);
 
-/// The stadiums in file order; empty when there is no list. Of a list whose count is no number or promises
-/// more than the file holds, the complete records that are there. Of a list that cannot be read `failure` is
-/// told.
-std::vector<Stadium> LoadStadiums(const ProgramFolder& folder, FileResult* failure = nullptr);
+/// The stadiums in file order; none when there is no list. If the count is no number or promises more than
+/// the file holds, all complete records.
+Loaded<std::vector<Stadium>> LoadStadiums(const ProgramFolder& folder);
 
 /// Rewrites the whole list.
 FileResult SaveStadiums(const ProgramFolder& folder, const std::vector<Stadium>& stadiums);

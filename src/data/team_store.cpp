@@ -1,41 +1,50 @@
 #include "data/team_store.h"
 
 #include "data/file_names.h"
+#include "data/line_reader.h"
+#include "data/text_file.h"
 
 namespace kickwell {
+namespace {
+
+constexpr std::size_t PlayerLines = 3;
+
+}  // namespace
 
 std::vector<std::string> ListTeams(const ProgramFolder& folder) {
-  return ListFiles(folder.Teams());
+  return ListFiles(folder.Files(), folder.Teams());
 }
 
-std::optional<Team> LoadTeam(const ProgramFolder& folder, const std::string& name, FileResult* failure) {
-  if (!StaysInFolder(name)) return std::nullopt;
-  const std::optional<Lines> lines = ReadLines(folder.Teams() / name, failure);
-  if (!lines) return std::nullopt;
-  Team team{name, lines->empty() ? "" : lines->front(), {}};
-  for (std::size_t i = 1; i + 2 < lines->size(); i += 3) {
-    team.Players.push_back({(*lines)[i], (*lines)[i + 1], (*lines)[i + 2]});
+bool TeamExists(const ProgramFolder& folder, const std::string& name) {
+  return StaysInFolder(name) && folder.Files().Ask(folder.Teams() / name) == FileKind::File;
+}
+
+Loaded<std::optional<Team>> LoadTeam(const ProgramFolder& folder, const std::string& name) {
+  if (!StaysInFolder(name)) return {};
+  const auto [lines, result] = ReadText(folder.Files(), folder.Teams() / name);
+  if (!lines) return {std::nullopt, result};
+  LineReader reader(*lines);
+  Team team{name, reader.Text(), {}};
+  while (reader.RecordsLeft(PlayerLines) > 0) {
+    team.Players.push_back({reader.Text(), reader.Text(), reader.Text()});
   }
-  return team;
-}
-
-FileResult CreateTeam(const ProgramFolder& folder, const std::string& name, const std::string& skill) {
-  return SaveTeam(folder, {name, skill, {}});
+  return {std::move(team)};
 }
 
 FileResult SaveTeam(const ProgramFolder& folder, const Team& team) {
   if (!IsFileName(team.Name)) return {FileNameRefusal(team.Name)};
-  Lines lines{team.Skill};
+  EncodedText text;
+  text.Add(team.Skill);
   for (const Player& player : team.Players) {
-    lines.insert(lines.end(), {player.Name, player.Skill, player.Position});
+    for (const std::string* line : {&player.Name, &player.Skill, &player.Position}) text.Add(*line);
   }
-  return WriteLines(folder.Teams() / team.Name, lines, folder.Root);
+  return ReplaceFile(folder.Files(), folder.Teams() / team.Name, text.Bytes(), folder.Root);
 }
 
 FileResult DeleteTeam(const ProgramFolder& folder, const std::string& name) {
   if (!StaysInFolder(name)) return {FileNameRefusal(name)};
-  FileResult deleted = DeleteFile(folder.Teams() / name);
-  return deleted.Ok() ? DeleteFile(folder.Settings()) : deleted;
+  FileResult deleted = DeleteFile(folder.Files(), folder.Teams() / name);
+  return deleted.Ok() ? DeleteFile(folder.Files(), folder.Settings()) : deleted;
 }
 
 }  // namespace kickwell

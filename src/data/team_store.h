@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "base/program.h"
-#include "data/text_file.h"
+#include "data/file_result.h"
+#include "data/program_folder.h"
 
 namespace kickwell {
 
@@ -29,16 +29,14 @@ struct Team {
 /// The names of all teams, alphabetical ignoring letter case. Every regular file of the folder is a team.
 std::vector<std::string> ListTeams(const ProgramFolder& folder);
 
-/// The team of that name; nothing when there is no such file. Texts stay as read; a last player whose three
-/// lines are not complete is left out. Of a file that is there and cannot be read `failure` is told.
-std::optional<Team> LoadTeam(const ProgramFolder& folder, const std::string& name,
-                             FileResult* failure = nullptr);
+/// Whether there is a team of that name, readable or not.
+bool TeamExists(const ProgramFolder& folder, const std::string& name);
 
-/// Writes a team without players, over an existing one of that name. Refuses a name that cannot be a file
-/// name.
-FileResult CreateTeam(const ProgramFolder& folder, const std::string& name, const std::string& skill);
+/// The team of that name; none when there is no such file. Texts stay as they were read. A last player
+/// without all three lines is left out.
+Loaded<std::optional<Team>> LoadTeam(const ProgramFolder& folder, const std::string& name);
 
-/// Rewrites the whole file of the team. Refuses a name that cannot be a file name.
+/// Writes the whole file of the team, new or not. Refuses a name that cannot be a file name.
 FileResult SaveTeam(const ProgramFolder& folder, const Team& team);
 
 /// Deletes the team's file, then settings.cfg; either may be missing.

@@ -1,8 +1,7 @@
 #include "data/text_encoding.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
+#include <utility>
 
 namespace kickwell {
 namespace {
@@ -69,38 +68,38 @@ Encoding GuessEncoding(std::string_view bytes) {
 
 constexpr std::size_t LongestOfUnit = 3;  ///< UTF-8 bytes that a UTF-16 unit or a bad byte can become.
 
-/// How many UTF-16 little-endian units at the beginning of `bytes` are ASCII, four at a time.
-std::size_t AsciiUnits(std::string_view bytes) {
-  constexpr std::size_t Four = 8;  // Bytes.
-  constexpr char NotAscii[] = "\x80\xFF\x80\xFF\x80\xFF\x80\xFF";
-  std::uint64_t mask = 0;
-  std::memcpy(&mask, NotAscii, Four);
-  std::size_t run = 0;
-  while (2 * run + Four <= bytes.size()) {
-    std::uint64_t units = 0;
-    std::memcpy(&units, bytes.data() + 2 * run, Four);
-    if ((units & mask) != 0) break;
-    run += 4;
+/// Copies the ASCII characters that `units`, UTF-16 in either byte order, begins with to `out`, in whole
+/// blocks that a processor copies at once; `low` is the place of a unit's low byte. Returns how many there
+/// were.
+std::size_t CopyAscii(std::string_view units, std::size_t low, char* out) {
+  constexpr std::size_t Block = 16;
+  std::size_t copied = 0;
+  while (units.size() - 2 * copied >= 2 * Block) {
+    const char* const block = units.data() + 2 * copied;
+    int others = 0;
+    for (std::size_t i = 0; i < Block; ++i) {
+      out[copied + i] = block[2 * i + low];
+      others |= (block[2 * i + low] & 0x80) | block[2 * i + 1 - low];
+    }
+    if (others != 0) break;
+    copied += Block;
   }
-  return run;
+  return copied;
 }
 
 std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
+  const std::size_t low = bigEndian ? 1 : 0;
   std::string text(bytes.size() / 2 * LongestOfUnit, '\0');
   char* out = text.data();
   const auto unit = [&](std::size_t i) {
-    const auto first = static_cast<unsigned char>(bytes[i]);
-    const auto second = static_cast<unsigned char>(bytes[i + 1]);
-    return static_cast<char32_t>(bigEndian ? first << 8 | second : second << 8 | first);
+    const auto byte = [&](std::size_t place) { return static_cast<unsigned char>(bytes[place]); };
+    return static_cast<char32_t>(byte(i + 1 - low) << 8 | byte(i + low));
   };
   for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    if (!bigEndian) {  // Long runs of ASCII are what files are made of, and what a processor copies at once.
-      const std::size_t run = AsciiUnits(bytes.substr(i));
-      for (std::size_t k = 0; k < run; ++k) out[k] = bytes[i + 2 * k];
-      out += run;
-      i += 2 * run;
-      if (i + 1 >= bytes.size()) break;
-    }
+    const std::size_t run = CopyAscii(bytes.substr(i), low, out);
+    out += run;
+    i += 2 * run;
+    if (i + 1 >= bytes.size()) break;
     char32_t c = unit(i);
     if (IsHighSurrogate(c) && i + 3 < bytes.size() && IsLowSurrogate(unit(i + 2))) {
       c = 0x10000 + ((c - 0xD800) << 10) + (unit(i + 2) - 0xDC00);
@@ -137,83 +136,59 @@ std::string ToUtf8(std::string_view bytes) {
   return DecodeUtf8(bytes);
 }
 
-Lines Split(std::string_view text) {
-  Lines lines;
-  lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n')) + 1);
-  while (!text.empty()) {
-    const std::size_t end = text.find('\n');
-    std::string_view line = text.substr(0, end);
-    text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    lines.emplace_back(line);
-  }
-  return lines;
-}
-
-/// Whether these are the bytes of whole lines as Encode writes them, so that more can simply follow.
-bool IsAsEncoded(std::string_view bytes) {
-  if (!bytes.starts_with(Mark) || bytes.size() % 2 != 0 || !bytes.ends_with(LineEnd)) return false;
-  for (std::size_t place = bytes.find('\n'); place != std::string_view::npos;
-       place = bytes.find('\n', place + 1)) {
-    if (place % 2 != 0 || bytes[place + 1] != 0) continue;  // Half of another character.
-    if (place < Mark.size() + 2 || bytes.substr(place - 2, LineEnd.size()) != LineEnd) return false;
-  }
-  return true;
-}
-
 }  // namespace
 
-Lines Decode(std::string_view bytes) {
-  return Split(ToUtf8(bytes));
+TextLines::TextLines(std::string text) : text_(std::make_shared<const std::string>(std::move(text))) {
+  std::string_view rest = *text_;
+  lines_.reserve(static_cast<std::size_t>(std::ranges::count(rest, '\n')) + 1);
+  while (!rest.empty()) {
+    const std::size_t end = rest.find('\n');
+    std::string_view line = rest.substr(0, end);
+    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    lines_.push_back(line);
+  }
 }
 
-std::string Encode(const Lines& lines) {
-  std::size_t most = 2;  // Bytes: the mark, and a unit of two for each byte of UTF-8 at the most.
-  for (const std::string& line : lines) most += 2 * line.size() + 4;
-  std::string bytes(most, '\0');
-  char* out = bytes.data();
+TextLines Decode(std::string_view bytes) {
+  return TextLines(ToUtf8(bytes));
+}
+
+EncodedText::EncodedText(std::size_t expectedBytes) {
+  bytes_.reserve(expectedBytes);
+  bytes_ = Mark;
+}
+
+void EncodedText::Add(std::string_view line) {
+  const std::size_t before = bytes_.size();
+  bytes_.resize(before + 2 * line.size() + LineEnd.size());  // A byte of UTF-8 is one unit at the most.
+  char* out = bytes_.data() + before;
   const auto unit = [&out](char32_t value) {
     *out++ = static_cast<char>(value & 0xFF);
     *out++ = static_cast<char>(value >> 8);
   };
-  unit(0xFEFF);
-  for (const std::string& line : lines) {
-    for (std::size_t place = 0; place < line.size();) {
-      std::size_t run = 0;
-      while (place + run < line.size() && line[place + run] > '\n') ++run;
-      for (std::size_t k = 0; k < run; ++k) {
-        out[2 * k] = line[place + k];
-        out[2 * k + 1] = 0;
-      }
-      out += 2 * run;
-      place += run;
-      if (place == line.size()) break;
-      const char32_t c = NextCodePoint(line, place);
-      if (c >= 0x10000) {
-        unit(0xD800 + ((c - 0x10000) >> 10));
-        unit(0xDC00 + ((c - 0x10000) & 0x3FF));
-      } else {
-        unit(c == '\n' ? ' ' : c);
-      }
+  for (std::size_t place = 0; place < line.size();) {
+    const char32_t c = NextCodePoint(line, place);
+    if (c >= 0x10000) {
+      unit(0xD800 + ((c - 0x10000) >> 10));
+      unit(0xDC00 + ((c - 0x10000) & 0x3FF));
+    } else {
+      unit(c == '\n' ? ' ' : c);
     }
-    unit('\r');
-    unit('\n');
   }
-  bytes.resize(static_cast<std::size_t>(out - bytes.data()));
-  return bytes;
+  unit('\r');
+  unit('\n');
+  bytes_.resize(static_cast<std::size_t>(out - bytes_.data()));
 }
 
-std::string EncodeBehind(std::string bytes, const Lines& block) {
-  if (IsAsEncoded(bytes)) {
-    const std::string more = Encode(block);
-    bytes += LineEnd;
-    bytes += std::string_view(more).substr(Mark.size());
-    return bytes;
-  }
-  Lines lines = Decode(bytes);
-  if (!lines.empty()) lines.emplace_back();
-  lines.insert(lines.end(), block.begin(), block.end());
-  return Encode(lines);
+void EncodedText::Add(int number) {
+  Add(std::to_string(number));
+}
+
+std::string Encode(const Lines& lines) {
+  EncodedText text;
+  for (const std::string& line : lines) text.Add(line);
+  return text.Bytes();
 }
 
 std::u32string ToCodePoints(std::string_view text) {

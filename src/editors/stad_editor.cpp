@@ -5,6 +5,8 @@
 
 #include "base/number.h"
 #include "data/team_store.h"
+#include "data/tell_failure.h"
+#include "data/text_file.h"
 
 namespace kickwell {
 
@@ -16,8 +18,11 @@ StadEditor::StadEditor(ProgramFolder folder, Desktop& desktop)
 void StadEditor::Form_Load() {
   Combo1 = {{"Neutral"}, 0};
   for (std::string& team : ListTeams(folder_)) Combo1.Add(std::move(team));
-  stadiums_ = LoadStadiums(folder_, &loading_);
+  auto [stadiums, result] = LoadStadiums(folder_);
+  stadiums_ = std::move(stadiums);
+  loading_ = std::move(result);
   ShowStadiums(0);
+  TellFailure(desktop_, loading_);
 }
 
 void StadEditor::ShowStadiums(int selected) {
@@ -43,7 +48,7 @@ void StadEditor::Command2_Click() {
     desktop_.Warn("Please enter a numerical value for Capacity.");
   } else if (ToNumber(Text3) <= 0) {
     desktop_.Warn("Please enter a capacity value from 1 to 99999.");
-  } else if (std::any_of(stadiums_.begin(), stadiums_.end(), isNamed)) {
+  } else if (std::ranges::any_of(stadiums_, isNamed)) {
     desktop_.Inform(Text1 + " already exists");
   } else if (desktop_.Ask("Are you sure you want to add this stadium?")) {
     std::vector<Stadium> more = stadiums_;
@@ -68,7 +73,7 @@ void StadEditor::Command1_Click() {
   std::vector<Stadium> fewer = stadiums_;
   fewer.erase(fewer.begin() + List1.Picked);
   if (!Save(std::move(fewer))) return;
-  TellFailure(desktop_, DeleteFile(folder_.Settings()));
+  TellFailure(desktop_, DeleteFile(folder_.Files(), folder_.Settings()));
   ShowStadiums(0);
 }
 

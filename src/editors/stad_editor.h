@@ -6,7 +6,7 @@
 
 #include "base/desktop.h"
 #include "base/item_list.h"
-#include "base/program.h"
+#include "data/program_folder.h"
 #include "data/stadium_store.h"
 
 namespace kickwell {

@@ -1,12 +1,12 @@
 #include "editors/team_editor.h"
 
-#include <algorithm>
-#include <optional>
 #include <utility>
 
+#include "base/at.h"
 #include "base/number.h"
 #include "data/championship_store.h"
 #include "data/file_names.h"
+#include "data/tell_failure.h"
 #include "engine/match_setup.h"
 
 namespace kickwell {
@@ -35,10 +35,8 @@ void TeamEditor::PresetPosition() {
 }
 
 void TeamEditor::Combo3_Click(int entry) {
-  FileResult failure;
-  std::optional<Team> loaded =
-      LoadTeam(folder_, Combo3.Entries.at(static_cast<std::size_t>(entry)), &failure);
-  if (!TellFailure(desktop_, failure) || !loaded) return;
+  auto [loaded, result] = LoadTeam(folder_, At(Combo3.Entries, entry));
+  if (!TellFailure(desktop_, result) || !loaded) return;
   Combo3.Picked = entry;
   team_ = std::move(*loaded);
   ShowSquad(0);
@@ -59,7 +57,7 @@ bool TeamEditor::Save(Team changed, int selected) {
 }
 
 const Player* TeamEditor::Selected() const {
-  return List1.Picked == ItemList::None ? nullptr : &team_.Players.at(static_cast<std::size_t>(List1.Picked));
+  return List1.Picked == ItemList::None ? nullptr : &At(team_.Players, List1.Picked);
 }
 
 bool TeamEditor::SkillIsFine(const std::string& skill) {
@@ -82,7 +80,7 @@ void TeamEditor::Command7_Click() {
   if (!SkillIsFine(Text5)) return;
   // A file of that name that is not in the list is one that differs in letter case alone, where that is no
   // difference.
-  if (Combo3.PlaceOf(name) != ItemList::None || LoadTeam(folder_, name)) {
+  if (Combo3.PlaceOf(name) != ItemList::None || TeamExists(folder_, name)) {
     desktop_.Inform(name + " already exists");
     return;
   }
@@ -91,9 +89,10 @@ void TeamEditor::Command7_Click() {
     return;
   }
   if (!desktop_.Ask("Are you sure you want to add " + name + "?")) return;
-  if (!TellFailure(desktop_, CreateTeam(folder_, name, Text5))) return;
+  if (!TellFailure(desktop_, SaveTeam(folder_, {name, Text5, {}}))) return;
   Combo3.Add(name);
-  if (league_ != NoChampionship) TellFailure(desktop_, AppendStandings(folder_, league_, name));
+  if (league_ != NoChampionship)
+    TellFailure(desktop_, AppendStandings(folder_, {ChampionshipKind::League, league_}, name));
   Text1.clear();
   Text5.clear();
   Combo3_Click(Combo3.Count() - 1);
@@ -138,8 +137,7 @@ void TeamEditor::Move(int direction) {
   const int to = from + direction;
   const bool possible = to >= 0 && to < List1.Count();
   Team moved = team_;
-  if (possible)
-    std::swap(moved.Players[static_cast<std::size_t>(from)], moved.Players[static_cast<std::size_t>(to)]);
+  if (possible) std::swap(At(moved.Players, from), At(moved.Players, to));
   Save(std::move(moved), possible ? to : from);
 }
 

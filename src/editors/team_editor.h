@@ -5,7 +5,7 @@
 
 #include "base/desktop.h"
 #include "base/item_list.h"
-#include "base/program.h"
+#include "data/program_folder.h"
 #include "data/team_store.h"
 
 namespace kickwell {

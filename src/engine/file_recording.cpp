@@ -1,25 +1,25 @@
 #include "engine/file_recording.h"
 
-#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "base/number.h"
+#include "data/knock_out.h"
 #include "data/team_store.h"
+#include "data/tell_failure.h"
 
 namespace kickwell {
 namespace {
 
 constexpr int PointsForWin = 3, PointsForDraw = 1;
 
-ChampionshipKind KindOf(const MatchSession& session) {
-  return session.Setup.Mode == MatchMode::League ? ChampionshipKind::League : ChampionshipKind::KnockOut;
-}
-
-bool IsFriendly(const MatchSession& session) {
-  return session.Setup.Mode == MatchMode::Friendly;
+/// The championship that the match belongs to; none for a friendly.
+std::optional<ChampionshipId> ChampionshipOf(const MatchSession& session) {
+  const std::optional<ChampionshipKind> kind = KindOf(session.Setup.Mode);
+  if (!kind) return std::nullopt;
+  return ChampionshipId{*kind, session.Setup.ChampionshipName};
 }
 
 void AddMatch(StandingsRow& row, int& outcome, int goalsFor, int goalsAgainst, int points) {
@@ -39,26 +39,31 @@ std::string SideResult(const Side& side, int penalties, bool shootOut) {
 }  // namespace
 
 void FileRecording::StoreScorer(const MatchSession& session) {
-  if (IsFriendly(session)) return;
-  TellFailure(desktop_, AddGoal(folder_, KindOf(session), session.Setup.ChampionshipName, session.LastScorer,
-                                session.LastScoringTeam));
+  const std::optional<ChampionshipId> id = ChampionshipOf(session);
+  if (!id) return;
+  TellFailure(desktop_, AddGoals(folder_, *id, {session.LastScorer, session.LastScoringTeam, 1}));
 }
 
-void FileRecording::ReadChampionshipOnce(const MatchSession& session) {
+/// The value that was loaded. What could not be read keeps the match from being recorded.
+template <typename T>
+T FileRecording::Value(Loaded<T> loaded) {
+  if (failure_.Ok()) failure_ = std::move(loaded.Result);
+  return std::move(loaded.Value);
+}
+
+void FileRecording::ReadChampionshipOnce(const ChampionshipId& id) {
   if (championship_) return;
-  // Files that an interruption has left in the middle of a change must not be built upon.
+  // Nothing may build on files that an interruption has left in the middle of a change.
   TellFailure(desktop_, FinishChanges(folder_));
-  const ChampionshipKind kind = KindOf(session);
-  const std::string fileName = MainFileName(kind, session.Setup.ChampionshipName);
-  championship_ = ReadChampionship(folder_, kind, fileName, &failure_);
+  championship_ = Value(ReadChampionship(folder_, id));
 }
 
 void FileRecording::StoreResult(const MatchSession& session) {
-  if (session.Setup.Mode != MatchMode::League) return;
-  ReadChampionshipOnce(session);
+  const std::optional<ChampionshipId> id = ChampionshipOf(session);
+  if (!id || id->Kind != ChampionshipKind::League) return;
+  ReadChampionshipOnce(*id);
   if (!championship_) return;
-  const std::string& name = session.Setup.ChampionshipName;
-  std::vector<StandingsRow> standings = ReadStandings(folder_, name, championship_->Teams, &failure_);
+  std::vector<StandingsRow> standings = Value(ReadStandings(folder_, *id, championship_->Teams));
   const bool level = session.Side1FinalGoals == session.Side2FinalGoals;
   for (StandingsRow& row : standings) {
     const bool winner = row.Team == session.WinnerName;
@@ -71,53 +76,42 @@ void FileRecording::StoreResult(const MatchSession& session) {
       AddMatch(row, row.Lost, session.LoserGoals, session.WinnerGoals, 0);
     }
   }
-  changes_.push_back(ChangedStandings(name, standings));
+  changes_.push_back(ChangedStandings(*id, standings));
 }
 
 void FileRecording::StoreLeagueResult(const MatchSession& session) {
-  if (IsFriendly(session)) return;
+  const std::optional<ChampionshipId> id = ChampionshipOf(session);
+  if (!id) return;
   const bool shootOut = session.DecidedByShootOut;
   const std::array<std::string, 5> block = {
       "Match " + std::to_string(session.Setup.MatchNumber) + ":",
       SideResult(session.Side1, session.Side1Penalties, shootOut) + " vs " +
           SideResult(session.Side2, session.Side2Penalties, shootOut),
       "Venue: " + session.Venue, AttendanceText(session), "Winner: " + session.ResultText};
-  ReadChampionshipOnce(session);
-  const ChampionshipKind kind = KindOf(session);
-  const std::string& name = session.Setup.ChampionshipName;
-  changes_.push_back(ChangedResults(folder_, kind, name, block, &failure_));
-  FileChanges(session);
+  ReadChampionshipOnce(*id);
+  changes_.push_back(Value(ChangedResults(folder_, *id, block)));
+  FileChanges(session, *id);
   TellFailure(desktop_, failure_.Ok() ? ChangeFiles(folder_, changes_) : failure_);
   championship_.reset();
   changes_.clear();
   failure_ = {};
-  selectAgain_(MainFileName(kind, name));
+  selectAgain_(MainFileName(*id));
 }
 
-void FileRecording::FileChanges(const MatchSession& session) {
-  const ChampionshipKind kind = KindOf(session);
-  const MatchSetup& setup = session.Setup;
+void FileRecording::FileChanges(const MatchSession& session, const ChampionshipId& id) {
   if (!championship_) return;
-  // A team that has come through by toss has played without the suffix, where no team is really called so.
+  const MatchSetup& setup = session.Setup;
+  // A team that came through by toss plays without the suffix, unless a team is really called so.
   const auto names = [&](const std::string& entry, const std::string& team) {
-    return entry == team || (WithoutToss(entry) == team && !LoadTeam(folder_, entry));
+    return entry == team || (WithoutToss(entry) == team && !TeamExists(folder_, entry));
   };
   for (Fixture& fixture : championship_->Fixtures) {
     if (!names(fixture.Home, setup.Team1Name) || !names(fixture.Away, setup.Team2Name)) continue;
     fixture.Status = Played;
     fixture.Winner = session.ResultText;
   }
-  if (kind == ChampionshipKind::KnockOut) {
-    const std::string placeholder = WinnerPlaceholder(setup.MatchNumber);
-    for (Fixture& fixture : championship_->Fixtures) {
-      if (fixture.Home == placeholder) {
-        fixture.Home = session.ResultText;
-      } else if (fixture.Away == placeholder) {
-        fixture.Away = session.ResultText;
-      }
-    }
-  }
-  championship_->Name = setup.ChampionshipName;  // Whatever the file says meanwhile: its name is what counts.
+  if (id.Kind == ChampionshipKind::KnockOut) Advance(*championship_, setup.MatchNumber, session.ResultText);
+  championship_->Id = id;  // Its file's name counts, whatever the file says meanwhile.
   changes_.push_back(ChangedChampionship(*championship_));
 }
 

@@ -8,17 +8,17 @@
 #include <vector>
 
 #include "base/desktop.h"
-#include "base/program.h"
 #include "data/championship_store.h"
+#include "data/program_folder.h"
 #include "engine/recording.h"
 
 namespace kickwell {
 
-/// Records into the championship's files. A goal is on disk when it has fallen; what the end of a match
-/// changes goes there all at once in StoreLeagueResult, or not at all. Failures are told to the user.
+/// Records in the championship's files. Each goal is saved as it falls. What the end of a match changes is
+/// saved all at once by StoreLeagueResult, or not at all. The user is told of failures.
 class FileRecording final : public Recording {
  public:
-  /// Asks for the championship to be read again, by the name of its main file.
+  /// Has the championship read again, which is named by its main file.
   using SelectAgain = std::function<void(const std::string& fileName)>;
 
   FileRecording(ProgramFolder folder, Desktop& desktop, SelectAgain selectAgain)
@@ -29,17 +29,19 @@ class FileRecording final : public Recording {
   void StoreLeagueResult(const MatchSession& session) override;
 
  private:
-  void FileChanges(const MatchSession& session);
-  void ReadChampionshipOnce(const MatchSession& session);
+  void FileChanges(const MatchSession& session, const ChampionshipId& id);
+  void ReadChampionshipOnce(const ChampionshipId& id);
+  template <typename T>
+  T Value(Loaded<T> loaded);
 
   ProgramFolder folder_;
   Desktop& desktop_;
   SelectAgain selectAgain_;
 
-  // Of the match that is being recorded.
+  // Of the match being recorded.
   std::optional<Championship> championship_;
   std::vector<ChangedFile> changes_;
-  FileResult failure_;  ///< What keeps it from being recorded.
+  FileResult failure_;  ///< Why it cannot be recorded.
 };
 
 }  // namespace kickwell

@@ -7,6 +7,7 @@
 
 #include "base/number.h"
 #include "data/stadium_store.h"
+#include "data/tell_failure.h"
 #include "engine/goal.h"
 #include "engine/pages.h"
 
@@ -89,12 +90,13 @@ void Match::Reset() {
 bool Match::LeagueVenue() {
   MatchSession& s = session_;
   if (!StadiumListExists(folder_)) return false;
-  const std::vector<Stadium> stadiums = LoadStadiums(folder_);
+  const auto [stadiums, result] = LoadStadiums(folder_);
+  TellFailure(desktop_, result);
   for (const Stadium& own : stadiums) {
     const bool home = own.HomeTeam == s.Side1.Team;
     const Stadium& chosen =
         home ? own : stadiums[static_cast<std::size_t>(random_.Int(static_cast<int>(stadiums.size())))];
-    s.Venue = VenueText(chosen.Name, chosen.City);
+    s.Venue = VenueText(chosen);
     s.Capacity = ToNumber(chosen.Capacity);
     if (home) break;
   }
@@ -147,8 +149,8 @@ void Match::ComSave_Click() {
   const Waiting dialog(waiting_);
   const std::optional<std::string> name = desktop_.AskSaveName(proposed);
   if (!name || name->empty()) return;
-  TellFailure(desktop_,
-              WritePage(PageFile(*name), commentary ? CommentaryPage(session_) : SummaryPage(session_)));
+  const Lines page = commentary ? CommentaryPage(session_) : SummaryPage(session_);
+  TellFailure(desktop_, WritePage(folder_.Files(), PageFile(*name), page));
 }
 
 void Match::Command1_Click() {

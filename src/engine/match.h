@@ -2,8 +2,8 @@
 #pragma once
 
 #include "base/desktop.h"
-#include "base/program.h"
 #include "base/random.h"
+#include "data/program_folder.h"
 #include "engine/announcement.h"
 #include "engine/clock.h"
 #include "engine/instant.h"

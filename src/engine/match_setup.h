@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "data/championship.h"
+
 namespace kickwell {
 
 enum class MatchMode { Friendly, League, KnockOut };
@@ -21,6 +23,22 @@ inline constexpr std::array<std::string_view, 2> SimulationTexts = {"Instant Res
 
 constexpr std::string_view ToText(MatchMode mode) {
   return ModeTexts[static_cast<std::size_t>(mode)];
+}
+
+/// The kind of championship that a mode plays; none for a friendly.
+constexpr std::optional<ChampionshipKind> KindOf(MatchMode mode) {
+  switch (mode) {
+    case MatchMode::League:
+      return ChampionshipKind::League;
+    case MatchMode::KnockOut:
+      return ChampionshipKind::KnockOut;
+    default:
+      return std::nullopt;
+  }
+}
+
+constexpr MatchMode ModeOf(ChampionshipKind kind) {
+  return kind == ChampionshipKind::League ? MatchMode::League : MatchMode::KnockOut;
 }
 
 /// What `ChampionshipName` says while no championship is chosen.

@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "base/program.h"
+#include "data/text_file.h"
 
 namespace kickwell {
 namespace {
@@ -98,10 +99,9 @@ std::filesystem::path PageFile(const std::string& name) {
   return end.ends_with(".htm") || end == ".html" ? name : name + ".htm";
 }
 
-FileResult WritePage(const std::filesystem::path& file, const Lines& page) {
-  // Beside the page itself: it may stand on any disk.
-  const std::filesystem::path whole = std::filesystem::absolute(file);
-  return WriteLines(whole, page, whole.parent_path());
+FileResult WritePage(FileSystem& files, const std::filesystem::path& file, const Lines& page) {
+  // The temporary file lies beside the page, which may be on any disk.
+  return ReplaceFile(files, file, Encode(page), file.parent_path());
 }
 
 }  // namespace kickwell

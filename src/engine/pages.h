@@ -4,7 +4,9 @@
 #include <filesystem>
 #include <string>
 
-#include "data/text_file.h"
+#include "data/file_result.h"
+#include "data/file_system.h"
+#include "data/text_encoding.h"
 #include "engine/match_session.h"
 
 namespace kickwell {
@@ -22,6 +24,6 @@ Lines ResultsPage(const std::string& heading, const ItemList& results);
 std::filesystem::path PageFile(const std::string& name);
 
 /// Writes the page, over an existing file without a question.
-FileResult WritePage(const std::filesystem::path& file, const Lines& page);
+FileResult WritePage(FileSystem& files, const std::filesystem::path& file, const Lines& page);
 
 }  // namespace kickwell

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "data/team_store.h"
+#include "data/tell_failure.h"
 
 namespace kickwell {
 
@@ -20,7 +21,8 @@ void Selection::Timer1_Timer() {
 }
 
 void Selection::LoadSquad(LineUp& side, const std::string& team) {
-  std::optional<Team> loaded = LoadTeam(folder_, team);
+  auto [loaded, result] = LoadTeam(folder_, team);
+  if (!TellFailure(desktop_, result)) Command1Enabled = false;
   if (!loaded) return;
   side.Reputation = loaded->Skill + "%";
   side.Squad = std::move(loaded->Players);

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "base/desktop.h"
-#include "base/program.h"
+#include "data/program_folder.h"
 #include "engine/match_setup.h"
 #include "setup/line_up.h"
 
@@ -20,8 +20,9 @@ class Selection {
   /// the first Timer1_Timer, when the screen has been drawn.
   Selection(ProgramFolder folder, Desktop& desktop, OpenMatch openMatch, MatchSetup setup);
 
-  /// Loads both squads and puts the first eleven of each file into the slots; a squad of fewer than eleven is
-  /// told and keeps "Continue" disabled for good. Later calls do nothing.
+  /// Loads both squads and puts the first eleven players of each file into the slots. A squad of fewer than
+  /// eleven, or one that cannot be read, is told and keeps "Continue" disabled for good. Later calls do
+  /// nothing.
   void Timer1_Timer();
 
   /// Puts player `entry` of the squad into slot `slot` (0..10) of side 1 or 2.

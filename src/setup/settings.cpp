@@ -6,6 +6,7 @@
 #include "base/number.h"
 #include "data/stadium_store.h"
 #include "data/team_store.h"
+#include "data/tell_failure.h"
 
 namespace kickwell {
 namespace {
@@ -30,7 +31,8 @@ Settings::Settings(ProgramFolder folder, Desktop& desktop, OpenSelection openSel
 }
 
 void Settings::Form_Load() {
-  for (const Stadium& stadium : LoadStadiums(folder_)) {
+  const auto [stadiums, result] = LoadStadiums(folder_);
+  for (const Stadium& stadium : stadiums) {
     Combo3.Add(stadium.Name);
     Combo7.Add(stadium.City);
     Combo6.Add(stadium.Capacity);
@@ -43,6 +45,7 @@ void Settings::Form_Load() {
   if (Combo3.Count() > 0) Combo3_Click(0);
   Combo4 = OfferTexts(SimulationTexts);
   Combo5 = OfferTexts(WeatherTexts);
+  TellFailure(desktop_, result);
 }
 
 void Settings::Combo1_Click(int entry) {
@@ -75,7 +78,7 @@ void Settings::Command1_Click() {
   setup.SimulationType = static_cast<SimulationKind>(Combo4.Picked);
   setup.ExtraTime = Check1;
   setup.PenaltyShootOut = Check2;
-  setup.Venue = VenueText(Combo3.Text(), Combo7.Text());
+  setup.Venue = VenueText({.HomeTeam = {}, .Name = Combo3.Text(), .City = Combo7.Text(), .Capacity = {}});
   setup.Capacity = ToNumber(Combo6.Text());
   setup.Weather = static_cast<WeatherCondition>(Combo5.Picked);
   openSelection_(setup);

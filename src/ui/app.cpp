@@ -9,6 +9,7 @@
 #include "championship/standings_table.h"
 #include "championship/top_scorers.h"
 #include "data/journal.h"
+#include "data/tell_failure.h"
 #include "editors/stad_editor.h"
 #include "editors/team_editor.h"
 #include "engine/file_recording.h"
@@ -96,29 +97,30 @@ void App::OpenPlay(ChampionshipKind kind) {
   play_ = nullptr;
 }
 
-ChampionshipKind App::CurrentKind() const {
-  return opening_.Mode == MatchMode::League ? ChampionshipKind::League : ChampionshipKind::KnockOut;
+/// The championship that the statistics show; their menu is disabled in friendlies.
+ChampionshipId App::Current() const {
+  return {KindOf(opening_.Mode).value_or(ChampionshipKind::League), opening_.ChampionshipName};
 }
 
 void App::OpenTable() {
-  Ranking table = StandingsTable(folder_, opening_.ChampionshipName);
+  Ranking table = StandingsTable(folder_, desktop_, opening_.ChampionshipName);
   const std::unique_ptr<RankingWindow> window(MakeTableWindow(table, Owner()));
   window->exec();
 }
 
 void App::OpenTopScorers() {
-  Ranking scorers = TopScorers(folder_, CurrentKind(), opening_.ChampionshipName);
+  Ranking scorers = TopScorers(folder_, desktop_, Current());
   const std::unique_ptr<RankingWindow> window(MakeTopScorersWindow(scorers, Owner()));
   window->exec();
 }
 
 void App::OpenLegResults() {
-  LegResults results(folder_, desktop_, CurrentKind(), opening_.ChampionshipName);
+  LegResults results(folder_, desktop_, Current());
   LegResultsWindow(results, Owner()).exec();
 }
 
 void App::OpenKnockCharts() {
-  KnockCharts charts(folder_, opening_.ChampionshipName);
+  KnockCharts charts(folder_, desktop_, opening_.ChampionshipName);
   KnockChartsWindow(charts, Owner()).exec();
 }
 

@@ -5,9 +5,9 @@
 #include <memory>
 
 #include "base/desktop.h"
-#include "base/program.h"
 #include "base/random.h"
 #include "championship/championship_play.h"
+#include "data/program_folder.h"
 #include "engine/match_setup.h"
 #include "setup/opening.h"
 #include "ui/windows/match_window.h"
@@ -37,7 +37,7 @@ class App {
   void OpenTopScorers();
   void OpenLegResults();
   void OpenKnockCharts();
-  ChampionshipKind CurrentKind() const;
+  ChampionshipId Current() const;
   void OpenSelection(const MatchSetup& setup);
   void OpenMatch(const MatchSetup& setup);
 

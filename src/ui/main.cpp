@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QIcon>
 
+#include "data/posix_file_system.h"
 #include "ui/app.h"
 #include "ui/qt_desktop.h"
 
@@ -22,7 +23,8 @@ void SetIcon() {
 int main(int /*argc*/, char** argv) {
   int noArguments = 1;  // The program takes none, Qt's own neither.
   const QApplication application(noArguments, argv);
-  const kickwell::ProgramFolder folder{QCoreApplication::applicationDirPath().toStdString()};
+  kickwell::PosixFileSystem files;
+  const kickwell::ProgramFolder folder(QCoreApplication::applicationDirPath().toStdString(), files);
   SetIcon();
   kickwell::QtDesktop desktop(folder);
   kickwell::SeededRandom random;

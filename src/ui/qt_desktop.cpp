@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <utility>
 
+#include "base/program.h"
 #include "ui/widgets/widgets.h"
 
 namespace kickwell {

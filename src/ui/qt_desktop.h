@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/desktop.h"
-#include "base/program.h"
+#include "data/program_folder.h"
 #include "ui/sounds.h"
 
 namespace kickwell {

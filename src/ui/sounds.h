@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "base/desktop.h"
-#include "base/program.h"
+#include "data/program_folder.h"
 
 namespace kickwell {
 

@@ -1,4 +1,4 @@
-// Program folders of a test's own, and the bytes of files.
+// Program folders of a test's own.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,40 +10,58 @@
 #include <string>
 #include <string_view>
 
-#include "base/program.h"
+#include "data/posix_file_system.h"
+#include "data/program_folder.h"
 #include "data/stadium_store.h"
 #include "data/team_store.h"
+#include "support/memory_files.h"
 
 namespace kickwell {
 
-/// A fresh empty folder, gone with the test.
+/// A program folder in memory. Files are named by their path from it.
 class TestFolder {
  public:
-  TestFolder() {
+  std::filesystem::path operator/(const std::string& name) const { return Folder.Root / name; }
+
+  void Write(const std::string& file, const std::string& bytes) { Files.Put(*this / file, bytes); }
+  std::string Bytes(const std::string& file) const { return Files.Bytes(*this / file); }
+  bool Exists(const std::string& file) const { return Files.Has(*this / file); }
+  void Remove(const std::string& file) { Files.Remove(*this / file); }
+
+  MemoryFiles Files;
+  ProgramFolder Folder{"/kickwell", Files};
+};
+
+/// A program folder on the disk that is deleted with the test.
+class DiskFolder {
+ public:
+  DiskFolder() {
     std::string path = (std::filesystem::temp_directory_path() / "kickwell-XXXXXX").string();
     Folder.Root = ::mkdtemp(path.data());
   }
-  TestFolder(const TestFolder&) = delete;
-  TestFolder& operator=(const TestFolder&) = delete;
-  ~TestFolder() {
+  DiskFolder(const DiskFolder&) = delete;
+  DiskFolder& operator=(const DiskFolder&) = delete;
+  ~DiskFolder() {
     std::error_code ignored;
     std::filesystem::remove_all(Folder.Root, ignored);
   }
 
   std::filesystem::path operator/(const std::string& name) const { return Folder.Root / name; }
 
-  ProgramFolder Folder;
+  void Write(const std::string& file, const std::string& bytes) const {
+    std::filesystem::create_directories((*this / file).parent_path());
+    std::ofstream(*this / file, std::ios::binary) << bytes;
+  }
+  std::string Bytes(const std::string& file) const {
+    std::ifstream stream(*this / file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+  }
+  bool Exists(const std::string& file) const { return std::filesystem::exists(*this / file); }
+  void Remove(const std::string& file) const { std::filesystem::remove_all(*this / file); }
+
+  PosixFileSystem Files;
+  ProgramFolder Folder{{}, Files};
 };
-
-inline void WriteBytes(const std::filesystem::path& file, std::string_view bytes) {
-  std::filesystem::create_directories(file.parent_path());
-  std::ofstream(file, std::ios::binary) << bytes;
-}
-
-inline std::string ReadBytes(const std::filesystem::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
 
 /// ASCII text as the program writes it: each "\n" is a line end.
 inline std::string AsWritten(std::string_view text) {
@@ -68,8 +86,8 @@ inline Team MakeTeam(const std::string& name, const std::string& prefix, const s
 }
 
 /// Writes teams of eleven of skill 80, whose players are called after them: "A0" to "A10".
-inline void AddTeams(const TestFolder& folder, std::initializer_list<const char*> names) {
-  for (const char* name : names) EXPECT_TRUE(SaveTeam(folder.Folder, MakeTeam(name, name)).Ok());
+inline void AddTeams(const ProgramFolder& folder, std::initializer_list<const char*> names) {
+  for (const char* name : names) EXPECT_TRUE(SaveTeam(folder, MakeTeam(name, name)).Ok());
 }
 
 }  // namespace kickwell

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <string>
 
 #include "support/fakes.h"
@@ -12,17 +13,23 @@
 
 namespace kickwell {
 
-class ScreenTest : public testing::Test {
+template <typename ProgramFolderOfTest>
+class ScreenTestIn : public testing::Test {
  protected:
-  void Write(const std::string& file, const std::string& text) const { WriteBytes(folder_ / file, text); }
-  std::string Bytes(const std::string& file) const { return ReadBytes(folder_ / file); }
-  bool Exists(const std::string& file) const { return std::filesystem::exists(folder_ / file); }
+  void Write(const std::string& file, const std::string& text) { folder_.Write(file, text); }
+  void Remove(const std::string& file) { folder_.Remove(file); }
+  std::string Bytes(const std::string& file) const { return folder_.Bytes(file); }
+  bool Exists(const std::string& file) const { return folder_.Exists(file); }
+  void AddTeams(std::initializer_list<const char*> names) { kickwell::AddTeams(folder_.Folder, names); }
 
-  TestFolder folder_;
+  ProgramFolderOfTest folder_;
   FakeDesktop desktop_;
   FakeRecording recording_;
   FakeScreen screen_;
   QuietRandom random_;
 };
+
+using ScreenTest = ScreenTestIn<TestFolder>;
+using WindowTest = ScreenTestIn<DiskFolder>;  ///< Dialogs for files show the disk.
 
 }  // namespace kickwell

@@ -53,7 +53,7 @@ void BracketView::NameSlots() {
     name(winner, tr("Winner"));  // Until a later match takes him.
   }
   if (!charts_.Matches.empty())
-    matches.append(tr("Winner: ") + Shown(charts_.Text(charts_.Matches.back()[2])));
+    matches.append(tr("Winner: ") + Shown(charts_.Text(charts_.Matches.back().Winner)));
   setAccessibleDescription(matches.join("; "));
 }
 

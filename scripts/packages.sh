@@ -1,14 +1,14 @@
-# Sourced by the project's commands: the packages that each needs, and how they get there.
+# Which packages each command needs, and how to install them.
 
 RUN_PACKAGES="cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev qt6-wayland fonts-dejavu-core"
 DISPLAY_PACKAGES="xvfb xauth openbox x11-utils"
 TEST_PACKAGES="$RUN_PACKAGES libgtest-dev libbenchmark-dev clang git"
 LINT_PACKAGES="$TEST_PACKAGES clang-format-14 clang-tidy-14"
 
-# need PACKAGE...: installs what is missing, or names it and stops.
+# need PACKAGE...: installs missing packages, or lists them and exits.
 need() {
   if ! command -v dpkg-query >/dev/null; then
-    # No Debian or Ubuntu: go on only where all the commands are there and the project can be configured.
+    # Not Debian or Ubuntu: continue only if all commands exist and the project can be configured.
     local tool
     for tool in cmake ninja g++ $(case " $* " in *" xvfb "*) echo xvfb-run openbox xprop ;; *" clang "*) echo clang ;; esac); do
       command -v "$tool" >/dev/null || { echo "Kickwell needs these packages (by their Debian names): $*" >&2; exit 1; }
@@ -24,11 +24,11 @@ need() {
   [ -n "$missing" ] || return 0
   local root=""
   if [ "$(id -u)" != 0 ]; then
-    command -v sudo >/dev/null || { echo "Please install:$missing" >&2; exit 1; }
+    command -v sudo >/dev/null || { echo "Please install these packages:$missing" >&2; exit 1; }
     root=sudo
   fi
   echo "Installing:$missing"
   # shellcheck disable=SC2086
   $root apt-get update -qq && $root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq $missing >/dev/null ||
-    { echo "These packages could not be installed:$missing" >&2; exit 1; }
+    { echo "Could not install these packages:$missing" >&2; exit 1; }
 }

@@ -1,4 +1,5 @@
-# Installs the desktop entry with the whole path of the program, quoted as the entry's format wants it.
+# Installs the desktop entry with the program's absolute path, because its folder is on nobody's search path. Quotes the
+# path as the entry's format requires.
 set(program "${prefix}/Kickwell/Kickwell")
 string(REGEX REPLACE "([\\\\\"`$])" "\\\\\\1" program "${program}")
 string(REPLACE "\\" "\\\\" program "${program}")

@@ -1,5 +1,5 @@
-# Gives the program folder those items of the starter data that it does not have. What is there stays as it is: the
-# user's files are never overwritten, and a club that he has deleted does not come back. A copy counts when it is whole.
+# Adds the starter files and folders that the program folder does not have. It never overwrites the user's files, and a
+# deleted club does not come back. Renaming complete copies into place keeps an interrupted installation clean.
 set(folder "$ENV{DESTDIR}${prefix}/Kickwell")
 set(copies "${folder}/~kickwell-install")
 file(REMOVE_RECURSE "${copies}")

@@ -2,101 +2,109 @@
 
 #include <gtest/gtest.h>
 
-#include "data/file_names.h"
+#include "data/text_file.h"
 #include "support/folders.h"
 
 namespace kickwell {
 namespace {
 
-constexpr const char* Journal = "unfinished.journal";
+const std::string Journal(JournalName);
+const std::string Temporary = "~kickwell-7-1.tmp";  ///< Of a process that has ended.
 
-TEST(Journal, FinishesWhatItTellsOf) {
-  const TestFolder folder;
-  WriteBytes(folder / "Leagues/Top.rec", "old");
-  WriteBytes(folder / "Leagues/Top.sco", "old");
-  WriteBytes(folder / "~kickwell-4999999-1.tmp", "new");
-  WriteBytes(folder / Journal,
-             "Kickwell journal 1\n~kickwell-4999999-1.tmp\nLeagues/Top.rec\n~kickwell-4999999-2.tmp\n"
-             "Leagues/Top.leg\n-\nLeagues/Top.sco\nEnd\n");  // The second step has been made.
+TEST(JournalTest, FinishesWhatItLists) {
+  TestFolder folder;
+  folder.Write("Leagues/Top.rec", "old");
+  folder.Write("Leagues/Top.sco", "old");
+  folder.Write(Temporary, "new");
+  folder.Write(Journal, "Kickwell journal 1\n" + Temporary + "\nLeagues/Top.rec\n" +
+                            "~kickwell-7-2.tmp\nLeagues/Top.leg\n"  // This renaming was made before.
+                            "-\nLeagues/Top.sco\nEnd\n");
   EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "later"}}).Ok());
   EXPECT_TRUE(FinishChanges(folder.Folder).Ok());
-  EXPECT_EQ(ReadBytes(folder / "Leagues/Top.rec"), "new");
-  EXPECT_FALSE(std::filesystem::exists(folder / "Leagues/Top.sco"));
-  EXPECT_FALSE(std::filesystem::exists(folder / Journal));
+  EXPECT_EQ(folder.Bytes("Leagues/Top.rec"), "new");
+  EXPECT_FALSE(folder.Exists("Leagues/Top.sco"));
+  EXPECT_FALSE(folder.Exists(Journal));
   EXPECT_TRUE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "later"}}).Ok());
-  EXPECT_EQ(ReadBytes(folder / "Leagues/Top.rec"), "later");
+  EXPECT_EQ(folder.Bytes("Leagues/Top.rec"), "later");
 }
 
-TEST(Journal, IsSetAsideWhenItMakesNoSense) {
-  const std::string begin = "Kickwell journal 1\n", temporary = "~kickwell-4999999-1.tmp\n", end = "End\n";
-  const std::string senseless[] = {
+TEST(JournalTest, IsIgnoredAndRenamedWhenItIsDamaged) {
+  const std::string begin = "Kickwell journal 1\n", end = "End\n", line = Temporary + "\n";
+  const std::string damaged[] = {
       "",
       std::string(100, '\0'),
       begin,
-      begin + temporary + "Leagues/Top.rec\n",  // Cut short.
-      begin + temporary + "Leagues/Top.rec\nEnd",
-      begin + temporary + "Leagues/Top.rec\nEnd\nmore\n",
-      temporary + "Leagues/Top.rec\n" + end,
-      begin + temporary + "Teams/Top.rec\n" + end,  // No file of a championship.
-      begin + temporary + "Leagues/Top.txt\n" + end,
-      begin + temporary + "Leagues/../Top.rec\n" + end,
-      begin + temporary + "Leagues/a/../../Top.rec\n" + end,
-      begin + temporary + "/Leagues/Top.rec\n" + end,
-      begin + temporary + "../Leagues/Top.rec\n" + end,
+      begin + line + "Leagues/Top.rec\n",  // Cut short.
+      begin + line + "Leagues/Top.rec\nEnd",
+      begin + line + "Leagues/Top.rec\nEnd\nmore\n",
+      line + "Leagues/Top.rec\n" + end,
+      begin + line + "Teams/Top.rec\n" + end,  // No file of a championship.
+      begin + line + "Leagues/Top.txt\n" + end,
+      begin + line + "Leagues/../Top.rec\n" + end,
+      begin + line + "Leagues/a/../../Top.rec\n" + end,
+      begin + line + "/Leagues/Top.rec\n" + end,
+      begin + line + "../Leagues/Top.rec\n" + end,
       begin + "-\nstadiums.sim\n" + end,
       begin + "Teams/Top.rec\nLeagues/Top.rec\n" + end,  // No temporary file.
-      begin + "../~kickwell-4999999-1.tmp\nLeagues/Top.rec\n" + end,
+      begin + "../" + line + "Leagues/Top.rec\n" + end,
       begin + "~kickwell-x-1.tmp\nLeagues/Top.rec\n" + end,
   };
   const char* const files[] = {"Leagues/Top.rec", "Top.rec", "Teams/Top.rec", "Leagues/Top.txt",
                                "stadiums.sim"};
-  for (const std::string& text : senseless) {
-    const TestFolder folder;
-    for (const char* file : files) WriteBytes(folder / file, "old");
-    WriteBytes(folder / "~kickwell-4999999-1.tmp", "new");
-    WriteBytes(folder / Journal, text);
-    EXPECT_FALSE(FinishChanges(folder.Folder).Ok()) << text;
-    EXPECT_EQ(ReadBytes(folder / "unfinished.bad"), text);
-    for (const char* file : files) EXPECT_EQ(ReadBytes(folder / file), "old") << text;
+  for (const std::string& text : damaged) {
+    SCOPED_TRACE(text);
+    TestFolder folder;
+    for (const char* file : files) folder.Write(file, "old");
+    folder.Write(Temporary, "new");
+    folder.Write("unfinished.bad", "an earlier one");
+    folder.Write(Journal, text);
+    EXPECT_EQ(
+        FinishChanges(folder.Folder).Failure,
+        "The file /kickwell/unfinished.journal is damaged. It was ignored and renamed to unfinished-2.bad.");
+    EXPECT_EQ(folder.Bytes("unfinished-2.bad"), text);
+    for (const char* file : files) EXPECT_EQ(folder.Bytes(file), "old");
     EXPECT_TRUE(FinishChanges(folder.Folder).Ok());
   }
 }
 
-TEST(Journal, ChangesOnlyFilesOfChampionships) {
-  const TestFolder folder;
+TEST(JournalTest, ChangesOnlyFilesOfChampionships) {
+  TestFolder folder;
   for (const char* file :
        {"stadiums.sim", "Teams/A", "Leagues/../A.rec", "Leagues/A", "/A.rec", "Leagues/A\nB.rec"}) {
     EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}, {file, "new"}}).Ok()) << file;
   }
-  EXPECT_TRUE(std::filesystem::is_empty(folder.Folder.Root));
-  std::filesystem::create_directories(folder / "Leagues/Top.sco");  // No file that could be deleted.
-  EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}, {"Leagues/Top.sco", {}}}).Ok());
-  EXPECT_EQ(ListFiles(folder.Folder.Leagues()), std::vector<std::string>{});
+  EXPECT_TRUE(folder.Files.All().empty());
 }
 
-TEST(Journal, AFolderInItsPlaceIsSetAsideToo) {
-  const TestFolder folder;
-  WriteBytes(folder / "unfinished.bad", "earlier");
-  std::filesystem::create_directory(folder / Journal);
+TEST(JournalTest, RefusesToDeleteAFolderBeforeAnythingHasChanged) {
+  TestFolder folder;
+  folder.Write("Leagues/Top.sco/in the way", "");
+  EXPECT_EQ(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}, {"Leagues/Top.sco", {}}}).Failure,
+            "The file /kickwell/Leagues/Top.sco can't be deleted: It is not a file.");
+  EXPECT_EQ(folder.Files.All().size(), 1U);
+}
+
+TEST(JournalTest, IsNeverWrittenOverAFolderInItsPlace) {
+  TestFolder folder;
+  folder.Write(Journal + "/in the way", "");
   EXPECT_FALSE(FinishChanges(folder.Folder).Ok());
-  EXPECT_TRUE(std::filesystem::is_directory(folder / "unfinished-2.bad"));
-  EXPECT_TRUE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}}).Ok());
+  EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}}).Ok());
+  EXPECT_EQ(folder.Files.All().size(), 1U);
 }
 
-TEST(Journal, LeftoversOfDeadProcessesGoWhenNoJournalNeedsThem) {
-  const TestFolder folder;
-  const std::string own = TemporaryName(1);
-  for (const std::string& file : {std::string("~kickwell-4999999-0.tmp"), own, std::string("my.tmp"),
-                                  std::string("~kickwell-mine.tmp")}) {
-    WriteBytes(folder / file, "x");
-  }
-  std::filesystem::create_directories(folder / "Leagues/Top.rec/in the way");
-  WriteBytes(folder / Journal, "Kickwell journal 1\n~kickwell-4999999-0.tmp\nLeagues/Top.rec\nEnd\n");
+TEST(JournalTest, AStartDeletesTemporaryFilesThatNobodyNeeds) {
+  TestFolder folder;
+  const std::string own = TemporaryName(folder.Files, 1), mine = "my.tmp", alike = "~kickwell-mine.tmp";
+  for (const std::string& file : {Temporary, own, mine, alike}) folder.Write(file, "x");
+  folder.Write("Leagues/Top.rec/in the way", "");
+  folder.Write(Journal, "Kickwell journal 1\n" + Temporary + "\nLeagues/Top.rec\nEnd\n");
   EXPECT_FALSE(CleanUp(folder.Folder).Ok());
-  EXPECT_TRUE(std::filesystem::exists(folder / "~kickwell-4999999-0.tmp"));
-  std::filesystem::remove(folder / Journal);
+  EXPECT_TRUE(folder.Exists(Temporary));  // The journal needs it.
+  folder.Remove("Leagues");
+  folder.Remove(Journal);
   EXPECT_TRUE(CleanUp(folder.Folder).Ok());
-  EXPECT_EQ(ListFiles(folder.Folder.Root), (std::vector<std::string>{"my.tmp", own, "~kickwell-mine.tmp"}));
+  EXPECT_FALSE(folder.Exists(Temporary));
+  for (const std::string& file : {own, mine, alike}) EXPECT_TRUE(folder.Exists(file)) << file;
 }
 
 }  // namespace

@@ -6,100 +6,136 @@
 namespace kickwell {
 namespace {
 
-class RecordingTest : public ScreenTest {
+/// Records matches of the championship "Cup" between Rovers and United, most of them as match 1.
+class FileRecordingTest : public ScreenTest {
  protected:
-  /// A match of the championship "Cup" between Rovers (side 1 at its end) and United.
-  static MatchSession Ended(MatchMode mode, int goals1, int goals2) {
+  static MatchSession Match(MatchMode mode) {
     MatchSession s;
     s.Setup = MakeSetup(mode);
     s.Setup.ChampionshipName = "Cup";
     s.Setup.MatchNumber = 1;
     s.Side1.Team = "Rovers";
     s.Side2.Team = "United";
-    s.Side1.Goals = s.Side1FinalGoals = goals1;
-    s.Side2.Goals = s.Side2FinalGoals = goals2;
     s.Venue = "The Mill, Leat";
     s.Attendance = 500;
     s.AttendancePercent = 50;
     return s;
   }
 
-  /// The bytes of the scorers' file after a goal.
-  std::string Scored(MatchMode mode, const char* player, const char* team) {
-    MatchSession s = Ended(mode, 1, 0);
+  /// The match at its end, announced and recorded.
+  void Play(MatchMode mode, int rovers, int united) {
+    MatchSession s = Match(mode);
+    s.Side1.Goals = s.Side1FinalGoals = rovers;
+    s.Side2.Goals = s.Side2FinalGoals = united;
+    Announcement(s, random_, file_).ShowResult();
+  }
+
+  void Score(MatchMode mode, const std::string& player, const std::string& team) {
+    MatchSession s = Match(mode);
     s.LastScorer = player;
     s.LastScoringTeam = team;
     file_.StoreScorer(s);
-    return Bytes(mode == MatchMode::League ? "Leagues/Cup.sco" : "Tournies/Cup.sco");
   }
 
-  const std::string crowd_ = "\nVenue: The Mill, Leat\nTotal Attendence: 500 (50%)\nWinner: ";
-  Texts selected_;
+  void ExpectFile(const std::string& file, const std::string& text) const {
+    EXPECT_EQ(Bytes(file), AsWritten(text));
+  }
+
+  const std::string crowd_ = "Venue: The Mill, Leat\nTotal Attendence: 500 (50%)\n";
+  Texts selectedAgain_;
   FileRecording file_{folder_.Folder, desktop_,
-                      [this](const std::string& file) { selected_.push_back(file); }};
+                      [this](const std::string& file) { selectedAgain_.push_back(file); }};
 };
 
-TEST_F(RecordingTest, GoalsAddUpByPlayersNameAndFriendliesAreNotRecorded) {
-  Scored(MatchMode::Friendly, "Ann", "Rovers");
-  file_.StoreResult(Ended(MatchMode::Friendly, 1, 0));
-  file_.StoreLeagueResult(Ended(MatchMode::Friendly, 1, 0));
-  EXPECT_TRUE(std::filesystem::is_empty(folder_.Folder.Root));
-  EXPECT_EQ(Scored(MatchMode::League, "Ann", "Rovers"), AsWritten("Ann\nRovers\n1\n"));
-  Scored(MatchMode::League, "Bo", "United");
-  EXPECT_EQ(Scored(MatchMode::League, "Ann", "United"),  // A namesake: one tally, the first team stays.
-            AsWritten("Ann\nRovers\n2\nBo\nUnited\n1\n"));
-  Write("Tournies/Cup.sco", "Ann\nRovers\n2147483647\n");  // The largest figure stays.
-  EXPECT_EQ(Scored(MatchMode::KnockOut, "Ann", "Rovers"), AsWritten("Ann\nRovers\n2147483647\n"));
-  std::filesystem::remove(folder_ / "Tournies/Cup.sco");
-  EXPECT_EQ(Scored(MatchMode::KnockOut, "Cy", "Rovers"), AsWritten("Cy\nRovers\n1\n"));
+TEST_F(FileRecordingTest, NothingOfAFriendlyIsRecorded) {
+  Score(MatchMode::Friendly, "Ann", "Rovers");
+  file_.StoreResult(Match(MatchMode::Friendly));
+  file_.StoreLeagueResult(Match(MatchMode::Friendly));
+  EXPECT_TRUE(folder_.Files.All().empty());
+  EXPECT_TRUE(selectedAgain_.empty());
 }
 
-TEST_F(RecordingTest, LeagueMatchesUpdateStandingsResultsAndMarks) {
-  const std::string head = "Cup\n3\nAlbion\nRovers\nUnited\n3\nNP\nRovers\nAlbion\n",
-                    tail = "Rovers\nUnited\nNP\nAlbion\nUnited\n", noMatch = "Albion\n0\n0\n0\n0\n0\n0\n0\n";
-  Write("Leagues/Cup.leg", head + "NP\n" + tail);
-  const auto play = [this](int goals1, int goals2) {
-    MatchSession s = Ended(MatchMode::League, goals1, goals2);
-    Announcement(s, random_, file_).ShowResult();
-    return Bytes("Leagues/Cup.rec");
-  };
-  EXPECT_EQ(play(3, 1), AsWritten(noMatch + "Rovers\n1\n1\n0\n0\n3\n1\n3\nUnited\n1\n0\n0\n1\n1\n3\n0\n"));
-  EXPECT_EQ(Bytes("Leagues/Cup.leg"), AsWritten(head + "P\n" + tail));
-  const std::string first = "Match 1:\nRovers 3 vs United 1" + crowd_ + "Rovers\n";
-  EXPECT_EQ(Bytes("Leagues/Cup.lrs"), AsWritten(first));
-  play(2, 2);
-  EXPECT_EQ(play(0, 1), AsWritten(noMatch + "Rovers\n3\n1\n1\n1\n5\n4\n4\nUnited\n3\n1\n1\n1\n4\n5\n4\n"));
-  EXPECT_EQ(Bytes("Leagues/Cup.lrs"),
-            AsWritten(first + "\nMatch 1:\nRovers 2 vs United 2" + crowd_ +
-                      "Match Tied\n\nMatch 1:\nRovers 0 vs United 1" + crowd_ + "United\n"));
-  EXPECT_EQ(Joined(selected_), "Cup.leg|Cup.leg|Cup.leg");
+TEST_F(FileRecordingTest, GoalsAddUpByThePlayersName) {
+  Score(MatchMode::League, "Ann", "Rovers");
+  Score(MatchMode::League, "Bo", "United");
+  Score(MatchMode::League, "Ann", "United");  // A namesake: one tally, the first team stays.
+  ExpectFile("Leagues/Cup.sco", "Ann\nRovers\n2\nBo\nUnited\n1\n");
+  Score(MatchMode::KnockOut, "Cy", "Rovers");
+  ExpectFile("Tournies/Cup.sco", "Cy\nRovers\n1\n");
 }
 
-TEST_F(RecordingTest, AKnockOutWinnerMovesOnToWhereHisNumberWaitsAndAShootOutIsTold) {
-  const std::string head = "3\nCup\n4\nRovers\nUnited\nX\nY\n";
-  Write("Tournies/Cup.trn", head +
-                                "NP\nRovers (By Toss)\nUnited\nWinner 1\nNP\nX\nWinner 4\nWinner 2\n"
-                                "NP\nWinner 1\nY\nWinner 3\n");
-  MatchSession s = Ended(MatchMode::KnockOut, 1, 1);
-  s.Setup.MatchNumber = 4;
+TEST_F(FileRecordingTest, TheLargestTallyStays) {
+  Write("Leagues/Cup.sco", "Ann\nRovers\n2147483647\n");
+  Score(MatchMode::League, "Ann", "Rovers");
+  ExpectFile("Leagues/Cup.sco", "Ann\nRovers\n2147483647\n");
+}
+
+TEST_F(FileRecordingTest, ALeagueMatchUpdatesStandingsResultsAndItsFixture) {
+  const std::string teams = "Cup\n3\nAlbion\nRovers\nUnited\n3\n", first = "NP\nRovers\nAlbion\n",
+                    last = "NP\nAlbion\nUnited\n";
+  Write("Leagues/Cup.leg", teams + first + "NP\nRovers\nUnited\n" + last);
+  Play(MatchMode::League, 3, 1);
+  ExpectFile("Leagues/Cup.leg", teams + first + "P\nRovers\nUnited\n" + last);
+  ExpectFile("Leagues/Cup.rec",
+             "Albion\n0\n0\n0\n0\n0\n0\n0\nRovers\n1\n1\n0\n0\n3\n1\n3\nUnited\n1\n0\n0\n1\n1\n3\n0\n");
+  ExpectFile("Leagues/Cup.lrs", "Match 1:\nRovers 3 vs United 1\n" + crowd_ + "Winner: Rovers\n");
+  EXPECT_EQ(selectedAgain_, Texts{"Cup.leg"});
+}
+
+TEST_F(FileRecordingTest, StandingsAddUpWinsDrawsAndDefeatsOfBothSides) {
+  Write("Leagues/Cup.leg", "Cup\n2\nRovers\nUnited\n1\nNP\nRovers\nUnited\n");
+  Play(MatchMode::League, 3, 1);
+  Play(MatchMode::League, 2, 2);
+  Play(MatchMode::League, 0, 1);
+  ExpectFile("Leagues/Cup.rec", "Rovers\n3\n1\n1\n1\n5\n4\n4\nUnited\n3\n1\n1\n1\n4\n5\n4\n");
+  ExpectFile("Leagues/Cup.lrs", "Match 1:\nRovers 3 vs United 1\n" + crowd_ + "Winner: Rovers\n\n" +
+                                    "Match 1:\nRovers 2 vs United 2\n" + crowd_ + "Winner: Match Tied\n\n" +
+                                    "Match 1:\nRovers 0 vs United 1\n" + crowd_ + "Winner: United\n");
+}
+
+TEST_F(FileRecordingTest, AKnockOutWinnerGoesWhereHisMatchIsWaitedFor) {
+  const std::string teams = "3\nCup\n4\nRovers\nUnited\nAlbion\nCity\n";
+  Write("Tournies/Cup.trn",
+        teams + "NP\nRovers (By Toss)\nUnited\nWinner 1\n" +  // Through by toss, without a team so called.
+            "NP\nAlbion\nWinner 4\nWinner 2\nNP\nWinner 1\nCity\nWinner 3\n");
+  MatchSession s = Match(MatchMode::KnockOut);
   s.ResultText = "United (By Toss)";
-  s.DecidedByShootOut = true;
-  s.Side1Penalties = s.Side2Penalties = 10;
-  file_.StoreResult(s);  // There is no table.
+  file_.StoreResult(s);  // A knock-out has no standings.
   file_.StoreLeagueResult(s);
-  s.Setup.MatchNumber = 1;
-  s.ResultText = "United";
-  s.Side1Penalties = 9;
+  s.Setup.MatchNumber = 4;
+  s.Setup.Team1Name = "Nobody";
   file_.StoreLeagueResult(s);
-  EXPECT_EQ(Bytes("Tournies/Cup.trn"),
-            AsWritten(head + "P\nRovers (By Toss)\nUnited\nUnited\nNP\nX\nUnited (By Toss)\nWinner 2\n"
-                             "NP\nUnited\nY\nWinner 3\n"));
-  EXPECT_EQ(Bytes("Tournies/Cup.lrs"), AsWritten("Match 4:\nRovers 1(10) vs United 1(10)" + crowd_ +
-                                                 "United (By Toss)\n\n"
-                                                 "Match 1:\nRovers 1(9) vs United 1(10)" +
-                                                 crowd_ + "United\n"));
+  ExpectFile("Tournies/Cup.trn", teams + "P\nRovers (By Toss)\nUnited\nUnited (By Toss)\n" +
+                                     "NP\nAlbion\nUnited (By Toss)\nWinner 2\n" +
+                                     "NP\nUnited (By Toss)\nCity\nWinner 3\n");
   EXPECT_FALSE(Exists("Tournies/Cup.rec"));
-  EXPECT_EQ(Joined(selected_), "Cup.trn|Cup.trn");
+  EXPECT_EQ(selectedAgain_, (Texts{"Cup.trn", "Cup.trn"}));
+}
+
+TEST_F(FileRecordingTest, AShootOutIsToldInTheResults) {
+  MatchSession s = Match(MatchMode::KnockOut);
+  s.Side1.Goals = s.Side2.Goals = 1;
+  s.Side1Penalties = 9;
+  s.Side2Penalties = 10;
+  s.DecidedByShootOut = true;
+  s.ResultText = "United";
+  file_.StoreLeagueResult(s);  // Without a main file, too.
+  ExpectFile("Tournies/Cup.lrs", "Match 1:\nRovers 1(9) vs United 1(10)\n" + crowd_ + "Winner: United\n");
+}
+
+TEST_F(FileRecordingTest, NothingIsRecordedOverAFileThatCannotBeRead) {
+  for (const char* unreadable : {"Leagues/Cup.leg", "Leagues/Cup.rec", "Leagues/Cup.lrs"}) {
+    SCOPED_TRACE(unreadable);
+    Write("Leagues/Cup.leg", "Cup\n2\nRovers\nUnited\n1\nNP\nRovers\nUnited\n");
+    Write(unreadable, "x");
+    const auto before = folder_.Files.All();
+    folder_.Files.Unreadable = {folder_ / unreadable};
+    Play(MatchMode::League, 1, 0);
+    EXPECT_EQ(folder_.Files.All(), before);
+    EXPECT_EQ(desktop_.Taken(),
+              Texts{"!: The file " + (folder_ / unreadable).string() + " can't be read: Permission denied."});
+    for (const char* file : {"Leagues/Cup.rec", "Leagues/Cup.lrs"}) Remove(file);
+  }
 }
 
 }  // namespace

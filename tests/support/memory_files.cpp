@@ -1,6 +1,7 @@
 #include "support/memory_files.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace kickwell {
 namespace {
@@ -23,7 +24,7 @@ std::error_code MemoryFiles::Begin(const Path& file) {
   ++Operations;
   Touched.insert(file);
   if (Operations == StopAt) throw Stopped();
-  const bool fails = Operations == FailAt || (FailOn && FailAt > 0 && Operations > FailAt);
+  const bool fails = FailAt > 0 && Operations >= FailAt && Operations - FailAt < FailCount;
   return fails ? Failure : std::error_code();
 }
 
@@ -86,19 +87,18 @@ std::error_code MemoryFiles::Delete(const Path& file) {
 
 void MemoryFiles::FlushFolderOf(const Path& file) {
   if (Begin(file.parent_path())) return;
-  // A renaming between two folders is durable once either of them is: the file then has its new place.
-  const auto isFlushed = [&](const Change& change) {
-    return std::ranges::any_of(
-        change, [&](const auto& entry) { return entry.first.parent_path() == file.parent_path(); });
-  };
-  for (const Change& change : unflushed_) {
-    if (isFlushed(change)) Apply(change, durable_);
+  const auto isFlushed = [&](const auto& entry) { return entry.first.parent_path() == file.parent_path(); };
+  for (Change& change : unflushed_) {
+    Change flushed;
+    std::ranges::copy_if(change, std::inserter(flushed, flushed.end()), isFlushed);
+    Apply(flushed, durable_);
+    std::erase_if(change, isFlushed);
   }
-  std::erase_if(unflushed_, isFlushed);
+  std::erase_if(unflushed_, [](const Change& change) { return change.empty(); });
 }
 
 std::vector<std::string> MemoryFiles::List(const Path& folder) {
-  if (Begin(folder)) return {};
+  Begin(folder);  // The contract knows no failure.
   std::vector<std::string> names;
   for (const auto& [file, bytes] : entries_) {
     if (file.parent_path() == folder) names.push_back(file.filename().string());
@@ -124,14 +124,12 @@ void MemoryFiles::Remove(const Path& file) {
 
 void MemoryFiles::Restart() {
   FailAt = StopAt = Operations = 0;
-  FailOn = false;
   ++process_;
 }
 
-void MemoryFiles::CutPower(int kept) {
+void MemoryFiles::CutPower(const std::set<std::size_t>& kept) {
+  for (const std::size_t place : kept) Apply(unflushed_.at(place), durable_);
   entries_ = durable_;
-  if (kept >= 0) Apply(unflushed_.at(static_cast<std::size_t>(kept)), entries_);
-  durable_ = entries_;
   unflushed_.clear();
   Restart();
 }

@@ -39,23 +39,22 @@ class MemoryFiles final : public FileSystem {
   /// Starts the program again after it stopped, as another process.
   void Restart();
 
-  /// How many changes of folders a power cut could lose now.
-  int Unflushed() const { return static_cast<int>(unflushed_.size()); }
+  /// How many changes of folders a power cut could lose now, each on its own.
+  std::size_t Unflushed() const { return unflushed_.size(); }
 
-  /// Restarts after a power cut that lost all changes of folders which were not flushed, but for the one at
-  /// `kept`.
-  void CutPower(int kept = -1);
+  /// Restarts after a power cut that lost every change of a folder which was neither flushed nor `kept`.
+  void CutPower(const std::set<std::size_t>& kept);
 
   std::set<Path> Unreadable;  ///< Files that exist and can neither be read nor replaced.
   int Operations = 0;         ///< Since the last restart.
-  int FailAt = 0;             ///< The operation that fails, from 1; 0 for none.
-  bool FailOn = false;        ///< Whether all later ones fail too.
+  int FailAt = 0;             ///< The first operation that fails, from 1; 0 for none.
+  int FailCount = 1;          ///< How many fail from there on.
   std::error_code Failure = std::make_error_code(std::errc::io_error);
   int StopAt = 0;            ///< The operation at which the program stops, a write half done; 0 for none.
   std::set<Path> Touched{};  ///< All paths that operations have named.
 
  private:
-  /// Entries of folders that change together, to the content of the file, or to nothing.
+  /// Entries of folders that one operation changes: to the content of a file, or to nothing.
   using Change = std::map<Path, std::optional<std::string>>;
 
   std::error_code Begin(const Path& file);

@@ -1,0 +1,85 @@
+#include "data/text_encoding.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace kickwell {
+namespace {
+
+using namespace std::string_literals;
+
+Lines Decoded(std::string_view bytes) {
+  const TextLines lines = Decode(bytes);
+  return {lines.begin(), lines.end()};
+}
+
+/// UTF-16 little-endian with the mark.
+std::string Utf16(std::u16string_view text) {
+  std::string bytes = "\xFF\xFE";
+  for (const char16_t unit : text) {
+    bytes += static_cast<char>(unit & 0xFF);
+    bytes += static_cast<char>(unit >> 8);
+  }
+  return bytes;
+}
+
+TEST(TextEncoding, ReadsEveryEncodingAndLineEnd) {
+  const Lines expected = {"A\u00E9", "", "\U0001F3C6"};
+  const std::pair<const char*, std::string> cases[] = {
+      {"UTF-16 little-endian", Utf16(u"A\u00E9\r\n\r\n\U0001F3C6\r\n")},
+      {"without mark, LF, and end of the last line", Utf16(u"A\u00E9\n\n\U0001F3C6").substr(2)},
+      {"UTF-16 big-endian", "\xFE\xFF\0A\0\xE9\0\r\0\n\0\r\0\n\xD8\x3C\xDF\xC6\0\r\0\n"s},
+      {"without mark", "\0A\0\xE9\0\n\0\n\xD8\x3C\xDF\xC6\0\n"s},
+      {"UTF-8",
+       "\xEF\xBB\xBF"
+       "A\xC3\xA9\r\n\r\n\xF0\x9F\x8F\x86\r\n"},
+      {"without mark", "A\xC3\xA9\n\r\n\xF0\x9F\x8F\x86"},
+  };
+  for (const auto& [name, bytes] : cases) EXPECT_EQ(Decoded(bytes), expected) << name;
+}
+
+TEST(TextEncoding, ReadsLongLinesAndWhateverStandsAmongThem) {
+  std::u16string text;
+  Lines expected;
+  for (int length = 0; length < 70; ++length) {  // Longer than any block that is copied at once.
+    text += std::u16string(static_cast<std::size_t>(length), u'x') + u"\u00E9\u010Ay\r\n";
+    expected.push_back(std::string(static_cast<std::size_t>(length), 'x') + "\u00E9\u010Ay");
+  }
+  EXPECT_EQ(Decoded(Utf16(text)), expected);
+  EXPECT_EQ(Encode(expected), Utf16(text));
+}
+
+TEST(TextEncoding, ReadsWhateverBytesThereAre) {
+  EXPECT_EQ(Decoded(""), Lines());
+  EXPECT_EQ(Decoded("\xFF\xFE"), Lines());
+  EXPECT_EQ(Decoded(Utf16(u"A") + "B"), Lines{"A"});  // Half a character at the end.
+  EXPECT_EQ(Decoded("a\xFF"
+                    "b\xC0\x80\xED\xA0"),
+            Lines{"a\uFFFDb\uFFFD\uFFFD\uFFFD\uFFFD"});
+  EXPECT_EQ(Decoded("one\rtwo\n"), Lines{"one\rtwo"});  // A lone CR ends no line.
+}
+
+TEST(TextEncoding, KeepsLoneSurrogates) {
+  const std::string high = "\x3C\xD8", low = "\xC6\xDF";
+  const std::string bytes = "\xFF\xFE" + high + "x\0"s + low + "\r\0\n\0"s;
+  EXPECT_EQ(Encode(Decoded(bytes)), bytes);
+}
+
+TEST(TextEncoding, WritesUtf16WithMarkAndLineEnds) {
+  EXPECT_EQ(Encode({"A\u00E9", "", "two\nlines", "\U0001F3C6"}),
+            Utf16(u"A\u00E9\r\n\r\ntwo lines\r\n\U0001F3C6\r\n"));
+  EXPECT_EQ(Encode({}), Utf16(u""));
+}
+
+TEST(TextEncoding, LinesOutliveWhatTheyWereCopiedFrom) {
+  TextLines copy;
+  {
+    TextLines lines = Decode("short");
+    copy = std::move(lines);
+  }
+  EXPECT_EQ(copy[0], "short");
+}
+
+}  // namespace
+}  // namespace kickwell

@@ -15,9 +15,9 @@ void Announcement::ShowResult() {
   s.Controls.Label2 = Lamp::Black;
   AddLine(s.Summary, "");
   AddLine(s.Summary, "Result:");
-  if (s.Side1FinalGoals > s.Side2FinalGoals) {
+  if (s.Side1.FinalGoals > s.Side2.FinalGoals) {
     Beats(s.Side1, s.Side2);
-  } else if (s.Side2FinalGoals > s.Side1FinalGoals) {
+  } else if (s.Side2.FinalGoals > s.Side1.FinalGoals) {
     Beats(s.Side2, s.Side1);
   } else {
     s.SummaryLine = "The match was tied at " + Score(s.Side1.Goals, s.Side2.Goals);
@@ -49,12 +49,12 @@ void Announcement::Beats(const Side& winner, const Side& loser) {
 
 void Announcement::PenResult() {
   MatchSession& s = session_;
-  if (s.Side1Penalties > s.Side2Penalties) {
-    WinsShootOut(s.Side1, s.Side2, s.Side1Penalties, s.Side2Penalties);
-  } else if (s.Side2Penalties > s.Side1Penalties) {
-    WinsShootOut(s.Side2, s.Side1, s.Side2Penalties, s.Side1Penalties);
+  if (s.Side1.Penalties > s.Side2.Penalties) {
+    WinsShootOut(s.Side1, s.Side2);
+  } else if (s.Side2.Penalties > s.Side1.Penalties) {
+    WinsShootOut(s.Side2, s.Side1);
   } else {
-    s.SummaryLine = "PSO was tied at " + Score(s.Side1Penalties, s.Side2Penalties);
+    s.SummaryLine = "PSO was tied at " + Score(s.Side1.Penalties, s.Side2.Penalties);
     AddLine(s.Commentary, "The match still remains undecided after the PSO");
     s.ResultText = (random_.Int(2) == 0 ? s.Side1.Team : s.Side2.Team) + " (By Toss)";
   }
@@ -65,9 +65,10 @@ void Announcement::PenResult() {
   }
 }
 
-void Announcement::WinsShootOut(const Side& winner, const Side& loser, int scored, int conceded) {
+void Announcement::WinsShootOut(const Side& winner, const Side& loser) {
   MatchSession& s = session_;
-  s.SummaryLine = winner.Team + " beats " + loser.Team + " " + Score(scored, conceded) + " in PSO";
+  s.SummaryLine =
+      winner.Team + " beats " + loser.Team + " " + Score(winner.Penalties, loser.Penalties) + " in PSO";
   AddLine(s.Commentary, "That's it, " + winner.Team + " wins the match in a PSO");
   s.ResultText = winner.Team;
 }

@@ -94,9 +94,8 @@ void Clock::EndOfHalf(std::string line, Period next) {
 }
 
 bool Clock::LevelAtTheEnd() {
-  session_.Side1FinalGoals = session_.Side1.Goals;
-  session_.Side2FinalGoals = session_.Side2.Goals;
-  return session_.Side1FinalGoals == session_.Side2FinalGoals;
+  session_.KeepFinalGoals();
+  return session_.Side1.FinalGoals == session_.Side2.FinalGoals;
 }
 
 void Clock::EndOfNormalTime() {

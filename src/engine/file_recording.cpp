@@ -31,9 +31,9 @@ void AddMatch(StandingsRow& row, int& outcome, int goalsFor, int goalsAgainst, i
 }
 
 /// A side's part of the result line, with its penalties after a shoot-out.
-std::string SideResult(const Side& side, int penalties, bool shootOut) {
+std::string SideResult(const Side& side, bool shootOut) {
   return side.Team + " " + std::to_string(side.Goals) +
-         (shootOut ? "(" + std::to_string(penalties) + ")" : "");
+         (shootOut ? "(" + std::to_string(side.Penalties) + ")" : "");
 }
 
 }  // namespace
@@ -59,7 +59,7 @@ void FileRecording::StoreResult(const MatchSession& session) {
   if (!championship_) return;
   const std::string& name = session.Setup.ChampionshipName;
   std::vector<StandingsRow> standings = ReadStandings(folder_, name, championship_->Teams, &failure_);
-  const bool level = session.Side1FinalGoals == session.Side2FinalGoals;
+  const bool level = session.Side1.FinalGoals == session.Side2.FinalGoals;
   for (StandingsRow& row : standings) {
     const bool winner = row.Team == session.WinnerName;
     if (!winner && row.Team != session.LoserName) continue;
@@ -79,8 +79,7 @@ void FileRecording::StoreLeagueResult(const MatchSession& session) {
   const bool shootOut = session.DecidedByShootOut;
   const std::array<std::string, 5> block = {
       "Match " + std::to_string(session.Setup.MatchNumber) + ":",
-      SideResult(session.Side1, session.Side1Penalties, shootOut) + " vs " +
-          SideResult(session.Side2, session.Side2Penalties, shootOut),
+      SideResult(session.Side1, shootOut) + " vs " + SideResult(session.Side2, shootOut),
       "Venue: " + session.Venue, AttendanceText(session), "Winner: " + session.ResultText};
   ReadChampionshipOnce(session);
   const ChampionshipKind kind = KindOf(session);

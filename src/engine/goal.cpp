@@ -9,11 +9,13 @@ int GoalRange(int strength) {
 }
 
 Side* DrawGoal(MatchSession& session, Random& random) {
-  session.Side1Draw = random.Int(session.Side1.GoalRange);
-  session.Side2Draw = random.Int(session.Side2.GoalRange);
-  if (session.Side1Draw == session.Side2Draw) return nullptr;
-  if (session.Side1Draw == session.GoalNumber) return &session.Side1;
-  if (session.Side2Draw == session.GoalNumber) return &session.Side2;
+  Side& side1 = session.Side1;
+  Side& side2 = session.Side2;
+  side1.Draw = random.Int(side1.GoalRange);
+  side2.Draw = random.Int(side2.GoalRange);
+  if (side1.Draw == side2.Draw) return nullptr;
+  if (side1.Draw == session.GoalNumber) return &side1;
+  if (side2.Draw == session.GoalNumber) return &side2;
   return nullptr;
 }
 

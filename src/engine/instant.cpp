@@ -43,8 +43,7 @@ void Instant::InstantMain() {
     AddLine(s.Summary, "PENALTY SHOOT OUT!");
     InstantPenalty();
   } else {
-    s.Side1FinalGoals = s.Side1.Goals;
-    s.Side2FinalGoals = s.Side2.Goals;
+    s.KeepFinalGoals();
     announcement_.ShowResult();
   }
   s.Controls.instantEnabled = false;
@@ -65,13 +64,13 @@ void Instant::InstantPenalty() {
   MatchSession& s = session_;
   s.Controls.PensVisible = true;
   for (int k = 0; k < InstantKicks; ++k) {
-    if (DecidedBefore(k, std::abs(s.Side1Penalties - s.Side2Penalties))) break;
-    const Side& side = k % 2 == 0 ? s.Side1 : s.Side2;
+    if (DecidedBefore(k, std::abs(s.Side1.Penalties - s.Side2.Penalties))) break;
+    Side& side = k % 2 == 0 ? s.Side1 : s.Side2;
     const bool goal = random_.Int(2) == 1;
     const std::string taker = PickFrom(side.Outfield, random_);
     if (!goal) continue;
     AddLine(s.Summary, taker + " (" + side.Team + ")");
-    ++(k % 2 == 0 ? s.Side1Penalties : s.Side2Penalties);
+    ++side.Penalties;
   }
   announcement_.ShowResult();
   announcement_.PenResult();

@@ -13,15 +13,18 @@
 
 namespace kickwell {
 
-/// One end of the pitch with the team that plays there now: everything that moves with a team when the teams
-/// change ends.
+/// One end of the pitch and the team that plays there now. When the teams change ends, all of it goes with
+/// the team.
 struct Side {
   std::string Team;
   int Goals = 0;
-  int GoalRange = 0;  ///< The goal draw of a second is out of 0..GoalRange-1; one number scores.
+  int GoalRange = 0;                  ///< A goal draw is out of 0..GoalRange-1; one number scores.
+  int Draw = 0;                       ///< The last goal draw.
   std::vector<std::string> Outfield;  ///< The team's ten outfield players.
   int Shots = 0, Corners = 0, Bookings = 0, Fouls = 0;
   int PossessionPercent = 0;
+  int Penalties = 0;   ///< Scored in the shoot-out.
+  int FinalGoals = 0;  ///< When play ended; stay 0 where an instant shoot-out follows.
 };
 
 /// What is played, or what the period button offers to start while it is enabled.
@@ -81,12 +84,11 @@ struct MatchSession {
 
   int Minute = 0, Second = 0;
   kickwell::Period Period = kickwell::Period::FirstHalf;
-  std::string ClockText;  ///< Minutes and seconds, each with two digits at least: "09:05", "105:00".
-  Side Side1, Side2;      ///< Shown left and right; team 1 starts on side 1.
-  int Side1Draw = 0, Side2Draw = 0;  ///< The last goal draws.
-  int GoalNumber = 0;                ///< The goal draw that scores in this match, 0..99.
-  int BallSide = 0;                  ///< The side that has the ball, 1 or 2; 0 for none.
-  int BallX = 0, BallY = 0;          ///< The ball marker on the pitch, 0..5090 by 0..740 screen units.
+  std::string ClockText;     ///< Minutes and seconds, each with two digits at least: "09:05", "105:00".
+  Side Side1, Side2;         ///< Shown left and right; team 1 starts on side 1.
+  int GoalNumber = 0;        ///< The goal draw that scores in this match, 0..99.
+  int BallSide = 0;          ///< The side that has the ball, 1 or 2; 0 for none.
+  int BallX = 0, BallY = 0;  ///< The ball marker on the pitch, 0..5090 by 0..740 screen units.
 
   std::string Venue;
   int Capacity = 0;
@@ -99,14 +101,11 @@ struct MatchSession {
   std::string SummaryLine;       ///< The last line of play or result written to the summary.
   ItemList Summary, Commentary;  ///< The two line lists; the newest line is picked so that it stays in view.
 
-  int Side1Penalties = 0, Side2Penalties = 0;  ///< Scored in the shoot-out.
-  int ShotNumber = 0;                          ///< The next kick, from 0.
-  int ShotDraw = 0;                            ///< Of the last kick, 0..44.
-  int PenaltyTaker = 0;                        ///< The last taker's place in his side's pool.
+  int ShotNumber = 0;    ///< The next kick, from 0.
+  int ShotDraw = 0;      ///< Of the last kick, 0..44.
+  int PenaltyTaker = 0;  ///< The last taker's place in his side's pool.
 
   // The result, filled by the announcement.
-  int Side1FinalGoals = 0,
-      Side2FinalGoals = 0;              ///< When play ended; stay 0 where an instant shoot-out follows.
   std::string WinnerName, LoserName;    ///< Side 1's team and side 2's where the score is level.
   int WinnerGoals = 0, LoserGoals = 0;  ///< LoserGoals is not set where the score is level.
   std::string ResultText;  ///< The winner; "Match Tied"; or the winner of the toss and " (By Toss)".
@@ -114,6 +113,11 @@ struct MatchSession {
 
   MatchControls Controls;
   bool Left = false;  ///< The user has left the match; its screen closes.
+
+  void KeepFinalGoals() {
+    Side1.FinalGoals = Side1.Goals;
+    Side2.FinalGoals = Side2.Goals;
+  }
 
   /// The side that has the ball, and the other one. Only while one has it.
   Side& WithBall() { return BallSide == 1 ? Side1 : Side2; }

@@ -33,14 +33,13 @@ void ShootOut::nextshot_Click() {
 void ShootOut::PenaltyCall() {
   MatchSession& s = session_;
   const int kick = s.ShotNumber;
-  const bool isSide1 = kick % 2 == 0;
-  const Side& side = isSide1 ? s.Side1 : s.Side2;
+  Side& side = kick % 2 == 0 ? s.Side1 : s.Side2;
   KickMarker& marker = s.Controls.penalty.at(static_cast<std::size_t>(kick));
   s.ShotDraw = random_.Int(45);
   if (s.ShotDraw < FirstScoringDraw) {
     Miss(side, marker);
   } else {
-    Score(side, marker, isSide1 ? s.Side1Penalties : s.Side2Penalties);
+    Score(side, marker);
   }
   ++s.ShotNumber;
   if (IsDecided(kick)) {
@@ -66,12 +65,12 @@ void ShootOut::Miss(const Side& side, KickMarker& marker) {
   Tell(side, PenaltyMissPhrases);
 }
 
-void ShootOut::Score(const Side& side, KickMarker& marker, int& penalties) {
+void ShootOut::Score(Side& side, KickMarker& marker) {
   MatchControls& controls = session_.Controls;
   controls.Shape2 = InTheNet;
   desktop_.PlaySound(Sound::Goal);
   marker.Colour = Lamp::Green;
-  ++penalties;
+  ++side.Penalties;
   controls.Label2 = Lamp::Green;
   controls.Label3 = "GOAL!";
   DrawTaker(side);
@@ -93,7 +92,7 @@ void ShootOut::Tell(const Side& side, Phrases phrases) {
 }
 
 bool ShootOut::IsDecided(int kick) const {
-  const int lead = std::abs(session_.Side1Penalties - session_.Side2Penalties);
+  const int lead = std::abs(session_.Side1.Penalties - session_.Side2.Penalties);
   if (kick == LastKick) return true;
   if (kick == 5 || kick == 6) return lead >= 3;
   if (kick == 7 || kick == 8) return lead >= 2;

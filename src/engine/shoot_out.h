@@ -24,7 +24,7 @@ class ShootOut {
  private:
   void PenaltyCall();
   void Miss(const Side& side, KickMarker& marker);
-  void Score(const Side& side, KickMarker& marker, int& penalties);
+  void Score(Side& side, KickMarker& marker);
   void DrawTaker(const Side& side);
   void Tell(const Side& side, Phrases phrases);
   bool IsDecided(int kick) const;

@@ -40,7 +40,7 @@ void Record(const ProgramFolder& folder, Desktop& desktop, MatchMode mode) {
   s.Setup.MatchNumber = 1;
   s.Side1.Team = s.WinnerName = s.ResultText = "Rovers";
   s.Side2.Team = s.LoserName = "United";
-  s.Side1.Goals = s.Side1FinalGoals = s.WinnerGoals = 2;
+  s.Side1.Goals = s.Side1.FinalGoals = s.WinnerGoals = 2;
   FileRecording recording(folder, desktop, [](const std::string&) {});
   recording.StoreResult(s);
   recording.StoreLeagueResult(s);

@@ -16,8 +16,8 @@ class RecordingTest : public ScreenTest {
     s.Setup.MatchNumber = 1;
     s.Side1.Team = "Rovers";
     s.Side2.Team = "United";
-    s.Side1.Goals = s.Side1FinalGoals = goals1;
-    s.Side2.Goals = s.Side2FinalGoals = goals2;
+    s.Side1.Goals = s.Side1.FinalGoals = goals1;
+    s.Side2.Goals = s.Side2.FinalGoals = goals2;
     s.Venue = "The Mill, Leat";
     s.Attendance = 500;
     s.AttendancePercent = 50;
@@ -84,12 +84,12 @@ TEST_F(RecordingTest, AKnockOutWinnerMovesOnToWhereHisNumberWaitsAndAShootOutIsT
   s.Setup.MatchNumber = 4;
   s.ResultText = "United (By Toss)";
   s.DecidedByShootOut = true;
-  s.Side1Penalties = s.Side2Penalties = 10;
+  s.Side1.Penalties = s.Side2.Penalties = 10;
   file_.StoreResult(s);  // There is no table.
   file_.StoreLeagueResult(s);
   s.Setup.MatchNumber = 1;
   s.ResultText = "United";
-  s.Side1Penalties = 9;
+  s.Side1.Penalties = 9;
   file_.StoreLeagueResult(s);
   EXPECT_EQ(Bytes("Tournies/Cup.trn"),
             AsWritten(head + "P\nRovers (By Toss)\nUnited\nUnited\nNP\nX\nUnited (By Toss)\nWinner 2\n"

@@ -50,8 +50,8 @@ TEST_F(MatchTest, OpensAFriendlyFromItsSetUpAndAChampionshipMatchAtHomeElseAtADr
 
 TEST_F(MatchTest, PagesAreWrittenToTheLetter) {
   MatchSession s;
-  s.Side1 = {"Rovers", 1, 0, {}, 0, 3, 0, 1, 64};
-  s.Side2 = {"<b>United", 0, 0, {}, 4, 0, 2, 0, 36};
+  s.Side1 = {"Rovers", 1, 0, 0, {}, 0, 3, 0, 1, 64};
+  s.Side2 = {"<b>United", 0, 0, 0, {}, 4, 0, 2, 0, 36};
   s.Venue = "The Mill, Leat";
   s.Attendance = 40632;
   s.AttendancePercent = 83;

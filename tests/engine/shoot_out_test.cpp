@@ -61,8 +61,8 @@ class ShootOutTest : public ScreenTest {
  protected:
   ShootOutTest() {
     s.Setup = MakeSetup(KnockOut);
-    s.Side1 = {s.Setup.Team1Name, 1, 4000, s.Setup.Team1Outfield};
-    s.Side2 = {s.Setup.Team2Name, 1, 4000, s.Setup.Team2Outfield};
+    s.Side1 = {s.Setup.Team1Name, 1, 4000, 0, s.Setup.Team1Outfield};
+    s.Side2 = {s.Setup.Team2Name, 1, 4000, 0, s.Setup.Team2Outfield};
     s.Controls.kickEnabled = true;
   }
 

@@ -96,8 +96,8 @@ TEST_F(SimulationTest, ShotsAndFoulsDependOnTheSideWithTheBall) {
 
 TEST_F(SimulationTest, TheTeamsChangeEndsWithAllThatIsTheirs) {
   MatchSession s;
-  s.Side1 = {"Rovers", 2, 2100, {"R1"}, 3, 4, 5, 6, 60};
-  s.Side2 = {"United", 1, 4000, {"U1"}, 7, 8, 9, 10, 40};
+  s.Side1 = {"Rovers", 2, 2100, 0, {"R1"}, 3, 4, 5, 6, 60};
+  s.Side2 = {"United", 1, 4000, 0, {"U1"}, 7, 8, 9, 10, 40};
   s.BallSide = 1;
   Simulation(s, random_, desktop_, recording_).SwapData();
   EXPECT_EQ(Figures(s), "United 1 7 8 9 10 40%, Rovers 2 3 4 5 6 60%");

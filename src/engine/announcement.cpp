@@ -3,7 +3,7 @@
 namespace kickwell {
 namespace {
 
-std::string Score(int first, int second) {
+std::string ScoreText(int first, int second) {
   return std::to_string(first) + "-" + std::to_string(second);
 }
 
@@ -11,8 +11,7 @@ std::string Score(int first, int second) {
 
 void Announcement::ShowResult() {
   MatchSession& s = session_;
-  s.Controls.Label3.clear();
-  s.Controls.Label2 = Lamp::Black;
+  s.Controls.ClearMessage();
   AddLine(s.Summary, "");
   AddLine(s.Summary, "Result:");
   if (s.Side1.FinalGoals > s.Side2.FinalGoals) {
@@ -20,7 +19,7 @@ void Announcement::ShowResult() {
   } else if (s.Side2.FinalGoals > s.Side1.FinalGoals) {
     Beats(s.Side2, s.Side1);
   } else {
-    s.SummaryLine = "The match was tied at " + Score(s.Side1.Goals, s.Side2.Goals);
+    s.SummaryLine = "The match was tied at " + ScoreText(s.Side1.Goals, s.Side2.Goals);
     s.WinnerName = s.Side1.Team;
     s.LoserName = s.Side2.Team;
     s.WinnerGoals = s.Side1.Goals;
@@ -31,14 +30,14 @@ void Announcement::ShowResult() {
   if (s.Setup.Mode == MatchMode::League) {
     recording_.StoreResult(s);
     recording_.StoreLeagueResult(s);
-  } else if (s.Setup.Mode == MatchMode::KnockOut && s.Side1.Goals != s.Side2.Goals) {
+  } else if (s.Setup.Mode == MatchMode::KnockOut && !s.IsLevel()) {
     recording_.StoreLeagueResult(s);
   }
 }
 
 void Announcement::Beats(const Side& winner, const Side& loser) {
   MatchSession& s = session_;
-  s.SummaryLine = winner.Team + " beats " + loser.Team + " " + Score(winner.Goals, loser.Goals);
+  s.SummaryLine = winner.Team + " beats " + loser.Team + " " + ScoreText(winner.Goals, loser.Goals);
   AddLine(s.Commentary, "With that, " + winner.Team + " wins the match");
   s.WinnerName = winner.Team;
   s.ResultText = winner.Team;
@@ -54,7 +53,7 @@ void Announcement::PenResult() {
   } else if (s.Side2.Penalties > s.Side1.Penalties) {
     WinsShootOut(s.Side2, s.Side1);
   } else {
-    s.SummaryLine = "PSO was tied at " + Score(s.Side1.Penalties, s.Side2.Penalties);
+    s.SummaryLine = "PSO was tied at " + ScoreText(s.Side1.Penalties, s.Side2.Penalties);
     AddLine(s.Commentary, "The match still remains undecided after the PSO");
     s.ResultText = (random_.Int(2) == 0 ? s.Side1.Team : s.Side2.Team) + " (By Toss)";
   }
@@ -68,7 +67,7 @@ void Announcement::PenResult() {
 void Announcement::WinsShootOut(const Side& winner, const Side& loser) {
   MatchSession& s = session_;
   s.SummaryLine =
-      winner.Team + " beats " + loser.Team + " " + Score(winner.Penalties, loser.Penalties) + " in PSO";
+      winner.Team + " beats " + loser.Team + " " + ScoreText(winner.Penalties, loser.Penalties) + " in PSO";
   AddLine(s.Commentary, "That's it, " + winner.Team + " wins the match in a PSO");
   s.ResultText = winner.Team;
 }

@@ -4,7 +4,7 @@
 
 namespace kickwell {
 
-int GoalRange(int strength) {
+int GoalRangeOf(int strength) {
   return 2000 + (100 - std::clamp(strength, 0, 99)) * 100;
 }
 
@@ -24,7 +24,7 @@ void CreditGoal(MatchSession& session, const Side& side, Random& random) {
   session.LastScorer =
       PickFrom(side.Team == setup.Team1Name ? setup.Team1Attackers : setup.Team2Attackers, random);
   session.LastScoringTeam = side.Team;
-  session.SummaryLine = session.ClockText + " >> " + session.LastScorer + " (" + side.Team + ")";
+  session.SummaryLine = session.ClockText + " >> " + side.Naming(session.LastScorer);
 }
 
 }  // namespace kickwell

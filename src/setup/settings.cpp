@@ -42,7 +42,8 @@ void Settings::Form_Load() {
   }
   if (Combo3.Count() > 0) Combo3_Click(0);
   Combo4 = OfferTexts(SimulationTexts);
-  Combo5 = OfferTexts(WeatherTexts);
+  for (const WeatherKind& weather : Weathers) Combo5.Add(std::string(weather.Text));
+  Combo5.PickFirst();
 }
 
 void Settings::Combo1_Click(int entry) {
@@ -77,7 +78,7 @@ void Settings::Command1_Click() {
   setup.PenaltyShootOut = Check2;
   setup.Venue = VenueText(Combo3.Text(), Combo7.Text());
   setup.Capacity = ToNumber(Combo6.Text());
-  setup.Weather = static_cast<WeatherCondition>(Combo5.Picked);
+  setup.Weather = At(Weathers, Combo5.Picked);
   openSelection_(setup);
   Closed = true;
 }

@@ -24,9 +24,9 @@ TEST_F(MatchTest, OpensAFriendlyFromItsSetUpAndAChampionshipMatchAtHomeElseAtADr
   setup.Team1Strength = 99;
   setup.Team2Strength = 1;
   setup.Capacity = 100;
-  int weather = 0;
+  std::size_t weather = 0;
   for (const std::string limit : {"100", "95", "85", "90", "80"}) {  // Of the crowd in percent.
-    setup.Weather = static_cast<WeatherCondition>(weather++);
+    setup.Weather = Weathers[weather++];
     // The crowd is drawn until it is half full, and 0.57 x 100 lies just below 57.
     EXPECT_EQ(Open(setup, limit + ":49 " + limit + ":57 100:42"),
               "The Mill, Leat, 56, shoot-out, 2100 11900 42");

@@ -18,11 +18,11 @@ namespace kickwell {
 /// One end of the pitch and the team that plays there now. When the teams change ends, all of it goes with
 /// the team.
 struct Side {
-  std::string Team;
+  std::string Team{};
   int Goals = 0;
-  int GoalRange = 0;                  ///< A goal draw is out of 0..GoalRange-1; one number scores.
-  int Draw = 0;                       ///< The last goal draw.
-  std::vector<std::string> Outfield;  ///< The team's ten outfield players.
+  int GoalRange = 0;                    ///< A goal draw is out of 0..GoalRange-1; one number scores.
+  int Draw = 0;                         ///< The last goal draw.
+  std::vector<std::string> Outfield{};  ///< The team's ten outfield players.
   int Shots = 0, Corners = 0, Bookings = 0, Fouls = 0;
   int PossessionPercent = 0;
   int Penalties = 0;   ///< Scored in the shoot-out.

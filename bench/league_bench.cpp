@@ -149,7 +149,7 @@ void ReadAndWrite(const std::filesystem::path& file, const std::string& final, s
 /// the files that its goals and its result change, as long as they were then.
 void PlainLeague(benchmark::State& state) {
   static const LeagueBytes bytes = NoteBytes();
-  const int range = GoalRange(70);
+  const int range = GoalRangeOf(70);
   for ([[maybe_unused]] auto iteration : state) {
     const NewLeague league;
     SeededRandom random(1);

@@ -92,7 +92,7 @@ void AddPlay(Figures& figures, const char* name, Play play, int plays, int parts
 /// No goals, and a remark in every second: a match that goes on to minute 120 with thousands of lines.
 class TalkativeRandom : public Random {
  public:
-  int Int(int n) override { return n == 4 || n == 30 || n == GoalRange(Strength) ? 0 : source_.Int(n); }
+  int Int(int n) override { return n == 4 || n == 30 || n == GoalRangeOf(Strength) ? 0 : source_.Int(n); }
 
  private:
   SeededRandom source_{1};

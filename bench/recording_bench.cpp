@@ -26,7 +26,7 @@ class FullLeague {
     Session.Setup.Team1Name = Session.Side1.Team = Session.WinnerName = Session.ResultText = last.Home;
     Session.Setup.Team2Name = Session.Side2.Team = Session.LoserName = last.Away;
     Session.LastScoringTeam = last.Home;
-    Session.Side1.Goals = Session.Side1FinalGoals = Session.WinnerGoals = 1;
+    Session.Side1.Goals = Session.Side1.FinalGoals = Session.WinnerGoals = 1;
     Session.LastScorer = "Player 4999";
     Session.Venue = "Ground 12, Town";
   }

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/at.h"
+
 namespace kickwell {
 
 struct ItemList {
@@ -15,12 +17,10 @@ struct ItemList {
   std::vector<std::string> Entries;  ///< UTF-8, in the order shown.
   int Picked = None;                 ///< 0-based place of the picked entry, or None.
 
-  int Count() const { return static_cast<int>(Entries.size()); }
+  int Count() const { return kickwell::Count(Entries); }
 
   /// The picked entry; empty when none is picked.
-  std::string Text() const {
-    return Picked >= 0 && Picked < Count() ? Entries[static_cast<std::size_t>(Picked)] : std::string();
-  }
+  std::string Text() const { return Picked >= 0 && Picked < Count() ? At(Entries, Picked) : std::string(); }
 
   /// The place of the first such entry, or None.
   int PlaceOf(std::string_view entry) const {

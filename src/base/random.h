@@ -3,8 +3,8 @@
 
 #include <cstdint>
 #include <random>
-#include <string>
-#include <vector>
+
+#include "base/at.h"
 
 namespace kickwell {
 
@@ -31,10 +31,11 @@ class SeededRandom : public Random {
   std::mt19937_64 engine_;
 };
 
-/// One name drawn from `pool`, all alike; empty when the pool is.
-inline std::string PickFrom(const std::vector<std::string>& pool, Random& random) {
-  const auto place = static_cast<std::size_t>(random.Int(static_cast<int>(pool.size())));
-  return place < pool.size() ? pool[place] : std::string();
+/// One element drawn from `list`, each as likely as the others. An empty list gives an empty value.
+template <typename List>
+typename List::value_type PickFrom(const List& list, Random& random) {
+  const int place = random.Int(Count(list));
+  return list.empty() ? typename List::value_type() : At(list, place);
 }
 
 }  // namespace kickwell

@@ -3,7 +3,7 @@
 namespace kickwell {
 namespace {
 
-std::string Score(int first, int second) {
+std::string ScoreText(int first, int second) {
   return std::to_string(first) + "-" + std::to_string(second);
 }
 
@@ -11,16 +11,15 @@ std::string Score(int first, int second) {
 
 void Announcement::ShowResult() {
   MatchSession& s = session_;
-  s.Controls.Label3.clear();
-  s.Controls.Label2 = Lamp::Black;
+  s.Controls.ClearMessage();
   AddLine(s.Summary, "");
   AddLine(s.Summary, "Result:");
-  if (s.Side1FinalGoals > s.Side2FinalGoals) {
+  if (s.Side1.FinalGoals > s.Side2.FinalGoals) {
     Beats(s.Side1, s.Side2);
-  } else if (s.Side2FinalGoals > s.Side1FinalGoals) {
+  } else if (s.Side2.FinalGoals > s.Side1.FinalGoals) {
     Beats(s.Side2, s.Side1);
   } else {
-    s.SummaryLine = "The match was tied at " + Score(s.Side1.Goals, s.Side2.Goals);
+    s.SummaryLine = "The match was tied at " + ScoreText(s.Side1.Goals, s.Side2.Goals);
     s.WinnerName = s.Side1.Team;
     s.LoserName = s.Side2.Team;
     s.WinnerGoals = s.Side1.Goals;
@@ -31,14 +30,14 @@ void Announcement::ShowResult() {
   if (s.Setup.Mode == MatchMode::League) {
     recording_.StoreResult(s);
     recording_.StoreLeagueResult(s);
-  } else if (s.Setup.Mode == MatchMode::KnockOut && s.Side1.Goals != s.Side2.Goals) {
+  } else if (s.Setup.Mode == MatchMode::KnockOut && !s.IsLevel()) {
     recording_.StoreLeagueResult(s);
   }
 }
 
 void Announcement::Beats(const Side& winner, const Side& loser) {
   MatchSession& s = session_;
-  s.SummaryLine = winner.Team + " beats " + loser.Team + " " + Score(winner.Goals, loser.Goals);
+  s.SummaryLine = winner.Team + " beats " + loser.Team + " " + ScoreText(winner.Goals, loser.Goals);
   AddLine(s.Commentary, "With that, " + winner.Team + " wins the match");
   s.WinnerName = winner.Team;
   s.ResultText = winner.Team;
@@ -49,12 +48,12 @@ void Announcement::Beats(const Side& winner, const Side& loser) {
 
 void Announcement::PenResult() {
   MatchSession& s = session_;
-  if (s.Side1Penalties > s.Side2Penalties) {
-    WinsShootOut(s.Side1, s.Side2, s.Side1Penalties, s.Side2Penalties);
-  } else if (s.Side2Penalties > s.Side1Penalties) {
-    WinsShootOut(s.Side2, s.Side1, s.Side2Penalties, s.Side1Penalties);
+  if (s.Side1.Penalties > s.Side2.Penalties) {
+    WinsShootOut(s.Side1, s.Side2);
+  } else if (s.Side2.Penalties > s.Side1.Penalties) {
+    WinsShootOut(s.Side2, s.Side1);
   } else {
-    s.SummaryLine = "PSO was tied at " + Score(s.Side1Penalties, s.Side2Penalties);
+    s.SummaryLine = "PSO was tied at " + ScoreText(s.Side1.Penalties, s.Side2.Penalties);
     AddLine(s.Commentary, "The match still remains undecided after the PSO");
     s.ResultText = (random_.Int(2) == 0 ? s.Side1.Team : s.Side2.Team) + " (By Toss)";
   }
@@ -65,9 +64,10 @@ void Announcement::PenResult() {
   }
 }
 
-void Announcement::WinsShootOut(const Side& winner, const Side& loser, int scored, int conceded) {
+void Announcement::WinsShootOut(const Side& winner, const Side& loser) {
   MatchSession& s = session_;
-  s.SummaryLine = winner.Team + " beats " + loser.Team + " " + Score(scored, conceded) + " in PSO";
+  s.SummaryLine =
+      winner.Team + " beats " + loser.Team + " " + ScoreText(winner.Penalties, loser.Penalties) + " in PSO";
   AddLine(s.Commentary, "That's it, " + winner.Team + " wins the match in a PSO");
   s.ResultText = winner.Team;
 }

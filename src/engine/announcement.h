@@ -21,7 +21,7 @@ class Announcement {
 
  private:
   void Beats(const Side& winner, const Side& loser);
-  void WinsShootOut(const Side& winner, const Side& loser, int scored, int conceded);
+  void WinsShootOut(const Side& winner, const Side& loser);
 
   MatchSession& session_;
   Random& random_;

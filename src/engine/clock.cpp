@@ -7,7 +7,7 @@ namespace kickwell {
 void Clock::Timer1_Timer(MatchScreen& screen) {
   if (!session_.Controls.Timer1Enabled) return;
   simulation_.MainFunction(screen);
-  if (!session_.Left) TimeCheck();
+  if (!session_.UserLeft) TimeCheck();
 }
 
 void Clock::halftime_Click() {
@@ -15,27 +15,27 @@ void Clock::halftime_Click() {
   if (!s.Controls.halftimeEnabled) return;
   desktop_.PlaySound(Sound::Whistle);
   switch (s.Period) {
-    case Period::FirstHalf:
+    case MatchPeriod::FirstHalf:
       commentator_.Say("Here's the kick off");
       commentator_.Say("The match is between " + s.Side1.Team + " and " + s.Side2.Team);
       Start(0);
       break;
-    case Period::SecondHalf:
+    case MatchPeriod::SecondHalf:
       commentator_.Say("Play for the 2nd half gets underway");
       simulation_.SwapData();
-      Start(45);
+      Start(HalfTime);
       break;
-    case Period::ExtraTimeFirstHalf:
+    case MatchPeriod::ExtraTimeFirstHalf:
       s.Commentary.Add("Referee starts the extra time");
       simulation_.SwapData();
-      Start(90);
+      Start(FullTime);
       break;
-    case Period::ExtraTimeSecondHalf:
+    case MatchPeriod::ExtraTimeSecondHalf:
       s.Commentary.Add("Extra time 2nd half gets underway");
       simulation_.SwapData();
-      Start(105);
+      Start(ExtraHalfTime);
       break;
-    case Period::PenaltyShootOut:
+    case MatchPeriod::PenaltyShootOut:
       commentator_.Say("Players getting ready for the shoot out");
       ShowShootOut();
   }
@@ -45,15 +45,14 @@ void Clock::Start(int minute) {
   MatchSession& s = session_;
   s.Minute = minute;
   s.Second = 0;
-  s.ClockText = ClockText(minute, 0);
+  s.ClockText = ClockReading(minute, 0);
   s.Controls.Label3 = s.ClockText;
   s.Controls.halftimeEnabled = false;
   s.Controls.Timer1Enabled = true;
 }
 
 void Clock::ShowShootOut() {
-  MatchSession& s = session_;
-  MatchControls& controls = s.Controls;
+  MatchControls& controls = session_.Controls;
   controls.ShootOutVisible = true;
   controls.PensVisible = true;
   controls.Label3.clear();
@@ -62,17 +61,26 @@ void Clock::ShowShootOut() {
 }
 
 void Clock::TimeCheck() {
-  MatchSession& s = session_;
-  if (IsExtraTime(s.Period) && s.Side1.Goals != s.Side2.Goals) {
+  if (session_.GoldenGoalFell()) {
     GoldenGoal();
-  } else if (s.Second == 0 && s.Minute == 45) {
-    EndOfHalf("Here comes the half time whistle", Period::SecondHalf);
-  } else if (s.Second == 0 && s.Minute == 90) {
-    EndOfNormalTime();
-  } else if (s.Second == 0 && s.Minute == 105) {
-    EndOfHalf("Extra Time 1st half comes to an end", Period::ExtraTimeSecondHalf);
-  } else if (s.Second == 0 && s.Minute == 120) {
-    EndOfExtraTime();
+    return;
+  }
+  if (session_.Second != 0) return;
+  switch (session_.Minute) {
+    case HalfTime:
+      EndOfHalf("Here comes the half time whistle", MatchPeriod::SecondHalf);
+      break;
+    case FullTime:
+      EndOfNormalTime();
+      break;
+    case ExtraHalfTime:
+      EndOfHalf("Extra Time 1st half comes to an end", MatchPeriod::ExtraTimeSecondHalf);
+      break;
+    case ExtraFullTime:
+      EndOfExtraTime();
+      break;
+    default:
+      break;
   }
 }
 
@@ -82,28 +90,23 @@ void Clock::StopClock(std::string line) {
   commentator_.Say(std::move(line));
 }
 
-void Clock::Offer(Period next) {
+void Clock::Offer(MatchPeriod next) {
   session_.Period = next;
   session_.Controls.halftimeEnabled = true;
 }
 
-void Clock::EndOfHalf(std::string line, Period next) {
+void Clock::EndOfHalf(std::string line, MatchPeriod next) {
   StopClock(std::move(line));
   Offer(next);
   simulation_.BreakPosition();
 }
 
-bool Clock::LevelAtTheEnd() {
-  session_.Side1FinalGoals = session_.Side1.Goals;
-  session_.Side2FinalGoals = session_.Side2.Goals;
-  return session_.Side1FinalGoals == session_.Side2FinalGoals;
-}
-
 void Clock::EndOfNormalTime() {
   StopClock("Referee blows the full time whistle");
-  if (LevelAtTheEnd() && session_.ExtraTime) {
+  session_.KeepFinalGoals();
+  if (session_.IsLevel() && session_.ExtraTime) {
     commentator_.Say("The match goes into extra time");
-    Offer(Period::ExtraTimeFirstHalf);
+    Offer(MatchPeriod::ExtraTimeFirstHalf);
   } else {
     announcement_.ShowResult();
   }
@@ -113,11 +116,12 @@ void Clock::EndOfNormalTime() {
 void Clock::EndOfExtraTime() {
   MatchSession& s = session_;
   StopClock("The match remains undecided after Extra Time 2nd half");
-  if (LevelAtTheEnd() && s.PenaltyShootOut) {
+  s.KeepFinalGoals();
+  if (s.IsLevel() && s.PenaltyShootOut) {
     commentator_.Say("The match goes into penalty shoot out");
     s.SummaryLine = "PENALTY SHOOT OUT!";
     AddLine(s.Summary, s.SummaryLine);
-    Offer(Period::PenaltyShootOut);
+    Offer(MatchPeriod::PenaltyShootOut);
   } else {
     announcement_.ShowResult();
   }
@@ -126,7 +130,7 @@ void Clock::EndOfExtraTime() {
 
 void Clock::GoldenGoal() {
   MatchSession& s = session_;
-  LevelAtTheEnd();
+  s.KeepFinalGoals();
   s.SummaryLine = "GOLDEN GOAL!";
   AddLine(s.Summary, s.SummaryLine);
   commentator_.Say("Referee blows the final whistle");

@@ -28,16 +28,14 @@ class Clock {
 
  private:
   void TimeCheck();
-  void EndOfHalf(std::string line, Period next);
+  void EndOfHalf(std::string line, MatchPeriod next);
   void EndOfNormalTime();
   void EndOfExtraTime();
   void GoldenGoal();
   void StopClock(std::string line);
-  void Offer(Period next);
+  void Offer(MatchPeriod next);
   void Start(int minute);
   void ShowShootOut();
-  /// Keeps the goals shown as the final ones; whether they are level.
-  bool LevelAtTheEnd();
 
   MatchSession& session_;
   Desktop& desktop_;

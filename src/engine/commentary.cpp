@@ -5,7 +5,7 @@
 namespace kickwell {
 
 void Commentator::SayOneOf(Phrases phrases) {
-  std::string line(phrases[static_cast<std::size_t>(random_.Int(static_cast<int>(phrases.size())))]);
+  std::string line(PickFrom(phrases, random_));
   const std::size_t place = line.find('*');
   if (place != std::string::npos) line.replace(place, 1, session_.PhrasePlayer);
   Say(std::move(line));

@@ -11,10 +11,10 @@
 
 namespace kickwell {
 
-// The phrases by slot. "*" stands for the player that the session's PhrasePlayer names.
+// The phrases, in the order that draws count them. "*" stands for PhrasePlayer.
 using Phrases = std::span<const std::string_view>;
 
-inline constexpr std::array<std::string_view, 23> GeneralPhrases = {
+inline constexpr auto GeneralPhrases = std::to_array<std::string_view>({
     "* dribbles it upfield",
     "* makes a nice pass",
     "* still has the ball",
@@ -38,37 +38,47 @@ inline constexpr std::array<std::string_view, 23> GeneralPhrases = {
     "It's *'s ball",
     "A little touch pass there from *",
     "Nice run here by *",
-};
+});
 
-inline constexpr std::array<std::string_view, 7> GoalPhrases = {
-    "Great shot from a distance by *",        "* comes up with a fine shot",
-    "A brilliant shot by * into the goal",    "Powerful shot towards the target by *",
-    "An artistic kick by * finds the target", "A superb shot by * hits the target",
+inline constexpr auto GoalPhrases = std::to_array<std::string_view>({
+    "Great shot from a distance by *",
+    "* comes up with a fine shot",
+    "A brilliant shot by * into the goal",
+    "Powerful shot towards the target by *",
+    "An artistic kick by * finds the target",
+    "A superb shot by * hits the target",
     "Here's the accurate shot from *",
-};
+});
 
-inline constexpr std::array<std::string_view, 6> CornerPhrases = {
-    "The ball hits defender on the back and goes out", "Powerful shot blocked by defender",
-    "The ball touches the defender and goes out",      "Remarkable finger tip save by the keeper",
-    "The keeper lobs the ball over the bar",           "A slight touch by the keeper on its way out",
-};
+inline constexpr auto CornerPhrases = std::to_array<std::string_view>({
+    "The ball hits defender on the back and goes out",
+    "Powerful shot blocked by defender",
+    "The ball touches the defender and goes out",
+    "Remarkable finger tip save by the keeper",
+    "The keeper lobs the ball over the bar",
+    "A slight touch by the keeper on its way out",
+});
 
-inline constexpr std::array<std::string_view, 8> WidePhrases = {
-    "Thundered towards the net by *",    "A poor shot, nowhere near the target",
-    "The shot whistles past the post",   "A powerful shot by *",
-    "A superb attempt on goal by *",     "The ball just hits the bar on its way out",
-    "The shot flies over the cross bar", "A powerful shot wide of target",
-};
+inline constexpr auto WidePhrases = std::to_array<std::string_view>({
+    "Thundered towards the net by *",
+    "A poor shot, nowhere near the target",
+    "The shot whistles past the post",
+    "A powerful shot by *",
+    "A superb attempt on goal by *",
+    "The ball just hits the bar on its way out",
+    "The shot flies over the cross bar",
+    "A powerful shot wide of target",
+});
 
-inline constexpr std::array<std::string_view, 5> SavePhrases = {
+inline constexpr auto SavePhrases = std::to_array<std::string_view>({
     "The keeper collects the ball",
     "The ball is nicely collected by the keeper",
     "The keeper saves the goal",
     "An acrobatic save by the keeper",
     "The keeper comes up with a fine save",
-};
+});
 
-inline constexpr std::array<std::string_view, 9> FoulPhrases = {
+inline constexpr auto FoulPhrases = std::to_array<std::string_view>({
     "Not a good challenge there",
     "* has been spotted by the referee",
     "* looks to be in some kind of trouble",
@@ -78,21 +88,23 @@ inline constexpr std::array<std::string_view, 9> FoulPhrases = {
     "* and the referee are arguing",
     "A nasty bit of play there",
     "* with a horrible challenge",
-};
+});
 
-inline constexpr std::array<std::string_view, 5> PenaltyGoalPhrases = {
-    "It's gone straight into the top corner", "A brilliant shot into the goal",
-    "The goalkeeper had no chance at all",    "Superb penalty taken there",
+inline constexpr auto PenaltyGoalPhrases = std::to_array<std::string_view>({
+    "It's gone straight into the top corner",
+    "A brilliant shot into the goal",
+    "The goalkeeper had no chance at all",
+    "Superb penalty taken there",
     "Brilliant! great shot into the goal",
-};
+});
 
-inline constexpr std::array<std::string_view, 5> PenaltyMissPhrases = {
+inline constexpr auto PenaltyMissPhrases = std::to_array<std::string_view>({
     "It's gone straight over the bar",
     "The shot was wide of target",
     "That's a poor penalty taken",
     "Great save by the goalkeeper",
     "What a brilliant save there by the keeper",
-};
+});
 
 class Commentator {
  public:
@@ -100,16 +112,16 @@ class Commentator {
 
   void Say(std::string line) { AddLine(session_.Commentary, std::move(line)); }
 
-  /// Draws one of the phrases and says it of the session's PhrasePlayer.
+  /// Says one of the phrases, drawn at random.
   void SayOneOf(Phrases phrases);
 
-  /// A remark on a player of the side with the ball, in one second of thirty.
+  /// In one second of thirty, remarks on a player of the side with the ball.
   void CommentaryMain();
 
-  /// What becomes of a shot by PhrasePlayer, whose side has the ball: a corner, a goal kick or a catch.
+  /// What comes of a shot by PhrasePlayer, whose side has the ball: a corner, a goal kick or a catch.
   void AfterShot();
 
-  /// A foul by PhrasePlayer, whose side has not the ball: perhaps a booking, and the free kick.
+  /// A foul by PhrasePlayer, whose side does not have the ball: perhaps a booking, then the free kick.
   void AfterFoul();
 
  private:

@@ -31,9 +31,9 @@ void AddMatch(StandingsRow& row, int& outcome, int goalsFor, int goalsAgainst, i
 }
 
 /// A side's part of the result line, with its penalties after a shoot-out.
-std::string SideResult(const Side& side, int penalties, bool shootOut) {
+std::string SideResult(const Side& side, bool shootOut) {
   return side.Team + " " + std::to_string(side.Goals) +
-         (shootOut ? "(" + std::to_string(penalties) + ")" : "");
+         (shootOut ? "(" + std::to_string(side.Penalties) + ")" : "");
 }
 
 }  // namespace
@@ -64,7 +64,7 @@ void FileRecording::StoreResult(const MatchSession& session) {
   ReadChampionshipOnce(*id);
   if (!championship_) return;
   std::vector<StandingsRow> standings = Value(ReadStandings(folder_, *id, championship_->Teams));
-  const bool level = session.Side1FinalGoals == session.Side2FinalGoals;
+  const bool level = session.Side1.FinalGoals == session.Side2.FinalGoals;
   for (StandingsRow& row : standings) {
     const bool winner = row.Team == session.WinnerName;
     if (!winner && row.Team != session.LoserName) continue;
@@ -85,8 +85,7 @@ void FileRecording::StoreLeagueResult(const MatchSession& session) {
   const bool shootOut = session.DecidedByShootOut;
   const std::array<std::string, 5> block = {
       "Match " + std::to_string(session.Setup.MatchNumber) + ":",
-      SideResult(session.Side1, session.Side1Penalties, shootOut) + " vs " +
-          SideResult(session.Side2, session.Side2Penalties, shootOut),
+      SideResult(session.Side1, shootOut) + " vs " + SideResult(session.Side2, shootOut),
       "Venue: " + session.Venue, AttendanceText(session), "Winner: " + session.ResultText};
   ReadChampionshipOnce(*id);
   changes_.push_back(Value(ChangedResults(folder_, *id, block)));

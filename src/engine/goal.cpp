@@ -4,16 +4,18 @@
 
 namespace kickwell {
 
-int GoalRange(int strength) {
+int GoalRangeOf(int strength) {
   return 2000 + (100 - std::clamp(strength, 0, 99)) * 100;
 }
 
 Side* DrawGoal(MatchSession& session, Random& random) {
-  session.Side1Draw = random.Int(session.Side1.GoalRange);
-  session.Side2Draw = random.Int(session.Side2.GoalRange);
-  if (session.Side1Draw == session.Side2Draw) return nullptr;
-  if (session.Side1Draw == session.GoalNumber) return &session.Side1;
-  if (session.Side2Draw == session.GoalNumber) return &session.Side2;
+  Side& side1 = session.Side1;
+  Side& side2 = session.Side2;
+  side1.Draw = random.Int(side1.GoalRange);
+  side2.Draw = random.Int(side2.GoalRange);
+  if (side1.Draw == side2.Draw) return nullptr;
+  if (side1.Draw == session.GoalNumber) return &side1;
+  if (side2.Draw == session.GoalNumber) return &side2;
   return nullptr;
 }
 
@@ -22,7 +24,7 @@ void CreditGoal(MatchSession& session, const Side& side, Random& random) {
   session.LastScorer =
       PickFrom(side.Team == setup.Team1Name ? setup.Team1Attackers : setup.Team2Attackers, random);
   session.LastScoringTeam = side.Team;
-  session.SummaryLine = session.ClockText + " >> " + session.LastScorer + " (" + side.Team + ")";
+  session.SummaryLine = session.ClockText + " >> " + side.Naming(session.LastScorer);
 }
 
 }  // namespace kickwell

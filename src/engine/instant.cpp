@@ -1,20 +1,12 @@
 #include "engine/instant.h"
 
-#include <cstdlib>
-
 #include "engine/goal.h"
+#include "engine/shoot_out.h"
 
 namespace kickwell {
 namespace {
 
-constexpr int InstantKicks = 30;  ///< After these a level shoot-out is over.
-
-/// Whether the shoot-out is decided before kick `k` (from 0) with the two counts `lead` apart.
-bool DecidedBefore(int k, int lead) {
-  if (k == 6 || k == 7) return lead >= 3;
-  if (k == 8 || k == 9) return lead >= 2;
-  return k >= 10 && k % 2 == 0 && lead != 0;
-}
+constexpr int InstantKicks = 30;  ///< After so many a level shoot-out is over.
 
 }  // namespace
 
@@ -26,52 +18,45 @@ void Instant::instant_Click() {
 
 void Instant::InstantMain() {
   MatchSession& s = session_;
-  for (int minute = 1; minute <= 89; ++minute) {
-    for (int second = 0; second < SecondsPerMinute; ++second) {
-      InstantScores(minute, second);
-    }
+  for (int minute = 1; minute < FullTime; ++minute) {
+    for (int second = 0; second < SecondsPerMinute; ++second) InstantScores(minute, second);
   }
-  const auto level = [&s] { return s.Side1.Goals == s.Side2.Goals; };
-  if (s.ExtraTime && level()) {
-    for (int minute = 91; minute <= 119 && level(); ++minute) {
-      for (int second = 0; second < SecondsPerMinute && level(); ++second) {
-        if (InstantScores(minute, second)) AddLine(s.Summary, "GOLDEN GOAL!");
-      }
+  if (s.ExtraTime && s.IsLevel()) {
+    for (int minute = FullTime + 1; minute < ExtraFullTime && s.IsLevel(); ++minute) {
+      for (int second = 0; second < SecondsPerMinute && s.IsLevel(); ++second) InstantScores(minute, second);
     }
+    if (!s.IsLevel()) AddLine(s.Summary, "GOLDEN GOAL!");
   }
-  if (s.PenaltyShootOut && level()) {
+  if (s.PenaltyShootOut && s.IsLevel()) {
     AddLine(s.Summary, "PENALTY SHOOT OUT!");
     InstantPenalty();
   } else {
-    s.Side1FinalGoals = s.Side1.Goals;
-    s.Side2FinalGoals = s.Side2.Goals;
+    s.KeepFinalGoals();
     announcement_.ShowResult();
   }
   s.Controls.instantEnabled = false;
 }
 
-bool Instant::InstantScores(int minute, int second) {
+void Instant::InstantScores(int minute, int second) {
   Side* const side = DrawGoal(session_, random_);
-  if (side == nullptr) return false;
-  session_.ClockText = ClockText(minute, second);
+  if (side == nullptr) return;
+  session_.ClockText = ClockReading(minute, second);
   ++side->Goals;
   CreditGoal(session_, *side, random_);
   recording_.StoreScorer(session_);
   AddLine(session_.Summary, session_.SummaryLine);
-  return true;
 }
 
 void Instant::InstantPenalty() {
   MatchSession& s = session_;
   s.Controls.PensVisible = true;
-  for (int k = 0; k < InstantKicks; ++k) {
-    if (DecidedBefore(k, std::abs(s.Side1Penalties - s.Side2Penalties))) break;
-    const Side& side = k % 2 == 0 ? s.Side1 : s.Side2;
+  for (int kick = 0; kick < InstantKicks && !IsDecided(s, kick); ++kick) {
+    Side& side = s.Taking(kick);
     const bool goal = random_.Int(2) == 1;
     const std::string taker = PickFrom(side.Outfield, random_);
     if (!goal) continue;
-    AddLine(s.Summary, taker + " (" + side.Team + ")");
-    ++(k % 2 == 0 ? s.Side1Penalties : s.Side2Penalties);
+    AddLine(s.Summary, side.Naming(taker));
+    ++side.Penalties;
   }
   announcement_.ShowResult();
   announcement_.PenResult();
@@ -80,7 +65,7 @@ void Instant::InstantPenalty() {
 void Instant::DrawFacts() {
   Side& side1 = session_.Side1;
   Side& side2 = session_.Side2;
-  ShowPossession(session_, random_);
+  DrawPossession(session_, random_);
   for (Side* side : {&side1, &side2}) {
     side->Fouls = random_.Int(4);
     side->Bookings = random_.Int(side->Fouls);

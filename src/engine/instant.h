@@ -19,7 +19,7 @@ class Instant {
 
  private:
   void InstantMain();
-  bool InstantScores(int minute, int second);  ///< One second of play; whether a goal fell.
+  void InstantScores(int minute, int second);  ///< One second of play.
   void InstantPenalty();
   void DrawFacts();
 

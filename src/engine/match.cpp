@@ -1,7 +1,6 @@
 #include "engine/match.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <utility>
 
@@ -14,11 +13,8 @@
 namespace kickwell {
 namespace {
 
-/// The attendance draw's upper end in percent, by weather.
-constexpr std::array WeatherFactors = {100, 95, 85, 90, 80};
-static_assert(WeatherFactors.size() == WeatherTexts.size());
-
 constexpr int SmallestCrowd = 50;  ///< Percent of the capacity.
+constexpr int GoalNumbers = 100;
 
 constexpr int CommentaryView = 0;
 
@@ -53,13 +49,12 @@ void Match::Form_Load(const MatchSetup& setup) {
   Reset();
   MatchSession& s = session_;
   s.Setup = setup;
-  s.Side1.GoalRange = GoalRange(setup.Team1Strength);
-  s.Side2.GoalRange = GoalRange(setup.Team2Strength);
   s.Side1.Team = setup.Team1Name;
-  s.Side2.Team = setup.Team2Name;
+  s.Side1.GoalRange = GoalRangeOf(setup.Team1Strength);
   s.Side1.Outfield = setup.Team1Outfield;
+  s.Side2.Team = setup.Team2Name;
+  s.Side2.GoalRange = GoalRangeOf(setup.Team2Strength);
   s.Side2.Outfield = setup.Team2Outfield;
-  bool crowdComes = true;
   if (setup.Mode == MatchMode::Friendly) {
     s.ExtraTime = setup.ExtraTime;
     s.PenaltyShootOut = setup.PenaltyShootOut;
@@ -68,12 +63,11 @@ void Match::Form_Load(const MatchSetup& setup) {
     s.Capacity = setup.Capacity;
   } else {
     s.ExtraTime = s.PenaltyShootOut = setup.Mode == MatchMode::KnockOut;
-    crowdComes = LeagueVenue();
+    LeagueVenue();
   }
-  if (crowdComes) DrawAttendance(WeatherFactors[static_cast<std::size_t>(*s.Weather)]);
-  s.BallX = CentreSpotX;
-  s.BallY = CentreSpotY;
-  s.GoalNumber = random_.Int(100);
+  if (s.Weather) DrawAttendance(s.Weather->AttendanceFactor);
+  s.CentreBall();
+  s.GoalNumber = random_.Int(GoalNumbers);
   if (setup.SimulationType == SimulationKind::InstantResult) {
     s.Controls.instantVisible = true;
     s.Controls.halftimeVisible = false;
@@ -87,21 +81,19 @@ void Match::Reset() {
   session_ = MatchSession();
 }
 
-bool Match::LeagueVenue() {
+void Match::LeagueVenue() {
   MatchSession& s = session_;
-  if (!StadiumListExists(folder_)) return false;
+  if (!StadiumListExists(folder_)) return;
   const auto [stadiums, result] = LoadStadiums(folder_);
   TellFailure(desktop_, result);
   for (const Stadium& own : stadiums) {
     const bool home = own.HomeTeam == s.Side1.Team;
-    const Stadium& chosen =
-        home ? own : stadiums[static_cast<std::size_t>(random_.Int(static_cast<int>(stadiums.size())))];
+    const Stadium chosen = home ? own : PickFrom(stadiums, random_);
     s.Venue = VenueText(chosen);
     s.Capacity = ToNumber(chosen.Capacity);
     if (home) break;
   }
-  s.Weather = static_cast<WeatherCondition>(random_.Int(static_cast<int>(WeatherTexts.size())));
-  return true;
+  s.Weather = PickFrom(Weathers, random_);
 }
 
 void Match::DrawAttendance(int weatherFactor) {
@@ -155,7 +147,7 @@ void Match::ComSave_Click() {
 
 void Match::Command1_Click() {
   const Waiting question(waiting_);
-  if (desktop_.Ask("Do you really want to exit?")) session_.Left = true;
+  if (desktop_.Ask("Do you really want to exit?")) session_.UserLeft = true;
 }
 
 }  // namespace kickwell

@@ -38,12 +38,12 @@ class Match {
 
   const MatchSession& Session() const { return session_; }
   std::string ComSaveCaption() const;
-  bool Closed() const { return session_.Left; }
+  bool Closed() const { return session_.UserLeft; }
 
  private:
   void Reset();
-  /// Sets venue, capacity and weather of a championship match; nothing, and false, without a stadium list.
-  bool LeagueVenue();
+  /// Sets venue, capacity and weather of a championship match. Without a stadium list it sets nothing.
+  void LeagueVenue();
   void DrawAttendance(int weatherFactor);
 
   ProgramFolder folder_;

@@ -4,14 +4,23 @@
 
 namespace kickwell {
 
-std::string_view ToText(Period period) {
-  constexpr std::array<std::string_view, 5> Captions = {"&Normal Time 1st Half", "&Normal Time 2nd Half",
-                                                        "&Extra Time 1st Half", "&Extra Time 2nd Half",
-                                                        "&Penalty Shoot Out"};
-  return Captions[static_cast<std::size_t>(period)];
+std::string_view ToText(MatchPeriod period) {
+  switch (period) {
+    case MatchPeriod::FirstHalf:
+      return "&Normal Time 1st Half";
+    case MatchPeriod::SecondHalf:
+      return "&Normal Time 2nd Half";
+    case MatchPeriod::ExtraTimeFirstHalf:
+      return "&Extra Time 1st Half";
+    case MatchPeriod::ExtraTimeSecondHalf:
+      return "&Extra Time 2nd Half";
+    case MatchPeriod::PenaltyShootOut:
+      return "&Penalty Shoot Out";
+  }
+  return {};
 }
 
-std::string ClockText(int minute, int second) {
+std::string ClockReading(int minute, int second) {
   const auto digit = [](int number) { return static_cast<char>('0' + number % 10); };
   std::string text{digit(minute / 10), digit(minute), ':', digit(second / 10), digit(second)};
   if (minute >= 100) text.insert(0, std::to_string(minute / 100));
@@ -23,7 +32,7 @@ std::string AttendanceText(const MatchSession& session) {
          std::to_string(session.AttendancePercent) + "%)";
 }
 
-void ShowPossession(MatchSession& session, Random& random) {
+void DrawPossession(MatchSession& session, Random& random) {
   int percent = 0;
   do {
     percent = random.Int(70);

@@ -3,8 +3,10 @@
 
 #include <array>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/item_list.h"
@@ -13,31 +15,44 @@
 
 namespace kickwell {
 
-/// One end of the pitch with the team that plays there now: everything that moves with a team when the teams
-/// change ends.
+/// One end of the pitch and the team that plays there now. When the teams change ends, all of it goes with
+/// the team.
 struct Side {
-  std::string Team;
+  std::string Team{};
   int Goals = 0;
-  int GoalRange = 0;  ///< The goal draw of a second is out of 0..GoalRange-1; one number scores.
-  std::vector<std::string> Outfield;  ///< The team's ten outfield players.
+  int GoalRange = 0;                    ///< A goal draw is out of 0..GoalRange-1; one number scores.
+  int Draw = 0;                         ///< The last goal draw.
+  std::vector<std::string> Outfield{};  ///< The team's ten outfield players.
   int Shots = 0, Corners = 0, Bookings = 0, Fouls = 0;
   int PossessionPercent = 0;
+  int Penalties = 0;   ///< Scored in the shoot-out.
+  int FinalGoals = 0;  ///< When play ended. An instant shoot-out leaves them 0.
+
+  /// One of its players as the summary names him.
+  std::string Naming(const std::string& player) const { return player + " (" + Team + ")"; }
 };
 
 /// What is played, or what the period button offers to start while it is enabled.
-enum class Period { FirstHalf, SecondHalf, ExtraTimeFirstHalf, ExtraTimeSecondHalf, PenaltyShootOut };
+enum class MatchPeriod { FirstHalf, SecondHalf, ExtraTimeFirstHalf, ExtraTimeSecondHalf, PenaltyShootOut };
 
 /// The period button's caption, with its access key.
-std::string_view ToText(Period period);
+std::string_view ToText(MatchPeriod period);
 
-constexpr bool IsExtraTime(Period period) {
-  return period == Period::ExtraTimeFirstHalf || period == Period::ExtraTimeSecondHalf;
+constexpr bool IsExtraTime(MatchPeriod period) {
+  return period == MatchPeriod::ExtraTimeFirstHalf || period == MatchPeriod::ExtraTimeSecondHalf;
 }
 
-/// The lamp behind the clock, which also carries the messages: lit after a goal or a missed penalty.
+inline constexpr int SecondsPerMinute = 60;
+
+/// The minutes at which the periods end.
+inline constexpr int HalfTime = 45, FullTime = 90, ExtraHalfTime = 105, ExtraFullTime = 120;
+
+inline constexpr int CentreSpotX = 2520, CentreSpotY = 390;
+
+/// The lamp behind the clock and its messages. A goal or a missed penalty lights it.
 enum class Lamp { Black, Green, Red };
 
-/// A place of the ball in the shoot-out's picture, in screen units from its left and top.
+/// A place of the ball in the shoot-out's picture, in screen units.
 struct SpotPoint {
   int Left, Top;
 
@@ -45,7 +60,7 @@ struct SpotPoint {
 };
 
 inline constexpr SpotPoint PenaltySpot{1250, 1400};
-inline constexpr int KickCount = 20;  ///< Ten each at the most; even kicks are side 1's.
+inline constexpr int KickCount = 20;  ///< Ten each at most, counted from 0. Side 1 takes the even ones.
 
 /// A kick of the shoot-out: black until it is taken, then red or green.
 struct KickMarker {
@@ -53,7 +68,7 @@ struct KickMarker {
   Lamp Colour = Lamp::Black;
 };
 
-/// What the match screen shows beside the figures, named after its controls.
+/// What the match screen shows besides the figures, named after its controls.
 struct MatchControls {
   std::string Label3 = "00:00";  ///< Clock and messages: green on the black lamp, black on a lit one.
   Lamp Label2 = Lamp::Black;
@@ -70,68 +85,81 @@ struct MatchControls {
   std::array<KickMarker, KickCount> penalty;
 
   MatchControls() {
-    for (std::size_t i = 0; i < KickCount / 2; ++i) penalty[i].Visible = true;
+    for (KickMarker& marker : std::span(penalty).first<KickCount / 2>()) marker.Visible = true;
   }
+
+  void ShowMessage(Lamp lamp, std::string message) {
+    Label2 = lamp;
+    Label3 = std::move(message);
+  }
+  void ClearMessage() { ShowMessage(Lamp::Black, ""); }
 };
 
 /// One match from the opening of its screen to the recorded result. Text is UTF-8.
 struct MatchSession {
-  MatchSetup
-      Setup;  ///< As handed over; the attackers' pools stay with team 1 and team 2 through every change.
+  /// As handed over. The attackers stay with team 1 and team 2 when the teams change ends.
+  MatchSetup Setup;
 
   int Minute = 0, Second = 0;
-  kickwell::Period Period = kickwell::Period::FirstHalf;
-  std::string ClockText;  ///< Minutes and seconds, each with two digits at least: "09:05", "105:00".
-  Side Side1, Side2;      ///< Shown left and right; team 1 starts on side 1.
-  int Side1Draw = 0, Side2Draw = 0;  ///< The last goal draws.
-  int GoalNumber = 0;                ///< The goal draw that scores in this match, 0..99.
-  int BallSide = 0;                  ///< The side that has the ball, 1 or 2; 0 for none.
-  int BallX = 0, BallY = 0;          ///< The ball marker on the pitch, 0..5090 by 0..740 screen units.
+  MatchPeriod Period = MatchPeriod::FirstHalf;
+  std::string ClockText;     ///< "09:05" or "105:00".
+  Side Side1, Side2;         ///< Shown left and right; team 1 starts on side 1.
+  int GoalNumber = 0;        ///< The goal draw that scores in this match, 0..99.
+  int BallSide = 0;          ///< The side that has the ball, 1 or 2; 0 for none.
+  int BallX = 0, BallY = 0;  ///< The ball marker on the pitch, 0..5090 by 0..740 screen units.
 
   std::string Venue;
   int Capacity = 0;
-  std::optional<WeatherCondition> Weather;  ///< None in a championship match without a stadium list.
+  std::optional<WeatherKind> Weather;  ///< None in a championship match without a stadium list.
   int Attendance = 0, AttendancePercent = 0;
   bool ExtraTime = false, PenaltyShootOut = false;
 
   std::string LastScorer, LastScoringTeam;
   std::string PhrasePlayer;      ///< The player that the commentary's next phrase names.
   std::string SummaryLine;       ///< The last line of play or result written to the summary.
-  ItemList Summary, Commentary;  ///< The two line lists; the newest line is picked so that it stays in view.
+  ItemList Summary, Commentary;  ///< The picked line is the one that the screen keeps in view.
 
-  int Side1Penalties = 0, Side2Penalties = 0;  ///< Scored in the shoot-out.
-  int ShotNumber = 0;                          ///< The next kick, from 0.
-  int ShotDraw = 0;                            ///< Of the last kick, 0..44.
-  int PenaltyTaker = 0;                        ///< The last taker's place in his side's pool.
+  int ShotNumber = 0;    ///< The next kick, from 0.
+  int ShotDraw = 0;      ///< Of the last kick, 0..44.
+  int PenaltyTaker = 0;  ///< The last taker's place in his side's pool.
 
   // The result, filled by the announcement.
-  int Side1FinalGoals = 0,
-      Side2FinalGoals = 0;              ///< When play ended; stay 0 where an instant shoot-out follows.
   std::string WinnerName, LoserName;    ///< Side 1's team and side 2's where the score is level.
   int WinnerGoals = 0, LoserGoals = 0;  ///< LoserGoals is not set where the score is level.
   std::string ResultText;  ///< The winner; "Match Tied"; or the winner of the toss and " (By Toss)".
   bool DecidedByShootOut = false;
 
   MatchControls Controls;
-  bool Left = false;  ///< The user has left the match; its screen closes.
+  bool UserLeft = false;  ///< The screen closes.
+
+  bool IsLevel() const { return Side1.Goals == Side2.Goals; }
+  bool GoldenGoalFell() const { return IsExtraTime(Period) && !IsLevel(); }
+  void KeepFinalGoals() {
+    Side1.FinalGoals = Side1.Goals;
+    Side2.FinalGoals = Side2.Goals;
+  }
 
   /// The side that has the ball, and the other one. Only while one has it.
   Side& WithBall() { return BallSide == 1 ? Side1 : Side2; }
   Side& WithoutBall() { return BallSide == 1 ? Side2 : Side1; }
+
+  /// The side that takes a kick of the shoot-out.
+  Side& Taking(int kick) { return kick % 2 == 0 ? Side1 : Side2; }
+
+  void CentreBall() {
+    BallX = CentreSpotX;
+    BallY = CentreSpotY;
+  }
 };
 
-inline constexpr int SecondsPerMinute = 60;
-
-inline constexpr int CentreSpotX = 2520, CentreSpotY = 390;
-
 /// Minutes and seconds, each with at least two digits, joined by ":".
-std::string ClockText(int minute, int second);
+std::string ClockReading(int minute, int second);
 
 /// The crowd as the screen shows it and the results log keeps it.
 std::string AttendanceText(const MatchSession& session);
 
-/// Draws the possession figures that the screen shows: side 1's from 30 to 69, side 2's the rest of 100.
-void ShowPossession(MatchSession& session, Random& random);
+/// Draws the possession figures that the screen shows: 30 to 69 for side 1, the rest of 100 for side 2.
+void DrawPossession(MatchSession& session, Random& random);
 
 /// Adds a line and makes it the one in view.
 void AddLine(ItemList& list, std::string line);

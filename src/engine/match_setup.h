@@ -12,17 +12,17 @@
 namespace kickwell {
 
 enum class MatchMode { Friendly, League, KnockOut };
-enum class WeatherCondition { ClearSkies, Overcast, Rainy, WarmAndHumid, Windy };
-enum class SimulationKind { InstantResult, FullSimulation };
-
-/// The texts of each set in the order of its values, which is the order in which choosers offer them.
-inline constexpr std::array<std::string_view, 3> ModeTexts = {"Friendly", "League", "KnockOut"};
-inline constexpr std::array<std::string_view, 5> WeatherTexts = {"Clear Skies", "Overcast", "Rainy",
-                                                                 "Warm & Humid", "Windy"};
-inline constexpr std::array<std::string_view, 2> SimulationTexts = {"Instant Result", "Full Simulation"};
 
 constexpr std::string_view ToText(MatchMode mode) {
-  return ModeTexts[static_cast<std::size_t>(mode)];
+  switch (mode) {
+    case MatchMode::Friendly:
+      return "Friendly";
+    case MatchMode::League:
+      return "League";
+    case MatchMode::KnockOut:
+      return "KnockOut";
+  }
+  return {};
 }
 
 /// The kind of championship that a mode plays; none for a friendly.
@@ -41,6 +41,28 @@ constexpr MatchMode ModeOf(ChampionshipKind kind) {
   return kind == ChampionshipKind::League ? MatchMode::League : MatchMode::KnockOut;
 }
 
+enum class SimulationKind { InstantResult, FullSimulation };
+
+/// What choosers offer, in the order of SimulationKind.
+inline constexpr auto SimulationTexts =
+    std::to_array<std::string_view>({"Instant Result", "Full Simulation"});
+
+struct WeatherKind {
+  std::string_view Text;
+  int AttendanceFactor = 0;  ///< The crowd stays below so many percent of the capacity.
+
+  bool operator==(const WeatherKind&) const = default;
+};
+
+/// All weathers, in the order in which choosers offer them.
+inline constexpr auto Weathers = std::to_array<WeatherKind>({
+    {"Clear Skies", 100},
+    {"Overcast", 95},
+    {"Rainy", 85},
+    {"Warm & Humid", 90},
+    {"Windy", 80},
+});
+
 /// What `ChampionshipName` says while no championship is chosen.
 inline constexpr std::string_view NoChampionship = "N/A";
 
@@ -57,12 +79,12 @@ struct MatchSetup {
 
   SimulationKind SimulationType = SimulationKind::InstantResult;
 
-  // The rest is set for a friendly only; a championship match finds its own.
+  // For a friendly only. A championship match finds its own.
   bool ExtraTime = false;        ///< A level score goes to extra time with golden goal.
   bool PenaltyShootOut = false;  ///< A score that is still level goes to a penalty shoot-out.
   std::string Venue;             ///< Stadium name, ", ", city.
   int Capacity = 0;              ///< Seats, 1..99999.
-  WeatherCondition Weather = WeatherCondition::ClearSkies;
+  WeatherKind Weather = Weathers.front();
 };
 
 }  // namespace kickwell

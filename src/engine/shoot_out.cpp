@@ -1,18 +1,25 @@
 #include "engine/shoot_out.h"
 
+#include <array>
 #include <cstdlib>
 
 namespace kickwell {
 namespace {
 
-constexpr int LastKick = KickCount - 1;
-constexpr int LastOfFiveEach = 9;
-constexpr int FirstScoringDraw = 26;  ///< Of 0..44: 19 chances in 45.
+constexpr int FiveEach = 10;
+constexpr int ShotDraws = 45, FirstScoringDraw = 26;
 
 constexpr SpotPoint InTheNet{1200, 0};
-constexpr SpotPoint Wide[] = {{1040, 0}, {480, 0}};
+constexpr std::array<SpotPoint, 2> Wide = {{{1040, 0}, {480, 0}}};
 
 }  // namespace
+
+bool IsDecided(const MatchSession& session, int kicks) {
+  const int lead = std::abs(session.Side1.Penalties - session.Side2.Penalties);
+  if (kicks == 6 || kicks == 7) return lead >= 3;
+  if (kicks == 8 || kicks == 9) return lead >= 2;
+  return kicks >= FiveEach && kicks % 2 == 0 && lead != 0;
+}
 
 void ShootOut::kick_Click() {
   if (!session_.Controls.kickEnabled) return;
@@ -26,78 +33,63 @@ void ShootOut::nextshot_Click() {
   controls.nextshotEnabled = false;
   controls.kickEnabled = true;
   controls.Shape2 = PenaltySpot;
-  controls.Label2 = Lamp::Black;
-  controls.Label3.clear();
+  controls.ClearMessage();
 }
 
 void ShootOut::PenaltyCall() {
   MatchSession& s = session_;
-  const int kick = s.ShotNumber;
-  const bool isSide1 = kick % 2 == 0;
-  const Side& side = isSide1 ? s.Side1 : s.Side2;
-  KickMarker& marker = s.Controls.penalty.at(static_cast<std::size_t>(kick));
-  s.ShotDraw = random_.Int(45);
+  Side& side = s.Taking(s.ShotNumber);
+  KickMarker& marker = At(s.Controls.penalty, s.ShotNumber);
+  s.ShotDraw = random_.Int(ShotDraws);
   if (s.ShotDraw < FirstScoringDraw) {
     Miss(side, marker);
   } else {
-    Score(side, marker, isSide1 ? s.Side1Penalties : s.Side2Penalties);
+    Goal(side, marker);
   }
-  ++s.ShotNumber;
-  if (IsDecided(kick)) {
+  const int kicks = ++s.ShotNumber;
+  if (kicks == KickCount || IsDecided(s, kicks)) {
     announcement_.ShowResult();
     announcement_.PenResult();
     return;
   }
   s.Controls.nextshotEnabled = true;
-  if (kick >= LastOfFiveEach && kick % 2 == 1) {
-    for (const int next : {kick + 1, kick + 2})
-      s.Controls.penalty.at(static_cast<std::size_t>(next)).Visible = true;
+  if (kicks >= FiveEach && kicks % 2 == 0) {
+    for (const int next : {kicks, kicks + 1}) At(s.Controls.penalty, next).Visible = true;
   }
 }
 
 void ShootOut::Miss(const Side& side, KickMarker& marker) {
   MatchControls& controls = session_.Controls;
-  controls.Shape2 = Wide[random_.Int(2)];
+  controls.Shape2 = PickFrom(Wide, random_);
   marker.Colour = Lamp::Red;
-  controls.Label2 = Lamp::Red;
-  controls.Label3 = "MISS!";
+  controls.ShowMessage(Lamp::Red, "MISS!");
   desktop_.PlaySound(Sound::Boo);
   DrawTaker(side);
   Tell(side, PenaltyMissPhrases);
 }
 
-void ShootOut::Score(const Side& side, KickMarker& marker, int& penalties) {
+void ShootOut::Goal(Side& side, KickMarker& marker) {
   MatchControls& controls = session_.Controls;
   controls.Shape2 = InTheNet;
   desktop_.PlaySound(Sound::Goal);
   marker.Colour = Lamp::Green;
-  ++penalties;
-  controls.Label2 = Lamp::Green;
-  controls.Label3 = "GOAL!";
+  ++side.Penalties;
+  controls.ShowMessage(Lamp::Green, "GOAL!");
   DrawTaker(side);
-  session_.SummaryLine = session_.PhrasePlayer + " (" + side.Team + ")";
+  session_.SummaryLine = side.Naming(session_.PhrasePlayer);
   AddLine(session_.Summary, session_.SummaryLine);
   Tell(side, PenaltyGoalPhrases);
 }
 
 void ShootOut::DrawTaker(const Side& side) {
-  session_.PenaltyTaker = random_.Int(static_cast<int>(side.Outfield.size()));
-  const auto taker = static_cast<std::size_t>(session_.PenaltyTaker);
-  session_.PhrasePlayer = taker < side.Outfield.size() ? side.Outfield[taker] : std::string();
+  session_.PenaltyTaker = random_.Int(Count(side.Outfield));
+  session_.PhrasePlayer = side.Outfield.empty() ? "" : At(side.Outfield, session_.PenaltyTaker);
 }
 
 void ShootOut::Tell(const Side& side, Phrases phrases) {
   commentator_.Say(session_.PhrasePlayer + " steps up for " + side.Team);
   commentator_.Say("He shoots and...");
   commentator_.SayOneOf(phrases);
-}
-
-bool ShootOut::IsDecided(int kick) const {
-  const int lead = std::abs(session_.Side1Penalties - session_.Side2Penalties);
-  if (kick == LastKick) return true;
-  if (kick == 5 || kick == 6) return lead >= 3;
-  if (kick == 7 || kick == 8) return lead >= 2;
-  return kick >= LastOfFiveEach && kick % 2 == 1 && lead != 0;
 }
 
 }  // namespace kickwell

@@ -9,6 +9,10 @@
 
 namespace kickwell {
 
+/// Whether a shoot-out is decided once `kicks` have been taken: five each, with an early end when one side is
+/// far enough ahead, then pair by pair.
+bool IsDecided(const MatchSession& session, int kicks);
+
 class ShootOut {
  public:
   ShootOut(MatchSession& session, Random& random, Desktop& desktop, Announcement& announcement)
@@ -24,10 +28,9 @@ class ShootOut {
  private:
   void PenaltyCall();
   void Miss(const Side& side, KickMarker& marker);
-  void Score(const Side& side, KickMarker& marker, int& penalties);
+  void Goal(Side& side, KickMarker& marker);
   void DrawTaker(const Side& side);
   void Tell(const Side& side, Phrases phrases);
-  bool IsDecided(int kick) const;
 
   MatchSession& session_;
   Random& random_;

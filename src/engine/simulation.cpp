@@ -1,5 +1,6 @@
 #include "engine/simulation.h"
 
+#include <array>
 #include <string>
 #include <utility>
 
@@ -11,6 +12,8 @@ namespace {
 constexpr int PitchWidth = 5091, PitchHeight = 741;  ///< Places of the ball marker.
 constexpr int Side1ShootsFrom = 4080, Side2ShootsFrom = 960;
 constexpr int GoalSpotY = 390, Side1GoalSpotX = 5090, Side2GoalSpotX = 0;
+constexpr int FoulDraws = 70, FoulDraw = 35;                            ///< One minute in so many has a foul.
+constexpr std::array PossessionSides = {1, 1, 2, 2, 1, 1, 2, 2, 1, 2};  ///< By draw.
 
 }  // namespace
 
@@ -24,34 +27,32 @@ void Simulation::MainFunction(MatchScreen& screen) {
   }
   for (int second = 0; second < SecondsPerMinute; ++second) {
     PlaySecond(commented, screen);
-    if (s.Left) return;
-    if (IsExtraTime(s.Period) && s.Side1.Goals != s.Side2.Goals) {
+    if (s.UserLeft) return;
+    if (s.GoldenGoalFell()) {
       s.Controls.Timer1Enabled = false;
       break;
     }
   }
-  // Nobody sees the clock between the seconds, but for a goal; after one in the last second "GOAL!" still
-  // stands.
-  s.ClockText = ClockText(s.Minute, s.Second);
+  // Between the seconds, only a goal lets the user see the clock. "GOAL!" stays after one in the last second.
+  s.ClockText = ClockReading(s.Minute, s.Second);
   if (s.Controls.Label2 == Lamp::Black) s.Controls.Label3 = s.ClockText;
   s.BallX = random_.Int(PitchWidth);
   s.BallY = random_.Int(PitchHeight);
   TryShot();
   TryFoul();
-  DrawPossession();
+  if (random_.Int(3) == 1) DrawPossession(s, random_);
 }
 
 void Simulation::PlaySecond(bool commented, MatchScreen& screen) {
   MatchSession& s = session_;
   s.Controls.Label2 = Lamp::Black;
-  constexpr int PossessionSides[] = {1, 1, 2, 2, 1, 1, 2, 2, 1, 2};
-  s.BallSide = PossessionSides[random_.Int(10)];
+  s.BallSide = PickFrom(PossessionSides, random_);
   if (++s.Second == SecondsPerMinute) {
     s.Second = 0;
     ++s.Minute;
   }
   CalculationMain(screen);
-  if (commented && !s.Left) commentator_.CommentaryMain();
+  if (commented && !s.UserLeft) commentator_.CommentaryMain();
 }
 
 void Simulation::CalculationMain(MatchScreen& screen) {
@@ -66,7 +67,7 @@ void Simulation::Goal(Side& side, MatchScreen& screen) {
   ++side.Goals;
   ++side.Shots;
   desktop_.PlaySound(Sound::Goal);
-  s.ClockText = ClockText(s.Minute, s.Second);
+  s.ClockText = ClockReading(s.Minute, s.Second);
   CreditGoal(s, side, random_);
   recording_.StoreScorer(s);
   s.BallSide = isSide1 ? 1 : 2;
@@ -75,8 +76,7 @@ void Simulation::Goal(Side& side, MatchScreen& screen) {
   commentator_.Say("And its a GOAL!!");
   commentator_.Say(isSide1 ? "The players are celebrating" : "It's celebration time");
   AddLine(s.Summary, s.SummaryLine);
-  s.Controls.Label2 = Lamp::Green;
-  s.Controls.Label3 = "GOAL!";
+  s.Controls.ShowMessage(Lamp::Green, "GOAL!");
   screen.Refresh();
   screen.PauseFunction();
 }
@@ -92,30 +92,21 @@ void Simulation::TryShot() {
 }
 
 void Simulation::TryFoul() {
-  if (random_.Int(70) != 35) return;
+  if (random_.Int(FoulDraws) != FoulDraw) return;
   Side& side = session_.WithoutBall();
   ++side.Fouls;
   session_.PhrasePlayer = PickFrom(side.Outfield, random_);
   commentator_.AfterFoul();
 }
 
-void Simulation::DrawPossession() {
-  if (random_.Int(3) == 1) ShowPossession(session_, random_);
-}
-
 void Simulation::SwapData() {
   std::swap(session_.Side1, session_.Side2);
-  CentreBall();
+  session_.CentreBall();
 }
 
 void Simulation::BreakPosition() {
-  CentreBall();
+  session_.CentreBall();
   session_.BallSide = 0;
-}
-
-void Simulation::CentreBall() {
-  session_.BallX = CentreSpotX;
-  session_.BallY = CentreSpotY;
 }
 
 }  // namespace kickwell

@@ -19,8 +19,9 @@ class Simulation {
         recording_(recording),
         commentator_(session, random) {}
 
-  /// Plays sixty seconds, then the minute's ball, shot, foul and possession figure. A golden goal stops the
-  /// timer and the seconds. When the match is left in a goal pause, nothing more of the minute happens.
+  /// Plays a minute: sixty seconds, then its ball, shot, foul and possession figure. A golden goal stops the
+  /// timer and the seconds. When the user leaves the match in a goal pause, the rest of the minute is not
+  /// played.
   void MainFunction(MatchScreen& screen);
 
   /// The teams change ends, each with its score, figures and players; the ball goes to the centre spot.
@@ -35,8 +36,6 @@ class Simulation {
   void Goal(Side& side, MatchScreen& screen);
   void TryShot();
   void TryFoul();
-  void DrawPossession();
-  void CentreBall();
 
   MatchSession& session_;
   Random& random_;

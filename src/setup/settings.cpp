@@ -44,7 +44,8 @@ void Settings::Form_Load() {
   }
   if (Combo3.Count() > 0) Combo3_Click(0);
   Combo4 = OfferTexts(SimulationTexts);
-  Combo5 = OfferTexts(WeatherTexts);
+  for (const WeatherKind& weather : Weathers) Combo5.Add(std::string(weather.Text));
+  Combo5.PickFirst();
   TellFailure(desktop_, result);
 }
 
@@ -80,7 +81,7 @@ void Settings::Command1_Click() {
   setup.PenaltyShootOut = Check2;
   setup.Venue = VenueText({.HomeTeam = {}, .Name = Combo3.Text(), .City = Combo7.Text(), .Capacity = {}});
   setup.Capacity = ToNumber(Combo6.Text());
-  setup.Weather = static_cast<WeatherCondition>(Combo5.Picked);
+  setup.Weather = At(Weathers, Combo5.Picked);
   openSelection_(setup);
   Closed = true;
 }

@@ -53,7 +53,7 @@ MatchSession Won(MatchMode mode) {
   s.Setup.MatchNumber = 1;
   s.Side1.Team = s.WinnerName = s.ResultText = s.LastScoringTeam = "Rovers";
   s.Side2.Team = s.LoserName = "United";
-  s.Side1.Goals = s.Side1FinalGoals = s.WinnerGoals = 2;
+  s.Side1.Goals = s.Side1.FinalGoals = s.WinnerGoals = 2;
   s.LastScorer = "Ann";
   return s;
 }

@@ -25,8 +25,8 @@ class FileRecordingTest : public ScreenTest {
   /// The match at its end, announced and recorded.
   void Play(MatchMode mode, int rovers, int united) {
     MatchSession s = Match(mode);
-    s.Side1.Goals = s.Side1FinalGoals = rovers;
-    s.Side2.Goals = s.Side2FinalGoals = united;
+    s.Side1.Goals = s.Side1.FinalGoals = rovers;
+    s.Side2.Goals = s.Side2.FinalGoals = united;
     Announcement(s, random_, file_).ShowResult();
   }
 
@@ -115,8 +115,8 @@ TEST_F(FileRecordingTest, AKnockOutWinnerGoesWhereHisMatchIsWaitedFor) {
 TEST_F(FileRecordingTest, AShootOutIsToldInTheResults) {
   MatchSession s = Match(MatchMode::KnockOut);
   s.Side1.Goals = s.Side2.Goals = 1;
-  s.Side1Penalties = 9;
-  s.Side2Penalties = 10;
+  s.Side1.Penalties = 9;
+  s.Side2.Penalties = 10;
   s.DecidedByShootOut = true;
   s.ResultText = "United";
   file_.StoreLeagueResult(s);  // Without a main file, too.

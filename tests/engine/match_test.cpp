@@ -1,6 +1,7 @@
 // How a match opens, and its pages.
 #include "engine/match.h"
 
+#include "engine/goal.h"
 #include "engine/pages.h"
 #include "support/screen_test.h"
 
@@ -9,49 +10,89 @@ namespace {
 
 class MatchTest : public ScreenTest {
  protected:
-  /// Venue, crowd, deciders, ranges of the goal draws and goal number of a match that opens with these draws.
-  std::string Open(const MatchSetup& setup, const std::string& draws) {
-    ScriptedRandom random(draws);
-    const MatchSession s = Match(folder_.Folder, desktop_, random, recording_, setup).Session();
-    return s.Venue + ", " + std::to_string(s.Attendance) + (s.ExtraTime ? ", extra time" : "") +
-           (s.PenaltyShootOut ? ", shoot-out, " : ", ") + std::to_string(s.Side1.GoalRange) + " " +
-           std::to_string(s.Side2.GoalRange) + " " + std::to_string(s.GoalNumber);
+  /// The session of a match that opens with the draws laid ready.
+  MatchSession Open(const MatchSetup& setup) {
+    return Match(folder_.Folder, desktop_, draws_, recording_, setup).Session();
   }
+
+  void Crowd(int limit, int percent) { draws_.Expect(limit, percent); }
+
+  MatchDraws draws_;
 };
 
-TEST_F(MatchTest, OpensAFriendlyFromItsSetUpAndAChampionshipMatchAtHomeElseAtADrawnStadium) {
-  MatchSetup setup = MakeSetup(MatchMode::Friendly, false, true);
-  setup.Team1Strength = 99;
-  setup.Team2Strength = 1;
+TEST_F(MatchTest, AFriendlyOpensFromItsSetUp) {
+  draws_.OpenFriendly();
+  const MatchSession s = Open(MakeSetup(MatchMode::Friendly, false, true));
+  EXPECT_EQ(s.Venue, "The Mill, Leat");
+  EXPECT_EQ(s.GoalNumber, MatchDraws::GoalNumber);
+  EXPECT_FALSE(s.ExtraTime);
+  EXPECT_TRUE(s.PenaltyShootOut);
+}
+
+TEST_F(MatchTest, StrengthNarrowsTheRangeOfTheGoalDraw) {
+  for (const auto& [strength, range] : {std::pair(99, 2100), {80, 4000}, {1, 11900}, {0, 12000}, {100, 2100}})
+    EXPECT_EQ(GoalRangeOf(strength), range);
+}
+
+TEST_F(MatchTest, TheWeatherLimitsTheCrowdWhichIsDrawnUntilItIsHalfFull) {
+  MatchSetup setup = MakeSetup();
   setup.Capacity = 100;
-  int weather = 0;
-  for (const std::string limit : {"100", "95", "85", "90", "80"}) {  // Of the crowd in percent.
-    setup.Weather = static_cast<WeatherCondition>(weather++);
-    // The crowd is drawn until it is half full, and 0.57 x 100 lies just below 57.
-    EXPECT_EQ(Open(setup, limit + ":49 " + limit + ":57 100:42"),
-              "The Mill, Leat, 56, shoot-out, 2100 11900 42");
+  const std::pair<std::string_view, int> limits[] = {
+      {"Clear Skies", 100}, {"Overcast", 95}, {"Rainy", 85}, {"Warm & Humid", 90}, {"Windy", 80}};
+  for (int i = 0; i < 5; ++i) {
+    setup.Weather = At(Weathers, i);
+    EXPECT_EQ(setup.Weather.Text, limits[i].first);
+    Crowd(limits[i].second, 49);
+    Crowd(limits[i].second, 57);
+    draws_.OpenWithoutStadiums();
+    EXPECT_EQ(Open(setup).Attendance, 56);  // 0.57 x 100 lies just below 57.
   }
-  setup = MakeSetup(MatchMode::League, true);
+}
+
+TEST_F(MatchTest, ALeagueMatchIsPlayedAtTheFirstStadiumOfTheHomeTeam) {
   ASSERT_TRUE(SaveStadiums(folder_.Folder, {{"Neutral", "Bowl", "Oss", "60000"},
                                             {"Rovers", "The Mill", "Leat", "4000"},
                                             {"Rovers", "Old Mill", "Leat", "300"}})
                   .Ok());
-  // A draw for each stadium before the home team's own; the first of two own ones counts.
-  EXPECT_EQ(Open(setup, "3:2 5:2 85:60 100:1"), "The Mill, Leat, 2400, 4000 4000 1");
-  setup.Mode = MatchMode::KnockOut;
-  setup.Team1Name = "Nomads";
-  const std::string deciders = ", extra time, shoot-out, 4000 4000 1";
-  EXPECT_EQ(Open(setup, "3:0 3:1 3:2 5:3 90:50 100:1"), "Old Mill, Leat, 150" + deciders);
+  draws_.Expect(3, 2);  // For the stadium before it.
+  draws_.Expect(5, 2);  // Rainy.
+  Crowd(85, 60);
+  draws_.OpenWithoutStadiums();
+  const MatchSession s = Open(MakeSetup(MatchMode::League, true));
+  EXPECT_EQ(s.Venue, "The Mill, Leat");
+  EXPECT_EQ(s.Attendance, 2400);
+  EXPECT_FALSE(s.ExtraTime || s.PenaltyShootOut);
+}
+
+TEST_F(MatchTest, ATeamWithoutAStadiumPlaysAtTheLastOneDrawn) {
+  ASSERT_TRUE(
+      SaveStadiums(folder_.Folder, {{"Neutral", "Bowl", "Oss", "60000"}, {"United", "Park", "Ley", "300"}})
+          .Ok());
+  draws_.Expect(2, 0);
+  draws_.Expect(2, 1);
+  draws_.Expect(5, 3);  // Warm & Humid.
+  Crowd(90, 50);
+  draws_.OpenWithoutStadiums();
+  const MatchSession s = Open(MakeSetup(MatchMode::KnockOut));
+  EXPECT_EQ(s.Venue, "Park, Ley");
+  EXPECT_EQ(s.Attendance, 150);
+  EXPECT_TRUE(s.ExtraTime && s.PenaltyShootOut);
+}
+
+TEST_F(MatchTest, NobodyComesWithoutStadiums) {
+  draws_.OpenWithoutStadiums();
+  EXPECT_EQ(Open(MakeSetup(MatchMode::League)).Attendance, 0);
   ASSERT_TRUE(SaveStadiums(folder_.Folder, {}).Ok());
-  EXPECT_EQ(Open(setup, "5:4 80:50 100:1"), ", 0" + deciders);
-  std::filesystem::remove(folder_ / "stadiums.sim");
-  EXPECT_EQ(Open(setup, "100:1"), ", 0" + deciders);
+  draws_.Expect(5, 4);  // An empty list leaves the weather to be drawn.
+  Crowd(80, 50);
+  draws_.OpenWithoutStadiums();
+  EXPECT_EQ(Open(MakeSetup(MatchMode::League)).Attendance, 0);
 }
 
 TEST_F(MatchTest, PagesAreWrittenToTheLetter) {
   MatchSession s;
-  s.Side1 = {"Rovers", 1, 0, {}, 0, 3, 0, 1, 64};
-  s.Side2 = {"<b>United", 0, 0, {}, 4, 0, 2, 0, 36};
+  s.Side1 = {.Team = "Rovers", .Goals = 1, .Corners = 3, .Fouls = 1, .PossessionPercent = 64};
+  s.Side2 = {.Team = "<b>United", .Shots = 4, .Bookings = 2, .PossessionPercent = 36};
   s.Venue = "The Mill, Leat";
   s.Attendance = 40632;
   s.AttendancePercent = 83;

@@ -52,7 +52,7 @@ TEST_F(SetupTest, SettingsKeepTheTeamsDifferentAndTheDecidersInOrder) {
   s.Combo5_Click(3);
   s.Command1_Click();
   ASSERT_EQ(opened_.size(), 1U);
-  EXPECT_EQ(opened_[0].Weather, WeatherCondition::WarmAndHumid);
+  EXPECT_EQ(opened_[0].Weather.Text, "Warm & Humid");
   EXPECT_EQ(opened_[0].Capacity, 100);
 }
 

@@ -1,9 +1,10 @@
-// Set-ups of matches that tests play, and what matches show.
+// Matches that tests play: set-ups, draws and facts.
 #pragma once
 
-#include <string>
+#include <ostream>
 
 #include "engine/match_session.h"
+#include "support/scripted_random.h"
 
 namespace kickwell {
 
@@ -32,23 +33,50 @@ inline MatchSetup MakeFullSetup(bool extraTime = false, bool shootOut = false) {
   return setup;
 }
 
-/// Of each side: team, goals, shots, corners, bookings, fouls and possession.
-inline std::string Figures(const MatchSession& s) {
-  std::string text;
-  for (const Side& side : {s.Side1, s.Side2}) {
-    text += (text.empty() ? "" : ", ") + side.Team;
-    for (const int figure : {side.Goals, side.Shots, side.Corners, side.Bookings, side.Fouls})
-      text += " " + std::to_string(figure);
-    text += " " + std::to_string(side.PossessionPercent) + "%";
-  }
-  return text;
+/// The match facts of a side.
+struct Facts {
+  int Goals = 0, Shots = 0, Corners = 0, Bookings = 0, Fouls = 0, Possession = 0;
+
+  bool operator==(const Facts&) const = default;
+};
+
+inline Facts FactsOf(const Side& side) {
+  return {side.Goals, side.Shots, side.Corners, side.Bookings, side.Fouls, side.PossessionPercent};
 }
 
-/// The display with its lamp, the side that has the ball, and the ball's place.
-inline std::string Shown(const MatchSession& s) {
-  constexpr const char* Lamps[] = {"", " (green)", " (red)"};
-  return s.Controls.Label3 + Lamps[static_cast<std::size_t>(s.Controls.Label2)] + ", " +
-         std::to_string(s.BallSide) + " at " + std::to_string(s.BallX) + " " + std::to_string(s.BallY);
+inline void PrintTo(const Facts& facts, std::ostream* out) {
+  *out << "goals " << facts.Goals << ", shots " << facts.Shots << ", corners " << facts.Corners
+       << ", bookings " << facts.Bookings << ", fouls " << facts.Fouls << ", possession " << facts.Possession;
 }
+
+/// The draws of matches of MakeSetup, named by what they decide.
+class MatchDraws : public ScriptedRandom {
+ public:
+  static constexpr int GoalNumber = 3;
+
+  void OpenFriendly(int crowdPercent = 50) {
+    Expect(100, crowdPercent);
+    Expect(100, GoalNumber);
+  }
+  void OpenWithoutStadiums() { Expect(100, GoalNumber); }
+
+  void GoalDraws(int side1, int side2) {
+    Expect(4000, side1);
+    Expect(4000, side2);
+  }
+  void NoGoals(int seconds = 1) { Expect(4000, 7, 2 * seconds); }
+
+  /// A goal by an attacker of Rovers on side 1 or of United on side 2.
+  void RoversScore(int attacker) {
+    GoalDraws(GoalNumber, 9);
+    Expect(2, attacker);
+  }
+  void UnitedScore(int attacker) {
+    GoalDraws(9, GoalNumber);
+    Expect(3, attacker);
+  }
+  void PickRoversOutfield(int player) { Expect(6, player); }
+  void PickUnitedOutfield(int player) { Expect(7, player); }
+};
 
 }  // namespace kickwell

@@ -7,6 +7,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "base/random.h"
 
@@ -19,30 +20,47 @@ inline std::string Times(int count, const std::string& draws) {
   return all;
 }
 
-/// Gives the draws of a script: "70:35" must be asked for as Int(70) and gives 35, "4000:7x120" does so 120
-/// times. The test fails when a draw has another range, is one too many, or is left over.
+/// Gives the draws that the test expects, in their order. The test fails when a draw has another range, is
+/// one too many, or is left over.
 class ScriptedRandom : public Random {
  public:
-  explicit ScriptedRandom(const std::string& script) : script_(script) {}
+  ScriptedRandom() = default;
+
+  /// "70:35" expects Int(70) and gives 35; "4000:7x120" does so 120 times.
+  explicit ScriptedRandom(const std::string& script) {
+    std::istringstream draws(script);
+    char sign = 0;
+    for (Draw draw; draws >> draw.Range >> sign >> draw.Value; draw.Times = 1) {
+      if (draws.peek() == 'x') draws >> sign >> draw.Times;
+      draws_.push_back(draw);
+    }
+  }
   ~ScriptedRandom() override {
-    std::string next;
-    EXPECT_FALSE(times_ > 0 || script_ >> next) << "draws are left over: " << next;
+    EXPECT_TRUE(draws_.empty()) << "draws are left over: Int(" << draws_.front().Range << ")";
+  }
+
+  /// Expects Int(range), so many times, and gives `value`.
+  void Expect(int range, int value, int times = 1) {
+    if (times > 0) draws_.push_back({range, value, times});
   }
 
   int Int(int n) override {
-    char sign = 0;
-    if (times_ == 0 && script_ >> range_ >> sign >> value_) times_ = 1;
-    if (times_ == 0) throw std::out_of_range("unexpected Int(" + std::to_string(n) + ")");
-    if (script_.peek() == 'x') script_ >> sign >> times_;
-    EXPECT_EQ(n, range_) << "draw " << made_;
+    if (draws_.empty()) throw std::out_of_range("unexpected Int(" + std::to_string(n) + ")");
+    Draw& next = draws_.front();
+    EXPECT_EQ(n, next.Range) << "draw " << made_;
     ++made_;
-    --times_;
-    return value_;
+    const int value = next.Value;
+    if (--next.Times == 0) draws_.pop_front();
+    return value;
   }
 
  private:
-  std::istringstream script_;
-  int range_ = 0, value_ = 0, times_ = 0, made_ = 0;
+  struct Draw {
+    int Range = 0, Value = 0, Times = 1;
+  };
+
+  std::deque<Draw> draws_;
+  int made_ = 0;
 };
 
 /// Draws of matches between sides of strength 80 in which side 1 has the ball in midfield and nothing happens
@@ -51,13 +69,14 @@ class QuietRandom : public Random {
  public:
   int Int(int n) override {
     if (n == 4000) return GoalDraw();
-    if (n == 100) goalDraws_ = 0;  // The goal number: another match.
-    if (n == 100 && !Later.empty()) {
-      Goals = Later.front();
-      Later.pop_front();
-    }
+    if (n == 100) opened_ = true;  // The goal number, the last draw of a match's opening.
     if (n == 5091) ++Minutes;
-    return n >= 80 && n <= 100 ? 50 : n == 5091 ? 2000 : n == 70 ? 30 : n == 4 || n == 5 ? 1 : 0;
+    return n >= 80 && n <= 100 ? 50 : n == 5091 ? 2000 : n == 70 ? 30 : n == 4 ? 1 : 0;
+  }
+
+  /// Side 1 or 2 scores in one second of the match, counted from 1; in none with 0.
+  void ScoreIn(int second, int side) {
+    Goals = second == 0 ? "" : std::string(static_cast<std::size_t>(second - 1), '.') + std::to_string(side);
   }
 
   std::string Goals;              ///< Of the match, by second played: "1" or "2" for the side that scores.
@@ -66,11 +85,20 @@ class QuietRandom : public Random {
 
  private:
   int GoalDraw() {
+    if (std::exchange(opened_, false)) Begin();
     const auto second = static_cast<std::size_t>(goalDraws_ / 2);
     const char side = goalDraws_++ % 2 == 0 ? '1' : '2';
     return second < Goals.size() && Goals[second] == side ? 50 : 7;
   }
 
+  void Begin() {
+    goalDraws_ = 0;
+    if (Later.empty()) return;
+    Goals = Later.front();
+    Later.pop_front();
+  }
+
+  bool opened_ = false;
   int goalDraws_ = 0;
 };
 

@@ -270,8 +270,8 @@ void MatchWindow::PauseFunction() {
 void MatchWindow::Refresh() {
   const MatchSession& session = match_.Session();
   const MatchControls& controls = session.Controls;
-  ShowSide(side1_, session.Side1, session.Side1Penalties, session.BallSide == 1);
-  ShowSide(side2_, session.Side2, session.Side2Penalties, session.BallSide == 2);
+  ShowSide(side1_, session.Side1, session.BallSide == 1);
+  ShowSide(side2_, session.Side2, session.BallSide == 2);
   ven_->setText(Shown(session.Venue));
   label1_->setText(Shown(AttendanceText(session)));
   picture2_->SetBall(session.BallX, session.BallY);
@@ -300,7 +300,7 @@ void MatchWindow::TellState(const MatchSession& session) {
     picture->setAccessibleDescription(state.join(", "));
 }
 
-void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, int penalties, bool hasBall) const {
+void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool hasBall) const {
   const bool pens = match_.Session().Controls.PensVisible;
   const QString team = Shown(side.Team);
   SetFigureCaption(widgets.Goals, team + tr(", goals"));
@@ -314,7 +314,7 @@ void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, int pen
   widgets.Team->setText(team);
   widgets.Takers->setText(team);
   widgets.Goals->setText(QString::number(side.Goals));
-  widgets.Penalties->setText(QStringLiteral("(%1)").arg(penalties));
+  widgets.Penalties->setText(QStringLiteral("(%1)").arg(side.Penalties));
   widgets.Penalties->setVisible(pens);
   widgets.Score->layout()->setContentsMargins(pens ? 0 : Twips(this, PenaltyRoom), 0, 0, 0);
   widgets.Shots->setText(QString::number(side.Shots));

@@ -48,7 +48,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   QLayout* BuildLists();
   QLayout* BuildButtons();
   void ConnectActions();
-  void ShowSide(const SideWidgets& widgets, const Side& side, int penalties, bool hasBall) const;
+  void ShowSide(const SideWidgets& widgets, const Side& side, bool hasBall) const;
   void ShowClock(const MatchControls& controls);
   void ShowShootOut(const MatchControls& controls);
   void ShowLists(const MatchSession& session);

@@ -71,7 +71,7 @@ class QuietRandom : public Random {
     if (n == 4000) return GoalDraw();
     if (n == 100) opened_ = true;  // The goal number, the last draw of a match's opening.
     if (n == 5091) ++Minutes;
-    return n >= 80 && n <= 100 ? 50 : n == 5091 ? 2000 : n == 70 ? 30 : n == 4 ? 1 : 0;
+    return n > 50 && n <= 100 ? 50 : n == 5091 ? 2000 : n == 4 ? 1 : 0;
   }
 
   /// Side 1 or 2 scores in one second of the match, counted from 1; in none with 0.

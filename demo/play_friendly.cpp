@@ -45,7 +45,7 @@ bool PlayFriendly(User& user, const Pictures& pictures, const QString& page) {
   user.In("Main", [&](QWidget& window) {
     pictures.Take(window, "4-match-before");
     User::Click(window, "instant");
-    const auto* const summary = window.findChild<QListWidget*>("List1(1)");
+    const auto* const summary = window.findChild<QListWidget*>("List1(0)");
     played = !summary->findItems("Result:", Qt::MatchExactly).isEmpty();
     pictures.Take(window, "5-match-after");
     User::Click(window, "ComSave");

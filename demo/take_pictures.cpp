@@ -50,7 +50,7 @@ bool IsGoal(QWidget& match) {
 }
 
 bool IsOver(QWidget& match) {
-  return !match.findChild<QListWidget*>("List1(1)")->findItems("Result:", Qt::MatchExactly).isEmpty();
+  return !match.findChild<QListWidget*>("List1(0)")->findItems("Result:", Qt::MatchExactly).isEmpty();
 }
 
 /// One start of the program, with a user who does what the methods say.

@@ -102,14 +102,12 @@ ChampionshipKind App::CurrentKind() const {
 
 void App::OpenTable() {
   Ranking table = StandingsTable(folder_, opening_.ChampionshipName);
-  const std::unique_ptr<RankingWindow> window(MakeTableWindow(table, Owner()));
-  window->exec();
+  RankingWindow(table, TableScreen(), Owner()).exec();
 }
 
 void App::OpenTopScorers() {
   Ranking scorers = TopScorers(folder_, CurrentKind(), opening_.ChampionshipName);
-  const std::unique_ptr<RankingWindow> window(MakeTopScorersWindow(scorers, Owner()));
-  window->exec();
+  RankingWindow(scorers, TopScorersScreen(), Owner()).exec();
 }
 
 void App::OpenLegResults() {

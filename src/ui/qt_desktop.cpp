@@ -5,7 +5,7 @@
 #include <QMessageBox>
 #include <utility>
 
-#include "ui/widgets/widgets.h"
+#include "ui/text.h"
 
 namespace kickwell {
 namespace {

@@ -16,8 +16,8 @@
 #include "support/screen_test.h"
 #include "tour.h"
 #include "ui/qt_desktop.h"
+#include "ui/text.h"
 #include "ui/widgets/text_label.h"
-#include "ui/widgets/widgets.h"
 
 namespace kickwell {
 namespace {

@@ -7,7 +7,8 @@
 
 #include "championship/ranking.h"
 #include "support/screen_test.h"
-#include "ui/widgets/widgets.h"
+#include "ui/text.h"
+#include "ui/widgets/appearance.h"
 #include "ui/windows/match_window.h"
 #include "ui/windows/ranking_window.h"
 #include "user.h"
@@ -31,7 +32,7 @@ TEST_F(WindowsTest, TheGoalsMakeRoomForTheShootOutAndTheFactsStandInTheirPlaces)
   QTest::qWait(20);
   EXPECT_TRUE(window.findChild<QLabel*>("Pen1")->isVisible());
   EXPECT_EQ(before - left(), Twips(&window, 360));
-  EXPECT_EQ(window.findChild<QListWidget*>("List1(1)")->currentRow(), 7);  // The newest line is in view.
+  EXPECT_EQ(window.findChild<QListWidget*>("List1(0)")->currentRow(), 7);  // The newest line is in view.
   QString shown;
   for (const char* label : {"Pen1", "Shots1", "Corner1", "Book1", "Foul1", "PosMet(0)", "Pen2", "Shots2",
                             "Corner2", "Book2", "Foul2", "PosMet(1)"})
@@ -48,7 +49,7 @@ TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
     EXPECT_EQ(User::TextOf(window, "Label3") + User::TextOf(window, "Inn2"), "GOAL!1");
     EXPECT_EQ(window.findChild<QWidget*>("PosMet(1)")->palette().color(QPalette::Window), QColor(0, 255, 0));
     User::Click(window, "Option1(0)");
-    EXPECT_TRUE(window.findChild<QListWidget*>("List1(0)")->isVisible());
+    EXPECT_TRUE(window.findChild<QListWidget*>("List1(1)")->isVisible());
     desktop_.SaveName = (folder_ / "page").string();
     User::Click(window, "ComSave");
     User::Click(window, "Command1");
@@ -66,27 +67,27 @@ TEST_F(WindowsTest, ARankingIsTurnedByKeyboardAndItsBarFollows) {
   for (int i = 1; i <= 16; ++i)
     table.Rows.push_back({std::to_string(i), "Team", "", "", "", "", "100", "", ""});
   table.Pages.Open(16);
-  const std::unique_ptr<RankingWindow> window(MakeTableWindow(table, nullptr));
-  window->show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  const auto* const figure = window->findChild<QLabel*>("GF(1)");
+  RankingWindow window(table, TableScreen(), nullptr);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  const auto* const figure = window.findChild<QLabel*>("GF(1)");
   EXPECT_GE(figure->contentsRect().width(), figure->fontMetrics().horizontalAdvance("100"));  // Never cut.
-  const auto row = [&window](int r) { return window->findChild<QWidget*>(ArrayName("Marker", r)); };
+  const auto row = [&window](int r) { return window.findChild<QWidget*>(ArrayName("Marker", r)); };
   const auto expectBarOn = [&](int r) {
     QTest::qWait(20);
-    EXPECT_EQ(window->findChild<QWidget*>("Bar")->y(), row(r)->y()) << r;
+    EXPECT_EQ(window.findChild<QWidget*>("Bar")->y(), row(r)->y()) << r;
   };
   expectBarOn(1);
-  QTest::keyClick(window.get(), Qt::Key_Down);
+  QTest::keyClick(&window, Qt::Key_Down);
   expectBarOn(2);
   QTest::mouseMove(row(9));
   expectBarOn(9);
-  User::Press(*window, Qt::Key_Return);  // "Next" has the focus.
+  User::Press(window, Qt::Key_Return);  // "Next" has the focus.
   EXPECT_TRUE(row(1)->isVisible() && !row(2)->isVisible());
   expectBarOn(1);
-  EXPECT_EQ(User::TextOf(*window, "Pos(1)") + User::TextOf(*window, "Pos(2)"), "16");
-  User::Press(*window, Qt::Key_Space);  // The focus is on "Back" now, not on "Close".
-  EXPECT_EQ(User::TextOf(*window, "Pos(1)"), "1");
+  EXPECT_EQ(User::TextOf(window, "Pos(1)") + User::TextOf(window, "Pos(2)"), "16");
+  User::Press(window, Qt::Key_Space);  // The focus is on "Back" now, not on "Close".
+  EXPECT_EQ(User::TextOf(window, "Pos(1)"), "1");
 }
 
 }  // namespace

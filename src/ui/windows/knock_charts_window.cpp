@@ -6,8 +6,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/text.h"
 #include "ui/widgets/accessible.h"
-#include "ui/widgets/widgets.h"
+#include "ui/widgets/appearance.h"
+#include "ui/widgets/labels.h"
 
 namespace kickwell {
 namespace {
@@ -23,7 +25,7 @@ BracketView::BracketView(const KnockCharts& charts) : charts_(charts) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setFocusPolicy(Qt::TabFocus);
   SetRole(this, QAccessible::Chart);
-  setAccessibleName(tr("Knock Out Table"));
+  setAccessibleName("Knock Out Table");
   for (int slot = 0; slot < SlotTotal; ++slot) {
     QLabel* const label = MakeText(ArrayName("team", slot), Shown(charts.Text(slot)), Qt::AlignHCenter);
     label->setParent(this);
@@ -47,13 +49,11 @@ void BracketView::NameSlots() {
   QStringList matches;
   int number = 0;
   for (const auto& [home, away, winner] : charts_.Matches) {
-    const QString match = tr("Match %1").arg(++number);
-    matches.append(match + ": " + name(home, match + tr(", home")) + tr(" against ") +
-                   name(away, match + tr(", away")));
-    name(winner, tr("Winner"));  // Until a later match takes him.
+    const QString match = QStringLiteral("Match %1").arg(++number);
+    matches.append(match + ": " + name(home, match + ", home") + " against " + name(away, match + ", away"));
+    name(winner, "Winner");  // Until a later match takes him.
   }
-  if (!charts_.Matches.empty())
-    matches.append(tr("Winner: ") + Shown(charts_.Text(charts_.Matches.back()[2])));
+  if (!charts_.Matches.empty()) matches.append("Winner: " + Shown(charts_.Text(charts_.Matches.back()[2])));
   setAccessibleDescription(matches.join("; "));
 }
 
@@ -105,12 +105,11 @@ void BracketView::paintEvent(QPaintEvent* /*event*/) {
 }
 
 KnockChartsWindow::KnockChartsWindow(KnockCharts& charts, QWidget* parent)
-    : ScreenWindow("KnockCharts", tr("Kickwell Knock Out Table"), parent), charts_(charts) {
+    : ScreenWindow("KnockCharts", "Kickwell Knock Out Table", parent), charts_(charts) {
   QLabel* const label1 = MakeHeading("Label1");
   label1->setText(Shown(charts.Label1));
-  QPushButton* const command3 = MakeButton("Command3", tr("Close"));
+  QPushButton* const command3 = Button("Command3", "Close", [this] { charts_.Command3_Click(); });
   command3->setDefault(true);
-  connect(command3, &QPushButton::clicked, this, [this] { Act([this] { charts_.Command3_Click(); }); });
   auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -10,6 +9,8 @@
 #include "engine/match.h"
 #include "engine/match_screen.h"
 #include "ui/widgets/goal_picture.h"
+#include "ui/widgets/kick_mark.h"
+#include "ui/widgets/line_list.h"
 #include "ui/widgets/pitch_picture.h"
 #include "ui/windows/screen_window.h"
 
@@ -47,11 +48,11 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   QWidget* BuildShootOut();
   QLayout* BuildLists();
   QLayout* BuildButtons();
-  void ConnectActions();
   void ShowSide(const SideWidgets& widgets, const Side& side, int penalties, bool hasBall) const;
   void ShowClock(const MatchControls& controls);
   void ShowShootOut(const MatchControls& controls);
   void ShowLists(const MatchSession& session);
+  LineList* ListOnView() const;
   void ShowButtons(const MatchControls& controls);
   void TellState(const MatchSession& session);
 
@@ -64,7 +65,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   GoalPicture* picture1_;
   QWidget *scoreBoard_ = nullptr, *shootOut_ = nullptr;
   std::array<KickMark*, KickCount> penalty_{};
-  std::array<QListWidget*, 2> list1_{};
+  LineList *summary_, *commentary_;
   std::array<QRadioButton*, 2> option1_{};
   QPushButton *halftime_, *instant_, *kick_, *nextshot_, *comSave_, *command1_;
 };

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "ui/widgets/page_area.h"
-#include "ui/widgets/widgets.h"
 
 namespace kickwell {
 
@@ -53,8 +52,13 @@ void ScreenWindow::Act(const std::function<void()>& action) {
 }
 
 QPushButton* ScreenWindow::Button(const QString& name, const QString& caption, std::function<void()> action) {
-  QPushButton* const button = MakeButton(name, caption);
+  auto* const button = new QPushButton(caption);
+  button->setObjectName(name);
   button->setAutoDefault(false);
+  if (caption.contains('<') || caption.contains('>') || caption.count('&') > 1) {
+    QString words = caption;
+    button->setAccessibleName(words.remove('&').remove('<').remove('>').trimmed());
+  }
   connect(button, &QPushButton::clicked, this, [this, action = std::move(action)] { Act(action); });
   return button;
 }

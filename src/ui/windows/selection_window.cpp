@@ -10,8 +10,10 @@
 #include <optional>
 #include <utility>
 
+#include "ui/text.h"
 #include "ui/widgets/accessible.h"
-#include "ui/widgets/widgets.h"
+#include "ui/widgets/choosers.h"
+#include "ui/widgets/labels.h"
 
 namespace kickwell {
 namespace {
@@ -34,9 +36,9 @@ QString FigureText(const std::optional<int>& figure) {
 }  // namespace
 
 SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
-    : ScreenWindow("Selection", tr("Kickwell Team Selection"), parent),
+    : ScreenWindow("Selection", "Kickwell Team Selection", parent),
       selection_(selection),
-      command1_(MakeButton("Command1", tr("&Continue >>"))) {
+      command1_(Button("Command1", "&Continue >>", [this] { selection_.Command1_Click(); })) {
   const MatchSetup& setup = selection.Setup();
   auto* const sides = new QHBoxLayout;
   sides->setSpacing(16);
@@ -46,8 +48,7 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   QLabel* const num = MakeText("num", QString::number(setup.MatchNumber));
   num->setVisible(false);
   command1_->setDefault(true);
-  QPushButton* const command2 = MakeButton("Command2", tr("Cancel"));
-  command2->setAutoDefault(false);
+  QPushButton* const command2 = Button("Command2", "Cancel", [this] { selection_.Command2_Click(); });
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(num);
   buttons->addStretch();
@@ -61,8 +62,6 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   layout->addStretch();
   layout->addLayout(buttons);
 
-  connect(command1_, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command1_Click(); }); });
-  connect(command2, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command2_Click(); }); });
   Page()->installEventFilter(this);
   Refresh();
   selection_.Changed = [this] { Refresh(); };
@@ -86,15 +85,15 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
     const auto at = static_cast<std::size_t>(i);
     column.Combos[at] = MakeCombo(ArrayName(combo, i));
     column.Combos[at]->setModel(column.Squad);
-    const QString player = team + tr(", player %1").arg(i + 1);
+    const QString player = team + QStringLiteral(", player %1").arg(i + 1);
     Name(column.Combos[at], player);
     column.Combos[at]->setMinimumContentsLength(UsualName);
     column.Posts[at] = MakeText(ArrayName(post, i), {}, Qt::AlignHCenter);
     column.Posts[at]->setMinimumWidth(fontMetrics().horizontalAdvance("MMMM"));
-    SetFigureCaption(column.Posts[at], player + tr(", position"));
+    SetFigureCaption(column.Posts[at], player + ", position");
     column.Skills[at] = MakeText(ArrayName(skill, i), {}, Qt::AlignRight);
     column.Skills[at]->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
-    SetFigureCaption(column.Skills[at], player + tr(", skill"));
+    SetFigureCaption(column.Skills[at], player + ", skill");
     slots_->addWidget(column.Combos[at], i, 0);
     slots_->addWidget(column.Posts[at], i, 1);
     slots_->addWidget(column.Skills[at], i, 2);
@@ -118,15 +117,15 @@ QWidget* SelectionWindow::BuildFigures(Column& column, int side, const QString& 
   figures->setColumnMinimumWidth(2, 24);
   figures->setColumnStretch(1, 1);
   figures->setColumnStretch(4, 1);
-  column.Formation = AddFigure(figures, 0, 0, tr("Formation:"), "Formation" + number, "0-0-0");
-  column.Skill = AddFigure(figures, 1, 0, tr("Overall Skill:"), "Skill" + number, "0");
-  column.OSkill = AddFigure(figures, 2, 0, tr("Reputation:"), "OSkill" + number, "0");
+  column.Formation = AddFigure(figures, 0, 0, "Formation:", "Formation" + number, "0-0-0");
+  column.Skill = AddFigure(figures, 1, 0, "Overall Skill:", "Skill" + number, "0");
+  column.OSkill = AddFigure(figures, 2, 0, "Reputation:", "OSkill" + number, "0");
   const int firstLabel = side == 1 ? 11 : 15;
   const auto labelName = [firstLabel](int i) { return "Label" + QString::number(firstLabel + i); };
-  column.Attack = AddFigure(figures, 0, 3, tr("Attack:"), labelName(0), {});
-  column.Defence = AddFigure(figures, 1, 3, tr("Defence:"), labelName(1), {});
-  column.Midfield = AddFigure(figures, 2, 3, tr("Mid-Field:"), labelName(2), {});
-  column.Keeping = AddFigure(figures, 3, 3, tr("Keeping:"), labelName(3), {});
+  column.Attack = AddFigure(figures, 0, 3, "Attack:", labelName(0), {});
+  column.Defence = AddFigure(figures, 1, 3, "Defence:", labelName(1), {});
+  column.Midfield = AddFigure(figures, 2, 3, "Mid-Field:", labelName(2), {});
+  column.Keeping = AddFigure(figures, 3, 3, "Keeping:", labelName(3), {});
   auto* const figuresBox = new QFrame;
   figuresBox->setAccessibleName(team);
   figuresBox->setFrameShape(QFrame::StyledPanel);

@@ -16,7 +16,7 @@ Ball::Ball(QWidget& picture, const QPointF& place, int duration, QEasingCurve::T
 
 void Ball::GlideTo(const QPointF& place) {
   if (place == target_) return;
-  if (!picture_.isVisible()) {
+  if (!picture_.isVisible() || glide_.duration() == 0) {
     JumpTo(place);
     return;
   }

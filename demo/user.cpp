@@ -45,8 +45,14 @@ void User::LookAgain() {
   QTimer::singleShot(Beat, &context_, [this] { Next(); });
 }
 
-void User::Add(Missing missing, Step step) {
+User& User::In(const QString& window) {
+  window_ = window;
+  return *this;
+}
+
+User& User::Add(Missing missing, Step step) {
   steps_.push_back({window_, std::move(missing), std::move(step)});
+  return *this;
 }
 
 QString User::MissingNow() const {
@@ -89,35 +95,34 @@ void User::Wait(int milliseconds) {
   waiting_ = false;
 }
 
-void User::When(Condition condition, Step step) {
+User& User::When(Condition condition, Step step) {
   const auto missing = [condition = std::move(condition)](QWidget& window) {
     return condition == nullptr || condition(window) ? QString() : "the condition does not hold";
   };
-  Add(missing, std::move(step));
+  return Add(missing, std::move(step));
 }
 
 void User::When(const QString& window, Condition condition, Step step) {
-  In(window);
-  When(std::move(condition), std::move(step));
+  In(window).When(std::move(condition), std::move(step));
 }
 
 void User::In(const QString& window, Step step) {
   When(window, nullptr, std::move(step));
 }
 
-void User::Click(const QString& button) {
+User& User::Click(const QString& button) {
   const auto missing = [button](QWidget& window) {
     return Find<QAbstractButton>(window, button).isEnabled() ? QString() : button + " is disabled";
   };
-  Add(missing, [button](QWidget& window) { Click(window, button); });
+  return Add(missing, [button](QWidget& window) { Click(window, button); });
 }
 
-void User::Pick(const QString& combo, int entry) {
-  Do([combo, entry](QWidget& window) { Pick(window, combo, entry); });
+User& User::Pick(const QString& combo, int entry) {
+  return Do([combo, entry](QWidget& window) { Pick(window, combo, entry); });
 }
 
-void User::Type(const QString& box, const QString& text) {
-  Do([box, text](QWidget& window) {
+User& User::Type(const QString& box, const QString& text) {
+  return Do([box, text](QWidget& window) {
     auto& edit = Find<QLineEdit>(window, box);
     edit.setFocus();
     edit.selectAll();
@@ -125,28 +130,28 @@ void User::Type(const QString& box, const QString& text) {
   });
 }
 
-void User::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-  Do([key, modifiers](QWidget& window) { Press(window, key, modifiers); });
+User& User::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  return Do([key, modifiers](QWidget& window) { Press(window, key, modifiers); });
 }
 
-void User::Choose(Qt::Key menu, Qt::Key item) {
-  Do([menu, item](QWidget& window) { Choose(window, menu, item); });
+User& User::Choose(Qt::Key menu, Qt::Key item) {
+  return Do([menu, item](QWidget& window) { Choose(window, menu, item); });
 }
 
-void User::ExpectText(const QString& control, const QString& text) {
+User& User::ExpectText(const QString& control, const QString& text) {
   const auto missing = [control, text](QWidget& window) {
     const QString shown = TextOf(window, control);
     return shown == text ? QString() : control + " shows \"" + shown + "\", not \"" + text + "\"";
   };
-  Add(missing, [](QWidget& /*window*/) {});
+  return Add(missing, [](QWidget& /*window*/) {});
 }
 
-void User::ExpectLines(const QString& list, const QStringList& lines) {
+User& User::ExpectLines(const QString& list, const QStringList& lines) {
   const auto missing = [list, lines](QWidget& window) {
     const QStringList shown = LinesOf(window, list);
     return shown == lines ? QString() : list + " shows\n" + shown.join('\n') + "\nnot\n" + lines.join('\n');
   };
-  Add(missing, [](QWidget& /*window*/) {});
+  return Add(missing, [](QWidget& /*window*/) {});
 }
 
 void User::Press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers) {

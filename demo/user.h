@@ -21,18 +21,18 @@ class User {
   explicit User(int patience = 10000);  ///< How long a step may wait, in milliseconds.
 
   /// The steps added from now on are for the window named `window` (its object name).
-  void In(const QString& window) { window_ = window; }
+  User& In(const QString& window);
 
-  void Click(const QString& button);                   ///< Waits until the button is enabled.
-  void Pick(const QString& combo, int entry);          ///< By keyboard.
-  void Type(const QString& box, const QString& text);  ///< In place of what the box holds.
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-  void Choose(Qt::Key menu, Qt::Key item);                       ///< A menu item by its access keys.
-  void ExpectText(const QString& control, const QString& text);  ///< Waits until the control shows it.
-  void ExpectLines(const QString& list, const QStringList& lines);
-  void Do(Step step) { When(nullptr, std::move(step)); }
-  void When(Condition condition,
-            Step step);  ///< Waits for `condition`, also in the middle of a goal's pause.
+  User& Click(const QString& button);                   ///< Waits until the button is enabled.
+  User& Pick(const QString& combo, int entry);          ///< By keyboard.
+  User& Type(const QString& box, const QString& text);  ///< In place of what the box holds.
+  User& Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  User& Choose(Qt::Key menu, Qt::Key item);                       ///< A menu item by its access keys.
+  User& ExpectText(const QString& control, const QString& text);  ///< Waits until the control shows it.
+  User& ExpectLines(const QString& list, const QStringList& lines);
+  User& Do(Step step) { return When(nullptr, std::move(step)); }
+  User& When(Condition condition,
+             Step step);  ///< Waits for `condition`, also in the middle of a goal's pause.
 
   void In(const QString& window, Step step);
   void When(const QString& window, Condition condition, Step step);
@@ -61,7 +61,7 @@ class User {
     Step Run;
   };
 
-  void Add(Missing missing, Step step);
+  User& Add(Missing missing, Step step);
   void Next();
   void LookAgain();
   QString MissingNow() const;

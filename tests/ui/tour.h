@@ -42,8 +42,7 @@ class Tour {
  private:
   /// Looks at a screen that is open, and leaves it by a button.
   void Visit(const char* screen, const char* leave = nullptr) {
-    user_.In(screen);
-    user_.Do([this](QWidget& window) {
+    user_.In(screen).Do([this](QWidget& window) {
       user_.Wait(40);  // The squads come when the screen has been drawn.
       look_(window);
     });
@@ -51,8 +50,7 @@ class Tour {
   }
 
   void Open(Qt::Key menu, Qt::Key item, const char* screen) {
-    user_.In("Opening");
-    user_.Choose(menu, item);
+    user_.In("Opening").Choose(menu, item);
     Visit(screen);
   }
 

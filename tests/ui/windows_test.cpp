@@ -9,6 +9,7 @@
 #include "support/screen_test.h"
 #include "ui/text.h"
 #include "ui/widgets/appearance.h"
+#include "ui/widgets/line_list.h"
 #include "ui/windows/match_window.h"
 #include "ui/windows/ranking_window.h"
 #include "user.h"
@@ -64,6 +65,30 @@ TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
   EXPECT_EQ(desktop_.Told(), "* loaded|* whistle|* goal|?: Do you really want to exit?");
 }
 
+TEST_F(WindowsTest, AListOfLinesShowsTheNewestAndIsWalkedByKeyboardAndMouse) {
+  LineList list("Lines");
+  list.resize(200, 100);
+  list.show();
+  ItemList lines;
+  for (int i = 0; i < 100; ++i) lines.Add(std::to_string(i));
+  lines.PickLast();
+  list.ShowLines(lines);
+  const auto expectCurrent = [&list](int row) {
+    EXPECT_EQ(list.currentRow(), row);
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.currentItem()))) << row;
+  };
+  expectCurrent(99);
+  QTest::keyClick(&list, Qt::Key_Up);
+  expectCurrent(98);
+  QTest::keyClick(&list, Qt::Key_Home);
+  expectCurrent(0);
+  QTest::keyClick(&list, Qt::Key_PageDown);
+  expectCurrent(list.viewport()->height() / list.visualItemRect(list.item(0)).height());
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(3)).center());
+  expectCurrent(3);
+  EXPECT_TRUE(list.item(3)->isSelected());
+}
+
 TEST_F(WindowsTest, ARankingIsTurnedByKeyboardAndItsBarFollows) {
   Ranking table;
   for (int i = 1; i <= 16; ++i)
@@ -88,6 +113,7 @@ TEST_F(WindowsTest, ARankingIsTurnedByKeyboardAndItsBarFollows) {
   EXPECT_TRUE(row(1)->isVisible() && !row(2)->isVisible());
   expectBarOn(1);
   EXPECT_EQ(User::TextOf(window, "Pos(1)"), "16");
+  EXPECT_EQ(User::TextOf(window, "Pos(2)"), "");
   User::Press(window, Qt::Key_Space);  // The focus is on "Back" now, not on "Close".
   EXPECT_EQ(User::TextOf(window, "Pos(1)"), "1");
 }

@@ -20,12 +20,12 @@ namespace {
 
 constexpr int PenaltyRoom = 360;  ///< How far the goals move left for the shoot-out counts, in twips.
 
-/// The ball has arrived well before the next tick.
+/// How long the ball glides: it arrives well before the next tick.
 int Glide(const MatchTimings& timings) {
   return timings.Tick * 6 / 10;
 }
 
-/// The board behind the score, dark in every theme, with white writing.
+/// The board behind the score: dark in every theme, with white text.
 class ScoreBoard final : public QWidget {
  public:
   ScoreBoard() {
@@ -119,7 +119,7 @@ QWidget* MatchWindow::BuildScoreBoard() {
   SetFigureCaption(label3_, "Match Timer");
   Enlarged(label3_, 1.9);
   label3_->setMinimumWidth(label3_->fontMetrics().horizontalAdvance("000:00") + 24);
-  auto* const lamp = new QHBoxLayout(label2_);  // The clock's text stands on the lamp.
+  auto* const lamp = new QHBoxLayout(label2_);  // The clock's text is on the lamp.
   lamp->setContentsMargins(6, 2, 6, 2);
   lamp->addWidget(label3_);
   label2_->setMinimumSize(label3_->minimumWidth() + 12, label3_->fontMetrics().height() + 6);
@@ -146,7 +146,8 @@ void MatchWindow::BuildScore(SideWidgets& side, int number) {
   side.Penalties = Enlarged(MakeText("Pen" + n, "(0)"), 1.5);
   side.Goals->setMinimumWidth(side.Goals->fontMetrics().horizontalAdvance("00"));
   side.Score = new QWidget;
-  // The goals start one penalty room right of where they stand in a shoot-out, and nothing else ever moves.
+  // The goals make room for the penalties by moving left. Nothing else moves, so the room is there from the
+  // start.
   const int penaltyWidth = side.Penalties->fontMetrics().horizontalAdvance("(00)");
   side.Score->setFixedWidth(side.Goals->minimumWidth() +
                             std::max(penaltyWidth + 4, Twips(this, PenaltyRoom)));
@@ -248,7 +249,7 @@ QLayout* MatchWindow::BuildButtons() {
   buttons->addStretch();
   buttons->addWidget(comSave_);
   buttons->addWidget(command1_);
-  // There is no text box to take Enter from: the button with the focus shows that Enter presses it.
+  // Without a text box to take Enter from, the button with the focus may show that Enter presses it.
   for (QPushButton* const button : {halftime_, instant_, kick_, nextshot_, comSave_})
     button->setAutoDefault(true);
   return buttons;
@@ -259,7 +260,7 @@ void MatchWindow::PauseFunction() {
   QTimer::singleShot(timings_.GoalPause, Qt::PreciseTimer, &pause, &QEventLoop::quit);
   connect(this, &QDialog::finished, &pause, &QEventLoop::quit);
   pause.exec();
-  timer1_.start();  // The next minute is a whole tick away again.
+  timer1_.start();  // The next minute is a full tick away.
 }
 
 void MatchWindow::Refresh() {

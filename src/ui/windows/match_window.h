@@ -16,7 +16,7 @@
 
 namespace kickwell {
 
-/// How long things take, in milliseconds. Tests hurry them.
+/// How long things take, in milliseconds. Tests use shorter times.
 struct MatchTimings {
   int Tick = 1000;       ///< Of the clock: a minute of play.
   int GoalPause = 3000;  ///< After every goal.
@@ -37,7 +37,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   /// The widgets of one side of the pitch.
   struct SideWidgets {
     QLabel *Team, *Goals, *Penalties;
-    QWidget* Score;  ///< Holds goals and penalties, the goals to the left.
+    QWidget* Score;  ///< Holds the goals and, right of them, the penalties.
     QLabel *Shots, *Corners, *Bookings, *Fouls, *Possession;
     QLabel* Takers;  ///< The team's name beside its row of kick markers.
   };

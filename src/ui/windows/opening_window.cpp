@@ -33,7 +33,7 @@ class Grass : public QWidget {
 };
 
 QLabel* AddText(QVBoxLayout* layout, const QString& name, const QString& text, qreal size, bool bold) {
-  // What is fixed is always shown whole.
+  // Fixed texts are never cut short.
   QLabel* const label = text.isEmpty() ? MakeText(name, text) : MakeCaption(text);
   label->setObjectName(name);
   label->setAlignment(Qt::AlignCenter);

@@ -46,7 +46,7 @@ void ScreenWindow::Act(const std::function<void()>& action) {
     Refresh();
   } else if (isVisible()) {  // An action within this one may have closed the window already.
     done(Accepted);
-    // Where two screens close at once, a window manager may lose the keyboard.
+    // When two screens close at once, some window managers give the keyboard to neither of those below.
     if (parentWidget() != nullptr) parentWidget()->activateWindow();
   }
 }

@@ -10,6 +10,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/at.h"
 #include "ui/text.h"
 #include "ui/widgets/accessible.h"
 #include "ui/widgets/choosers.h"
@@ -20,7 +21,7 @@ namespace {
 
 constexpr int UsualName = 14;  ///< Two choosers stand side by side.
 
-/// A figure beside its caption, in two columns of the grid.
+/// Adds a figure and its caption, side by side in the grid.
 QLabel* AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& name,
                   const QString& text) {
   QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), 1);
@@ -73,38 +74,40 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   auto* const box = new QWidget;
   QLabel* const name = Enlarged(MakeText("Team" + number, team, Qt::AlignHCenter), 1.4);
 
-  auto* const slots_ = new QGridLayout;
-  slots_->setVerticalSpacing(4);
-  slots_->setHorizontalSpacing(10);
-  slots_->setColumnStretch(0, 1);
+  auto* const grid = new QGridLayout;
+  grid->setVerticalSpacing(4);
+  grid->setHorizontalSpacing(10);
+  grid->setColumnStretch(0, 1);
   column.Squad = new QStringListModel(this);
   const QByteArray combo = ("Combo" + number).toLatin1();
   const QByteArray post = ("Post" + number).toLatin1();
   const QByteArray skill = ("Sk" + number).toLatin1();
   for (int i = 0; i < SlotCount; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    column.Combos[at] = MakeCombo(ArrayName(combo, i));
-    column.Combos[at]->setModel(column.Squad);
+    QComboBox* const chooser = MakeCombo(ArrayName(combo, i));
+    chooser->setModel(column.Squad);
     const QString player = team + QStringLiteral(", player %1").arg(i + 1);
-    Name(column.Combos[at], player);
-    column.Combos[at]->setMinimumContentsLength(UsualName);
-    column.Posts[at] = MakeText(ArrayName(post, i), {}, Qt::AlignHCenter);
-    column.Posts[at]->setMinimumWidth(fontMetrics().horizontalAdvance("MMMM"));
-    SetFigureCaption(column.Posts[at], player + ", position");
-    column.Skills[at] = MakeText(ArrayName(skill, i), {}, Qt::AlignRight);
-    column.Skills[at]->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
-    SetFigureCaption(column.Skills[at], player + ", skill");
-    slots_->addWidget(column.Combos[at], i, 0);
-    slots_->addWidget(column.Posts[at], i, 1);
-    slots_->addWidget(column.Skills[at], i, 2);
-    OnPick(column.Combos[at], [this, pick, i](int entry) { (selection_.*pick)(i, entry); });
+    Name(chooser, player);
+    chooser->setMinimumContentsLength(UsualName);
+    OnPick(chooser, [this, pick, i](int entry) { (selection_.*pick)(i, entry); });
+    QLabel* const position = MakeText(ArrayName(post, i), {}, Qt::AlignHCenter);
+    position->setMinimumWidth(fontMetrics().horizontalAdvance("MMMM"));
+    SetFigureCaption(position, player + ", position");
+    QLabel* const figure = MakeText(ArrayName(skill, i), {}, Qt::AlignRight);
+    figure->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
+    SetFigureCaption(figure, player + ", skill");
+    grid->addWidget(chooser, i, 0);
+    grid->addWidget(position, i, 1);
+    grid->addWidget(figure, i, 2);
+    At(column.Combos, i) = chooser;
+    At(column.Posts, i) = position;
+    At(column.Skills, i) = figure;
   }
 
   auto* const layout = new QVBoxLayout(box);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(10);
   layout->addWidget(name);
-  layout->addLayout(slots_);
+  layout->addLayout(grid);
   layout->addWidget(BuildFigures(column, side, team));
   return box;
 }
@@ -134,7 +137,7 @@ QWidget* SelectionWindow::BuildFigures(Column& column, int side, const QString& 
 }
 
 bool SelectionWindow::eventFilter(QObject* watched, QEvent* event) {
-  // The squads are loaded when the screen has been drawn.
+  // The screen is drawn first, then the squads are loaded.
   if (watched == Page() && event->type() == QEvent::Paint && !std::exchange(timer1Started_, true))
     QTimer::singleShot(0, this, [this] { Act([this] { selection_.Timer1_Timer(); }); });
   return ScreenWindow::eventFilter(watched, event);

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "base/at.h"
 #include "ui/text.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
@@ -98,7 +99,7 @@ QWidget* StadEditorWindow::BuildAddition() {
 void StadEditorWindow::Refresh() {
   ShowList(list1_, editor_.List1);
   for (int i = 0; i < list1_->count(); ++i) {
-    const Stadium& stadium = editor_.Stadiums()[static_cast<std::size_t>(i)];
+    const Stadium& stadium = At(editor_.Stadiums(), i);
     const QString whole =
         Shown(stadium.Name + ", " + stadium.City + " (" + stadium.Capacity + "), " + stadium.HomeTeam);
     list1_->item(i)->setToolTip(PlainTip(whole));

@@ -114,8 +114,10 @@ void TickInWindow(benchmark::State& state, int first) {
     match.halftime_Click();  // Starts the next period where one has ended.
     QMetaObject::invokeMethod(timer, "timeout");
   };
-  while (match.Session().Minute < first) tick();
-  QCoreApplication::processEvents();
+  do {
+    tick();
+  } while (match.Session().Minute < first);
+  QCoreApplication::processEvents();  // Gives the list that the first tick has brought on view its room.
   for ([[maybe_unused]] auto iteration : state) {
     const auto start = std::chrono::steady_clock::now();
     tick();

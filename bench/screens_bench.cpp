@@ -120,11 +120,11 @@ void AddChampionships(Figures& figures, const ProgramFolder& folder) {
   AddScreen(
       figures, "League table, 100 rows", {file(".leg"), file(".rec")},
       [folder] { return StandingsTable(folder, AtLimits); },
-      [](Ranking& table) { return MakeTableWindow(table, nullptr); });
+      [](Ranking& table) { return new RankingWindow(table, TableScreen(), nullptr); });
   AddScreen(
       figures, "Top scorers, 5,000", {file(".sco")},
       [folder] { return TopScorers(folder, League, AtLimits); },
-      [](Ranking& scorers) { return MakeTopScorersWindow(scorers, nullptr); });
+      [](Ranking& scorers) { return new RankingWindow(scorers, TopScorersScreen(), nullptr); });
   AddScreen(
       figures, "Results, 15,001 lines", {file(".lrs")},
       [folder] { return LegResults(folder, Silence(), League, AtLimits); }, Opened<LegResultsWindow>);

@@ -5,9 +5,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QFileDialog>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QtTest/QTest>
 #include <cstdio>
 
@@ -46,8 +44,7 @@ bool PlayFriendly(User& user, const Pictures& pictures, const QString& page) {
   user.In("Main", [&](QWidget& window) {
     pictures.Take(window, "4-match-before");
     User::Click(window, "instant");
-    const auto* const summary = window.findChild<QListWidget*>("List1(1)");
-    played = !summary->findItems("Result:", Qt::MatchExactly).isEmpty();
+    played = User::LinesOf(window, "List1(0)").contains("Result:");
     pictures.Take(window, "5-match-after");
     User::Click(window, "ComSave");
   });
@@ -63,7 +60,8 @@ bool PlayFriendly(User& user, const Pictures& pictures, const QString& page) {
     QTest::keyClick(&window, Qt::Key_Y, Qt::AltModifier);
   });
   user.In("Opening", [](QWidget& window) { User::Choose(window, Qt::Key_P, Qt::Key_X); });
-  return user.Finish() && played && QFile(page).size() > 0;
+  user.Finish();
+  return played && QFile(page).size() > 0;
 }
 
 }  // namespace

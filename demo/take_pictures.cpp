@@ -51,7 +51,7 @@ bool IsGoal(QWidget& match) {
 }
 
 bool IsOver(QWidget& match) {
-  return !match.findChild<QListWidget*>("List1(1)")->findItems("Result:", Qt::MatchExactly).isEmpty();
+  return User::LinesOf(match, "List1(0)").contains("Result:");
 }
 
 /// One start of the program, with a user who does what the methods say.
@@ -67,7 +67,7 @@ class Session {
 
   void Finish() {
     Choose(Qt::Key_P, Qt::Key_X);
-    if (!user_.Finish(20000)) throw std::runtime_error("the program does not get to where a picture is due");
+    user_.Finish();
   }
 
   void Choose(Qt::Key menu, Qt::Key item) {
@@ -252,7 +252,7 @@ class Session {
   kickwell::QtDesktop desktop_;
   kickwell::SeededRandom random_;
   kickwell::App app_;
-  User user_;
+  User user_{20000};  // Milliseconds: a match is watched to its end.
   Pictures pictures_;
 };
 

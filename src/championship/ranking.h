@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/at.h"
 #include "championship/paging.h"
 
 namespace kickwell {
@@ -14,6 +15,11 @@ class Ranking {
   void prevpage_Click() { Pages.Back(); }
   void Marker_MouseMove(int row) { Pages.Hover(row); }
   void Close_Click() { Closed = true; }
+
+  /// The text in a row (from 1) of the page that is shown; empty below its last entry.
+  std::string Text(int row, int column) const {
+    return row > Pages.RowCount() ? std::string() : At(At(Rows, Pages.Offset() + row - 1), column);
+  }
 
   std::string Label1;                          ///< The heading.
   std::vector<std::vector<std::string>> Rows;  ///< All entries in order, each the texts of its columns.

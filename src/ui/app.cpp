@@ -104,14 +104,12 @@ ChampionshipId App::Current() const {
 
 void App::OpenTable() {
   Ranking table = StandingsTable(folder_, desktop_, opening_.ChampionshipName);
-  const std::unique_ptr<RankingWindow> window(MakeTableWindow(table, Owner()));
-  window->exec();
+  RankingWindow(table, TableScreen(), Owner()).exec();
 }
 
 void App::OpenTopScorers() {
   Ranking scorers = TopScorers(folder_, desktop_, Current());
-  const std::unique_ptr<RankingWindow> window(MakeTopScorersWindow(scorers, Owner()));
-  window->exec();
+  RankingWindow(scorers, TopScorersScreen(), Owner()).exec();
 }
 
 void App::OpenLegResults() {

@@ -26,7 +26,7 @@ class App {
   void Start();  ///< Shows the main menu; the program ends when it is closed.
 
  private:
-  QWidget* Owner() const;  ///< The screen in use, over which the next one stands.
+  QWidget* Owner() const;  ///< The window in use, over which the next one opens.
   OpeningScreens Screens();
   void OpenSettings();
   void OpenLegEditor();

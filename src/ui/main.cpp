@@ -7,8 +7,8 @@
 
 namespace {
 
-/// The desktop shows it with each window, picking a size. Some desktops take it from the desktop entry
-/// instead, which they must be able to find by its name.
+/// Desktops pick the size that they need. Some take the icon from the desktop entry instead, which they find
+/// by the name set here.
 void SetIcon() {
   QIcon icon;
   for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
@@ -21,7 +21,7 @@ void SetIcon() {
 }  // namespace
 
 int main(int /*argc*/, char** argv) {
-  int noArguments = 1;  // The program takes none, Qt's own neither.
+  int noArguments = 1;  // Not even those of Qt.
   const QApplication application(noArguments, argv);
   kickwell::PosixFileSystem files;
   const kickwell::ProgramFolder folder(QCoreApplication::applicationDirPath().toStdString(), files);

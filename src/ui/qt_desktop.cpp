@@ -6,12 +6,12 @@
 #include <utility>
 
 #include "base/program.h"
-#include "ui/widgets/widgets.h"
+#include "ui/text.h"
 
 namespace kickwell {
 namespace {
 
-/// Names from damaged files may be endless; a box must still fit the screen and say what is the matter.
+/// Names from damaged files may be endless. A box must still fit on the screen and say what has happened.
 QString Shortened(const QString& text) {
   constexpr qsizetype Longest = 600;
   return text.size() <= Longest ? text : text.left(Longest / 2) + " ... " + text.right(Longest / 2);

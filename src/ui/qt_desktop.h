@@ -7,7 +7,7 @@
 
 namespace kickwell {
 
-/// Boxes and dialogs stand over the window that is in use. Pages are proposed in the program folder.
+/// Shows boxes and dialogs over the window in use. The save dialog opens in the program folder.
 class QtDesktop : public Desktop {
  public:
   explicit QtDesktop(ProgramFolder folder);

@@ -5,7 +5,7 @@
 #include <QMediaDevices>
 #include <QUrl>
 
-#include "ui/widgets/widgets.h"
+#include "ui/text.h"
 
 namespace kickwell {
 namespace {

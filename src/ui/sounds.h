@@ -10,14 +10,14 @@
 
 namespace kickwell {
 
-/// The wave files of the Sounds folder. Without a sound device nothing is loaded or played, and nothing
-/// waits.
+/// The wave files of the Sounds folder. Without a sound device nothing is loaded or played, and nobody has to
+/// wait.
 class Sounds {
  public:
-  void Load(const ProgramFolder& folder);  ///< Reads each file once; what was loaded before is kept.
+  void Load(const ProgramFolder& folder);  ///< Reads each file once, however often it is called.
 
-  void Play(
-      Sound sound);  ///< From its beginning. A file that is missing or damaged gives the desktop's beep.
+  /// Plays a sound from its beginning; the desktop's beep where its file is missing or damaged.
+  void Play(Sound sound);
 
  private:
   bool silent_ = false;  ///< There is no device.

@@ -1,7 +1,6 @@
 // A look at every screen of the program, opened one after the other as its user opens them.
 #pragma once
 
-#include <QPushButton>
 #include <functional>
 
 #include "support/scripted_random.h"
@@ -24,64 +23,68 @@ class Tour {
     app_.Start();
   }
 
-  /// False when a screen did not open.
-  bool Run() {
+  /// Throws when a screen does not open.
+  void Run() {
     Visit("Opening");
-    Play(Qt::Key_L, "LegSettings", Qt::Key_L, "Table", "Command1");
-    Play(Qt::Key_K, "KnockSettings", Qt::Key_K, "KnockCharts", "Command3");
-    Friendly(false);
-    Friendly(true);
+    Championship(Qt::Key_L, "LegSettings", Qt::Key_L, "Table", "Command1");
+    Championship(Qt::Key_K, "KnockSettings", Qt::Key_K, "KnockCharts", "Command3");
+    InstantFriendly();
+    FullFriendly();
     Visit("Opening");
-    Open(Qt::Key_E, Qt::Key_T, "TeamEditor", "Command4");
-    Open(Qt::Key_E, Qt::Key_S, "StadEditor", "Command3");
+    Visit(Qt::Key_E, Qt::Key_T, "TeamEditor", "Command4");
+    Visit(Qt::Key_E, Qt::Key_S, "StadEditor", "Command3");
     Open(Qt::Key_E, Qt::Key_C, "LegEditor");
-    user_.In("LegEditor", [](QWidget& window) { User::Pick(window, "Kind", 1); });
+    user_.Pick("Kind", 1);
     Visit("LegEditor", "Exit");
-    return user_.Finish();
+    user_.Finish();
   }
 
  private:
-  void Open(Qt::Key menu, Qt::Key item, const char* screen, const char* leave = nullptr) {
-    user_.In("Opening", [=](QWidget& window) { User::Choose(window, menu, item); });
-    Visit(screen, leave);
-  }
-
+  /// Looks at a screen that is open, and leaves it by a button.
   void Visit(const char* screen, const char* leave = nullptr) {
-    user_.In(screen, [=, this](QWidget& window) {
+    user_.In(screen).Do([this](QWidget& window) {
       user_.Wait(40);  // The squads come when the screen has been drawn.
       look_(window);
-      if (leave != nullptr) User::Click(window, leave);
     });
+    if (leave != nullptr) user_.Click(leave);
   }
 
-  void Play(Qt::Key item, const char* settings, Qt::Key statistics, const char* screen, const char* leave) {
-    Open(Qt::Key_P, item, settings, "Command2");
+  void Open(Qt::Key menu, Qt::Key item, const char* screen) {
+    user_.In("Opening").Choose(menu, item);
+    Visit(screen);
+  }
+
+  void Visit(Qt::Key menu, Qt::Key item, const char* screen, const char* leave) {
+    Open(menu, item, screen);
+    user_.Click(leave);
+  }
+
+  void Championship(Qt::Key item, const char* settings, Qt::Key statistics, const char* screen,
+                    const char* leave) {
+    Visit(Qt::Key_P, item, settings, "Command2");
     Visit("Opening");
-    Open(Qt::Key_S, Qt::Key_T, "TopScorers", "Command3");
-    Open(Qt::Key_S, Qt::Key_M, "LegResults", "Command1");
-    Open(Qt::Key_S, statistics, screen, leave);
+    Visit(Qt::Key_S, Qt::Key_T, "TopScorers", "Command3");
+    Visit(Qt::Key_S, Qt::Key_M, "LegResults", "Command1");
+    Visit(Qt::Key_S, statistics, screen, leave);
   }
 
-  void Friendly(bool full) {
-    Open(Qt::Key_P, Qt::Key_S, "Settings");
-    user_.In("Settings", [=](QWidget& window) {
-      if (full) User::Pick(window, "Combo4", 1);
-      for (const char* button : {"Check1", "Check2", "Command1"}) User::Click(window, button);
-    });
+  void InstantFriendly() {
+    Visit(Qt::Key_P, Qt::Key_S, "Settings", "Command1");
     Visit("Selection", "Command1");
-    Visit("Main");
-    if (!full) Visit("Main", "instant");
-    if (full) user_.In("Main", [this](QWidget& window) { PlayToShootOut(window); });
+    Visit("Main", "instant");
     Visit("Main", "Command1");
   }
 
-  void PlayToShootOut(QWidget& window) {
-    const auto* const period = window.findChild<QPushButton*>("halftime");
-    for (int beat = 0; period->isVisible() && beat < 500; ++beat) {
-      User::Click(window, "halftime");  // Dark while a half is played.
-      user_.Wait(20);
-    }
-    User::Click(window, "kick");
+  void FullFriendly() {
+    Open(Qt::Key_P, Qt::Key_S, "Settings");
+    user_.Pick("Combo4", 1);
+    for (const char* button : {"Check1", "Check2", "Command1"}) user_.Click(button);
+    Visit("Selection", "Command1");
+    Visit("Main");
+    constexpr int PeriodsWithShootOut = 5;
+    for (int period = 0; period < PeriodsWithShootOut; ++period) user_.Click("halftime");
+    user_.Click("kick");
+    Visit("Main", "Command1");
   }
 
   Look look_;

@@ -17,7 +17,8 @@ class Face final : public QAccessibleWidget {
   QString text(QAccessible::Text kind) const override {
     const QString caption = widget()->property(CaptionProperty).toString();
     const auto* const figure = qobject_cast<QLabel*>(widget());
-    if (kind == QAccessible::Description) return widget()->accessibleDescription();  // The tip says no more.
+    if (kind == QAccessible::Description)
+      return widget()->accessibleDescription();  // Not the tool tip, Qt's stand-in.
     if (kind != QAccessible::Name || figure == nullptr || caption.isEmpty())
       return QAccessibleWidget::text(kind);
     return caption + ": " + figure->text();
@@ -36,7 +37,7 @@ QAccessibleInterface* MakeFace(const QString& /*className*/, QObject* object) {
 void SetRole(QWidget* widget, QAccessible::Role role) {
   static const bool installed = (QAccessible::installFactory(MakeFace), true);
   widget->setProperty(RoleProperty, installed ? static_cast<int>(role) : 0);
-  // Whatever was told of the widget before, as it was made, was told by another face.
+  // Qt may have made another interface for the widget already, before its role was known.
   QAccessibleInterface* const former = QAccessible::queryAccessibleInterface(widget);
   QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(former));
 }
@@ -53,7 +54,7 @@ void DrawFocus(QWidget* widget) {
   if (!widget->hasFocus()) return;
   constexpr int Width = 2;
   QPainter painter(widget);
-  painter.setPen(QPen(Qt::white, 2 * Width));  // Seen on any picture: black within white.
+  painter.setPen(QPen(Qt::white, 2 * Width));  // Black on white is visible on any picture.
   painter.drawRect(widget->rect());
   painter.setPen(QPen(Qt::black, Width, Qt::DotLine));
   painter.drawRect(widget->rect().adjusted(1, 1, -1, -1));

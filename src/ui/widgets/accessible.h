@@ -1,5 +1,5 @@
-// What screen readers are told of widgets that Qt knows nothing about: those that paint themselves, and
-// figures that mean nothing without their caption.
+// What screen readers announce for widgets that Qt knows too little about: those that paint themselves, and
+// figures, which mean nothing without their caption.
 #pragma once
 
 #include <QAccessible>
@@ -8,13 +8,13 @@
 
 namespace kickwell {
 
-/// Makes `widget`, which paints itself, a `role` to screen readers.
+/// Tells screen readers that `widget`, which paints itself, is a `role`.
 void SetRole(QWidget* widget, QAccessible::Role role);
 
-/// Names `figure` to screen readers by `caption` and its text, whatever that becomes: "Shots: 3".
+/// Names `figure` to screen readers by `caption` and its current text, for example "Shots: 3".
 void SetFigureCaption(QLabel* figure, const QString& caption);
 
-/// Gives a focused `widget` that paints itself the frame which shows where the keyboard is.
+/// Draws the focus frame of `widget`, which paints itself, if it has the focus.
 void DrawFocus(QWidget* widget);
 
 }  // namespace kickwell

@@ -6,26 +6,22 @@
 #include <iterator>
 
 #include "ui/widgets/accessible.h"
-#include "ui/widgets/ball.h"
-#include "ui/widgets/widgets.h"
 
 namespace kickwell {
 namespace {
 
 // The scene, in parts of the picture's width and height, seen from behind the taker's right shoulder.
 constexpr qreal GoalLine = 0.52;
-constexpr QRectF Mouth(0.381, 0.12, 0.42,
-                       GoalLine - 0.12);  ///< Its left post stands between net and near miss.
+/// The left post stands between the net and the near miss.
+constexpr QRectF Mouth(0.381, 0.12, 0.42, GoalLine - 0.12);
 constexpr QRectF GoalArea(0.28, GoalLine, 0.62, 0.14);
 constexpr qreal SpotHeight = 0.93;
 constexpr qreal FlightHeight = 0.30;  ///< Of a ball that has arrived, in the net or beside it.
 
-// What of the ball's screen units the picture's width shows.
+// The part of the ball's screen units that the picture's width shows.
 constexpr qreal ViewLeft = 380, ViewWidth = 2140, BallSize = 240;
 
-constexpr int ColumnWidth = 360;  ///< From marker to marker of a row, in screen units.
-
-/// Where a ball at this place is drawn.
+/// Where the scene shows a ball at this place.
 QPointF OnScene(const QPointF& ball) {
   const qreal near = ball.y() / PenaltySpot.Top;
   return {(ball.x() + BallSize / 2 - ViewLeft) / ViewWidth,
@@ -85,41 +81,20 @@ void DrawGoal(QPainter& painter) {
 
 }  // namespace
 
-QColor LampColour(Lamp lamp) {
-  switch (lamp) {
-    case Lamp::Green:
-      return {0, 255, 0};
-    case Lamp::Red:
-      return {255, 0, 0};
-    default:
-      return {0, 0, 0};
-  }
-}
-
-GoalPicture::GoalPicture(int glide) : ball_(PenaltySpot.Left, PenaltySpot.Top), target_(PenaltySpot) {
+GoalPicture::GoalPicture(int glide)
+    : ball_(*this, {qreal(PenaltySpot.Left), qreal(PenaltySpot.Top)}, glide, QEasingCurve::OutQuad) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setFocusPolicy(Qt::TabFocus);
   SetRole(this, QAccessible::Graphic);
-  setAccessibleName(tr("Goal"));
-  flight_.setDuration(glide);
-  flight_.setEasingCurve(QEasingCurve::OutQuad);
-  connect(&flight_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-    ball_ = value.toPointF();
-    update();
-  });
+  setAccessibleName("Goal");
 }
 
 void GoalPicture::SetBall(SpotPoint point) {
-  if (point == target_) return;
-  target_ = point;
-  flight_.stop();
-  flight_.setStartValue(ball_);
-  flight_.setEndValue(QPointF(point.Left, point.Top));
-  if (isVisible() && point != PenaltySpot) {
-    flight_.start();
+  const QPointF place(point.Left, point.Top);
+  if (point == PenaltySpot) {
+    ball_.JumpTo(place);
   } else {
-    ball_ = QPointF(point.Left, point.Top);
-    update();
+    ball_.GlideTo(place);
   }
 }
 
@@ -132,33 +107,9 @@ void GoalPicture::paintEvent(QPaintEvent* /*event*/) {
   DrawStandAndGrass(painter);
   DrawGoal(painter);
   painter.resetTransform();
-  const qreal near = ball_.y() / PenaltySpot.Top;
-  DrawBall(painter, scene.map(OnScene(ball_)), std::max(4.0, height() * (0.032 + 0.035 * near)));
+  const qreal near = ball_.Place().y() / PenaltySpot.Top;
+  DrawBall(painter, scene.map(OnScene(ball_.Place())), std::max(4.0, height() * (0.032 + 0.035 * near)));
   DrawFocus(this);
-}
-
-KickMark::KickMark() {
-  SetRole(this, QAccessible::Graphic);
-  const int size = Twips(this, ColumnWidth);
-  setFixedSize(size, size);
-}
-
-void KickMark::SetMarker(const KickMarker& marker, const QString& kick) {
-  if (colour_ != marker.Colour) update();
-  colour_ = marker.Colour;
-  setVisible(marker.Visible);
-  setAccessibleName(kick + ": " +
-                    (colour_ == Lamp::Black   ? tr("To come")
-                     : colour_ == Lamp::Green ? tr("Goal")
-                                              : tr("Miss")));
-}
-
-void KickMark::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setBrush(LampColour(colour_));
-  painter.setPen(QPen(palette().color(QPalette::WindowText), 1.2));
-  painter.drawEllipse(QRectF(rect()).adjusted(5, 5, -5, -5));
 }
 
 }  // namespace kickwell

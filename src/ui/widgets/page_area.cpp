@@ -30,7 +30,7 @@ PageArea::PageArea(QWidget* page) {
 QSize PageArea::OnScreen(const QSize& wanted) const {
   const QSize room = RoomOnScreen(this);
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  // The bar that one direction needs takes its room from the other one.
+  // A scroll bar for one direction takes its room from the other.
   const QSize bars(wanted.height() > room.height() ? bar : 0, wanted.width() > room.width() ? bar : 0);
   return (wanted + bars).boundedTo(room);
 }

@@ -1,12 +1,12 @@
-// The room of a window's content.
+// A window's content, on screens of any size.
 #pragma once
 
 #include <QScrollArea>
 
 namespace kickwell {
 
-/// Shows `page` whole as long as the screen has room for it, and scrolls it where it has not: on a small
-/// screen or with large type. It opens at its top; whatever the focus moves on to is scrolled into view.
+/// Shows all of `page` if the screen has room for it. Where it has not, on a small screen or with large type,
+/// the page scrolls: it opens at its top and follows the focus.
 class PageArea final : public QScrollArea {
  public:
   explicit PageArea(QWidget* page);
@@ -21,7 +21,7 @@ class PageArea final : public QScrollArea {
   QSize OnScreen(const QSize& wanted) const;
 };
 
-/// The room that a window has on the screen of `widget`, inside its frame.
+/// How large a window can be on the screen of `widget`, without its frame.
 QSize RoomOnScreen(const QWidget* widget);
 
 }  // namespace kickwell

@@ -6,17 +6,16 @@
 
 #include "engine/match_session.h"
 #include "ui/widgets/accessible.h"
-#include "ui/widgets/ball.h"
 
 namespace kickwell {
 namespace {
 
-/// The field between the goal lines in screen units, around the centre spot. The goal spots lie behind the
+/// The field between the goal lines in screen units, around the centre spot. The goal spots are behind the
 /// lines.
 constexpr QRectF Field(40, 10, 4960, 760);
 constexpr QMarginsF Run(170, 36, 170, 36);  ///< Grass around the field, with room for the goals.
 
-/// Lengths of the laws of the game in metres, on a field of 105 by 68.
+/// A metre in screen units, along the field and across it: the field is 105 by 68 metres.
 constexpr qreal Long = Field.width() / 105;
 constexpr qreal Wide = Field.height() / 68;
 
@@ -75,31 +74,16 @@ void DrawLines(QPainter& painter) {
 
 }  // namespace
 
-PitchPicture::PitchPicture(int glide) : ball_(CentreSpotX, CentreSpotY), target_(ball_) {
+PitchPicture::PitchPicture(int glide)
+    : ball_(*this, {CentreSpotX, CentreSpotY}, glide, QEasingCurve::InOutQuad) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setFocusPolicy(Qt::TabFocus);
   SetRole(this, QAccessible::Graphic);
-  setAccessibleName(tr("Pitch"));
-  glide_.setDuration(glide);
-  glide_.setEasingCurve(QEasingCurve::InOutQuad);
-  connect(&glide_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-    ball_ = value.toPointF();
-    update();
-  });
+  setAccessibleName("Pitch");
 }
 
 void PitchPicture::SetBall(int x, int y) {
-  const QPointF target(x, y);
-  if (target == target_) return;
-  target_ = target;
-  glide_.stop();
-  if (isVisible()) {
-    glide_.setStartValue(ball_);
-    glide_.setEndValue(target);
-    glide_.start();
-  } else {
-    ball_ = target;
-  }
+  ball_.GlideTo({qreal(x), qreal(y)});
 }
 
 void PitchPicture::paintEvent(QPaintEvent* /*event*/) {
@@ -113,7 +97,7 @@ void PitchPicture::paintEvent(QPaintEvent* /*event*/) {
   DrawGrass(painter, whole);
   DrawLines(painter);
   painter.resetTransform();
-  DrawBall(painter, units.map(ball_), std::clamp(height() / 34.0, 4.0, 10.0));
+  DrawBall(painter, units.map(ball_.Place()), std::clamp(height() / 34.0, 4.0, 10.0));
   DrawFocus(this);
 }
 

@@ -1,15 +1,15 @@
 // The pitch with its ball.
 #pragma once
 
-#include <QPointF>
-#include <QVariantAnimation>
 #include <QWidget>
+
+#include "ui/widgets/ball.h"
 
 namespace kickwell {
 
-/// Draws a pitch seen from the stand and the ball on it. The ball's place is given in the match's screen
-/// units (0..5090 by 0..740, centre spot 2520, 390), which are scaled to the widget.
-class PitchPicture : public QWidget {
+/// The pitch as seen from the stand, with the ball on it. The ball's place is given in the match's screen
+/// units (0..5090 by 0..740, centre spot 2520, 390), which the picture scales to its size.
+class PitchPicture final : public QWidget {
  public:
   explicit PitchPicture(int glide);  ///< How long the ball glides, in milliseconds.
 
@@ -22,8 +22,7 @@ class PitchPicture : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QPointF ball_, target_;
-  QVariantAnimation glide_;
+  Ball ball_;
 };
 
 }  // namespace kickwell

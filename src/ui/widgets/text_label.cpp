@@ -11,11 +11,11 @@
 namespace kickwell {
 namespace {
 
-constexpr int UsualLength = 40;    ///< Characters that a label asks room for at most.
-constexpr int SmallestLength = 8;  ///< Characters that it insists on at most.
+constexpr int UsualLength = 40;    ///< A label asks for room for so many characters at most,
+constexpr int SmallestLength = 8;  ///< and insists on room for so many.
 constexpr int LongestTip = 600;
 
-/// With places where a run without blanks may be broken, or the tip would be as long as the run.
+/// Allows line breaks in long runs without blanks. Without them the tip would be as wide as the run.
 QString Broken(QString text) {
   static const QRegularExpression longRun(QStringLiteral("(\\S{40})(?=\\S)"));
   return text.replace(longRun, QStringLiteral("\\1\u200B"));

@@ -5,11 +5,11 @@
 
 namespace kickwell {
 
-/// A tool tip that shows `text` as it stands: Qt would guess at markup. No tip for an empty text.
+/// A tool tip that shows `text` as it stands, where Qt would guess at markup. Empty for an empty text.
 QString PlainTip(const QString& text);
 
-/// Shows its text as it stands, never as markup. A text too long for its place ends in an ellipsis and is
-/// told whole in a tool tip; however long it is, it does not stretch the window.
+/// Shows its text as it stands, never as markup. A text that is too long ends in an ellipsis and does not
+/// stretch the window; its tool tip shows more of it.
 class TextLabel final : public QLabel {
  public:
   explicit TextLabel(const QString& text);

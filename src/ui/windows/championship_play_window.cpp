@@ -4,14 +4,15 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "ui/widgets/widgets.h"
+#include "ui/widgets/appearance.h"
+#include "ui/widgets/choosers.h"
+#include "ui/widgets/labels.h"
 
 namespace kickwell {
 
 ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, ChampionshipKind kind, QWidget* parent)
     : ScreenWindow(kind == ChampionshipKind::League ? "LegSettings" : "KnockSettings",
-                   kind == ChampionshipKind::League ? tr("Kickwell League") : tr("Kickwell Knock Out"),
-                   parent),
+                   kind == ChampionshipKind::League ? "Kickwell League" : "Kickwell Knock Out", parent),
       play_(play),
       championships_(MakeCombo("Championships")),
       from_(MakeCombo("From")),
@@ -22,14 +23,14 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   for (QComboBox* const number : {from_, to_}) number->setMinimumContentsLength(6);
   auto* const range = new QHBoxLayout;
   range->addWidget(from_);
-  QLabel* const to = MakeCaption(tr("To"), to_);
+  QLabel* const to = MakeCaption("To", to_);
   range->addWidget(to);
   range->addWidget(to_);
   range->addStretch();
 
-  QPushButton* const command1 = Button("Command1", tr("&Continue >>"), [this] { play_.Command1_Click(); });
+  QPushButton* const command1 = Button("Command1", "&Continue >>", [this] { play_.Command1_Click(); });
   command1->setDefault(true);
-  QPushButton* const command2 = Button("Command2", tr("Close"), [this] { play_.Command2_Click(); });
+  QPushButton* const command2 = Button("Command2", "Close", [this] { play_.Command2_Click(); });
   auto* const buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(command1);
@@ -43,16 +44,15 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
     content();
     layout->addSpacing(12);
   };
-  add(MakeCaption(league ? tr("Load League:") : tr("Load Knock Out:"), championships_),
+  add(MakeCaption(league ? "Load League:" : "Load Knock Out:", championships_),
       [&] { layout->addWidget(championships_); });
-  add(MakeCaption(league ? tr("League Fixtures:") : tr("Knock Out Fixtures:"), fixtures_),
+  add(MakeCaption(league ? "League Fixtures:" : "Knock Out Fixtures:", fixtures_),
       [&] { layout->addWidget(fixtures_, 1); });
-  add(MakeCaption(tr("Play Matches:"), from_), [&] { layout->addLayout(range); });
-  Name(from_, tr("Play Matches from"));
-  Name(to_, tr("Play Matches to"));
-  to->setAccessibleName(tr("Play Matches to"));
-  add(MakeCaption(tr("Match Simulation Type:"), simulationType_),
-      [&] { layout->addWidget(simulationType_); });
+  add(MakeCaption("Play Matches:", from_), [&] { layout->addLayout(range); });
+  Name(from_, "Play Matches from");
+  Name(to_, "Play Matches to");
+  to->setAccessibleName("Play Matches to");
+  add(MakeCaption("Match Simulation Type:", simulationType_), [&] { layout->addWidget(simulationType_); });
   layout->addLayout(buttons);
 
   OnPick(championships_, [this](int entry) { play_.Championships_Click(entry); });
@@ -70,9 +70,9 @@ void ChampionshipPlayWindow::Refresh() {
   for (int i = 0; i < fixtures_->count(); ++i) {
     const bool played = play_.IsPlayed(i);
     fixtures_->item(i)->setForeground(played ? FaintText(palette()) : palette().color(QPalette::Text));
-    fixtures_->item(i)->setToolTip(played ? tr("Played") : QString());
+    fixtures_->item(i)->setToolTip(played ? "Played" : QString());
     fixtures_->item(i)->setData(Qt::AccessibleTextRole,
-                                fixtures_->item(i)->text() + (played ? ", " + tr("Played") : QString()));
+                                fixtures_->item(i)->text() + (played ? ", Played" : QString()));
   }
   ShowChooser(from_, play_.From);
   ShowChooser(to_, play_.To);

@@ -8,7 +8,7 @@
 
 namespace kickwell {
 
-/// The league's or the knock-out's play settings, which differ in their captions alone.
+/// The play settings of a league or a knock-out, which differ only in their captions.
 class ChampionshipPlayWindow final : public ScreenWindow {
  public:
   ChampionshipPlayWindow(ChampionshipPlay& play, ChampionshipKind kind, QWidget* parent);

@@ -6,16 +6,19 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/at.h"
+#include "ui/text.h"
 #include "ui/widgets/accessible.h"
-#include "ui/widgets/widgets.h"
+#include "ui/widgets/appearance.h"
+#include "ui/widgets/labels.h"
 
 namespace kickwell {
 namespace {
 
-constexpr qreal ChartWidth = 8775, ChartTop = 360,
-                ChartHeight = 5175;  ///< What of the screen units is shown.
-constexpr qreal SmallestType = 6;    ///< In points.
-constexpr int SmallestName = 14;     ///< Characters that a box has room for.
+/// The part of the screen units that the chart shows.
+constexpr qreal ChartWidth = 8775, ChartTop = 360, ChartHeight = 5175;
+constexpr qreal SmallestType = 6;  ///< In points.
+constexpr int SmallestName = 14;   ///< Characters that a box has room for, at least.
 
 }  // namespace
 
@@ -23,37 +26,35 @@ BracketView::BracketView(const KnockCharts& charts) : charts_(charts) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setFocusPolicy(Qt::TabFocus);
   SetRole(this, QAccessible::Chart);
-  setAccessibleName(tr("Knock Out Table"));
+  setAccessibleName("Knock Out Table");
   for (int slot = 0; slot < SlotTotal; ++slot) {
     QLabel* const label = MakeText(ArrayName("team", slot), Shown(charts.Text(slot)), Qt::AlignHCenter);
     label->setParent(this);
     label->setVisible(slot < charts.VisibleSlots);
     QFont font = label->font();
     const bool known = PlaceholderNumber(charts.Text(slot)) == 0;
-    const bool beyondFirstRound = ChartSlots()[static_cast<std::size_t>(slot)].Left > ChartSlots()[0].Left;
-    font.setBold(known && beyondFirstRound);  // A winner stands out from those to come.
+    const bool beyondFirstRound = At(ChartSlots(), slot).Left > ChartSlots().front().Left;
+    font.setBold(known && beyondFirstRound);  // Known winners stand out.
     font.setItalic(!known);
     label->setFont(font);
-    team_[static_cast<std::size_t>(slot)] = label;
+    At(team_, slot) = label;
   }
   NameSlots();
 }
 
 void BracketView::NameSlots() {
   const auto name = [this](int slot, const QString& caption) {
-    SetFigureCaption(team_[static_cast<std::size_t>(slot)], caption);
+    SetFigureCaption(At(team_, slot), caption);
     return Shown(charts_.Text(slot));
   };
   QStringList matches;
   int number = 0;
   for (const auto& [home, away, winner] : charts_.Matches) {
-    const QString match = tr("Match %1").arg(++number);
-    matches.append(match + ": " + name(home, match + tr(", home")) + tr(" against ") +
-                   name(away, match + tr(", away")));
-    name(winner, tr("Winner"));  // Until a later match takes him.
+    const QString match = QStringLiteral("Match %1").arg(++number);
+    matches.append(match + ": " + name(home, match + ", home") + " against " + name(away, match + ", away"));
+    name(winner, "Winner");  // Unless the slot takes part in a later match, which names it again.
   }
-  if (!charts_.Matches.empty())
-    matches.append(tr("Winner: ") + Shown(charts_.Text(charts_.Matches.back().Winner)));
+  if (!charts_.Matches.empty()) matches.append("Winner: " + Shown(charts_.Text(charts_.Matches.back().Winner)));
   setAccessibleDescription(matches.join("; "));
 }
 
@@ -64,7 +65,7 @@ QSize BracketView::minimumSizeHint() const {
 }
 
 QRectF BracketView::BoxOf(int slot) const {
-  const ChartSlot& place = ChartSlots()[static_cast<std::size_t>(slot)];
+  const ChartSlot& place = At(ChartSlots(), slot);
   const qreal x = width() / ChartWidth;
   const qreal y = height() / ChartHeight;
   return {place.Left * x, (place.Top - ChartTop) * y, SlotWidth * x, SlotHeight * y};
@@ -72,9 +73,9 @@ QRectF BracketView::BoxOf(int slot) const {
 
 void BracketView::resizeEvent(QResizeEvent* /*event*/) {
   for (int slot = 0; slot < SlotTotal; ++slot) {
-    QLabel* const label = team_[static_cast<std::size_t>(slot)];
+    QLabel* const label = At(team_, slot);
     label->setGeometry(BoxOf(slot).toRect().adjusted(3, 1, -3, -1));
-    // A long name is made to fit: its end, the toss, must be seen.
+    // Smaller type makes a long name fit: its end may tell of a toss.
     QFont fitting = label->font();
     fitting.setPointSizeF(QFontInfo(font()).pointSizeF());
     while (fitting.pointSizeF() > SmallestType &&
@@ -105,12 +106,11 @@ void BracketView::paintEvent(QPaintEvent* /*event*/) {
 }
 
 KnockChartsWindow::KnockChartsWindow(KnockCharts& charts, QWidget* parent)
-    : ScreenWindow("KnockCharts", tr("Kickwell Knock Out Table"), parent), charts_(charts) {
+    : ScreenWindow("KnockCharts", "Kickwell Knock Out Table", parent), charts_(charts) {
   QLabel* const label1 = MakeHeading("Label1");
   label1->setText(Shown(charts.Label1));
-  QPushButton* const command3 = MakeButton("Command3", tr("Close"));
+  QPushButton* const command3 = Button("Command3", "Close", [this] { charts_.Command3_Click(); });
   command3->setDefault(true);
-  connect(command3, &QPushButton::clicked, this, [this] { Act([this] { charts_.Command3_Click(); }); });
   auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);

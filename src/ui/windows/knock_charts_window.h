@@ -8,8 +8,8 @@
 
 namespace kickwell {
 
-/// The bracket: a box for each slot and lines from each pair to its winner's slot. Screen readers are told
-/// the matches in their order.
+/// The bracket: a box for each slot, and lines from each pair to its winner's slot. Screen readers announce
+/// the matches in order.
 class BracketView final : public QWidget {
  public:
   explicit BracketView(const KnockCharts& charts);
@@ -33,7 +33,7 @@ class KnockChartsWindow final : public ScreenWindow {
   KnockChartsWindow(KnockCharts& charts, QWidget* parent);
 
  protected:
-  void Refresh() override {}  // Nothing changes while it is open.
+  void Refresh() override {}  // Nothing changes while the window is open.
   bool IsClosed() const override { return charts_.Closed; }
   void Leave() override { charts_.Command3_Click(); }
 

@@ -7,8 +7,9 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "ui/widgets/widgets.h"
-#include "ui/windows/editor_parts.h"
+#include "ui/widgets/choosers.h"
+#include "ui/widgets/labels.h"
+#include "ui/widgets/text_box.h"
 
 namespace kickwell {
 namespace {
@@ -29,11 +30,11 @@ QFrame* Line() {
 }  // namespace
 
 LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
-    : ScreenWindow("LegEditor", tr("Kickwell Championship Editor"), parent),
+    : ScreenWindow("LegEditor", "Kickwell Championship Editor", parent),
       editor_(editor),
       kind_(MakeCombo("Kind")) {
   auto* const kind = new QHBoxLayout;
-  kind->addWidget(MakeCaption(tr("Type of Competition / Championship:"), kind_));
+  kind->addWidget(MakeCaption("Type of Competition / Championship:", kind_));
   kind->addWidget(kind_);
   kind->addStretch();
   OnPick(kind_, [this](int entry) { editor_.Kind_Click(entry); });
@@ -44,9 +45,8 @@ LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
   layout->addLayout(kind);
   layout->addWidget(BuildSide(league_, editor.League), 1);
   layout->addWidget(BuildSide(knockOut_, editor.KnockOut), 1);
-  layout->addWidget(
-      Button("Exit", tr("E&xit Kickwell Championship Editor"), [this] { editor_.Exit_Click(); }), 0,
-      Qt::AlignRight);
+  layout->addWidget(Button("Exit", "E&xit Kickwell Championship Editor", [this] { editor_.Exit_Click(); }), 0,
+                    Qt::AlignRight);
   Refresh();
   OpenAt(900, 640);
 }
@@ -63,13 +63,12 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   widgets.Name = MakeTextBox(prefix + "Name", LongestName, side.Name);
   widgets.Name->setMinimumWidth(widgets.Name->fontMetrics().horizontalAdvance(QString(LongestName, 'M')));
 
-  QLabel* const heading =
-      Enlarged(MakeCaption(IsLeague(side) ? tr("League Details") : tr("Tournie Details")), 1.3);
+  QLabel* const heading = Enlarged(MakeCaption(IsLeague(side) ? "League Details" : "Tournie Details"), 1.3);
   auto* const name = new QHBoxLayout;
-  name->addWidget(MakeCaption(tr("Championship")));
+  name->addWidget(MakeCaption("Championship"));
   name->addSpacing(12);
-  name->addWidget(MakeCaption(IsLeague(side) ? tr("League:") : tr("Knock Out:"), widgets.Name));
-  widgets.Name->setAccessibleName(IsLeague(side) ? tr("Championship League") : tr("Championship Knock Out"));
+  name->addWidget(MakeCaption(IsLeague(side) ? "League:" : "Knock Out:", widgets.Name));
+  widgets.Name->setAccessibleName(IsLeague(side) ? "Championship League" : "Championship Knock Out");
   name->addWidget(widgets.Name);
   name->addStretch();
 
@@ -91,19 +90,19 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
 QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
   widgets.Available = MakeList(prefix + "Available");
   widgets.Selected = MakeList(prefix + "Selected");
-  widgets.Selected->setAccessibleName(tr("Selected teams"));
+  widgets.Selected->setAccessibleName("Selected teams");
   OnSelect(widgets.Available, side.Available);
   OnSelect(widgets.Selected, side.Selected);
   auto* const moves = new QVBoxLayout;
   moves->addStretch();
-  moves->addWidget(ArrowButton(prefix + "AddTeam", QStyle::SP_ArrowRight, tr("Add the team"),
+  moves->addWidget(ArrowButton(prefix + "AddTeam", QStyle::SP_ArrowRight, "Add the team",
                                [&side] { LegEditor::AddTeam_Click(side); }));
-  moves->addWidget(ArrowButton(prefix + "RemoveTeam", QStyle::SP_ArrowLeft, tr("Remove the team"),
+  moves->addWidget(ArrowButton(prefix + "RemoveTeam", QStyle::SP_ArrowLeft, "Remove the team",
                                [&side] { LegEditor::RemoveTeam_Click(side); }));
   moves->addStretch();
 
   auto* const grid = new QGridLayout;
-  grid->addWidget(MakeCaption(tr("Select Teams:"), widgets.Available), 0, 0);
+  grid->addWidget(MakeCaption("Select Teams:", widgets.Available), 0, 0);
   grid->addWidget(widgets.Available, 1, 0);
   grid->addLayout(moves, 1, 1);
   grid->addWidget(widgets.Selected, 1, 2);
@@ -116,22 +115,22 @@ QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, con
   int row = 0;
   if (!IsLeague(side)) {
     widgets.NumberOfTeams = MakeText("NumberOfTeams", "2");
-    counts->addWidget(MakeFigureCaption(tr("Total number of teams:"), widgets.NumberOfTeams), row, 0);
+    counts->addWidget(MakeFigureCaption("Total number of teams:", widgets.NumberOfTeams), row, 0);
     counts->addWidget(widgets.NumberOfTeams, row, 1);
     counts->addWidget(
-        ArrowButton("MoreTeams", QStyle::SP_ArrowUp, tr("More teams"), [this] { editor_.MoreTeams_Click(); }),
+        ArrowButton("MoreTeams", QStyle::SP_ArrowUp, "More teams", [this] { editor_.MoreTeams_Click(); }),
         row, 2);
-    counts->addWidget(ArrowButton("FewerTeams", QStyle::SP_ArrowDown, tr("Fewer teams"),
+    counts->addWidget(ArrowButton("FewerTeams", QStyle::SP_ArrowDown, "Fewer teams",
                                   [this] { editor_.FewerTeams_Click(); }),
                       row++, 3);
   }
-  counts->addWidget(MakeFigureCaption(IsLeague(side) ? tr("Total teams in the League:")
-                                                     : tr("Total teams currently selected:"),
-                                      widgets.TeamCount),
-                    row, 0);
+  counts->addWidget(
+      MakeFigureCaption(IsLeague(side) ? "Total teams in the League:" : "Total teams currently selected:",
+                        widgets.TeamCount),
+      row, 0);
   counts->addWidget(widgets.TeamCount, row++, 1);
   counts->addWidget(
-      MakeFigureCaption(IsLeague(side) ? tr("Total matches in the League:") : tr("Total number of matches:"),
+      MakeFigureCaption(IsLeague(side) ? "Total matches in the League:" : "Total number of matches:",
                         widgets.MatchCount),
       row, 0);
   counts->addWidget(widgets.MatchCount, row, 1);
@@ -143,28 +142,27 @@ QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, con
 QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
   widgets.Fixtures = MakeList(prefix + "Fixtures");
   auto* const layout = new QVBoxLayout;
-  layout->addWidget(MakeCaption(tr("Fixtures"), widgets.Fixtures));
+  layout->addWidget(MakeCaption("Fixtures", widgets.Fixtures));
   layout->addWidget(widgets.Fixtures, 1);
   auto* const buttons = new QHBoxLayout;
   if (IsLeague(side)) {
     widgets.Home = MakeCombo("Home");
     widgets.Away = MakeCombo("Away");
     auto* const teams = new QGridLayout;
-    teams->addWidget(MakeCaption(tr("Home Team:"), widgets.Home), 0, 0);
+    teams->addWidget(MakeCaption("Home Team:", widgets.Home), 0, 0);
     teams->addWidget(widgets.Home, 0, 1);
-    teams->addWidget(MakeCaption(tr("Away Team:"), widgets.Away), 1, 0);
+    teams->addWidget(MakeCaption("Away Team:", widgets.Away), 1, 0);
     teams->addWidget(widgets.Away, 1, 1);
     teams->setColumnStretch(1, 1);
     layout->addLayout(teams);
     OnPick(widgets.Home, [&side](int entry) { side.Home.Picked = entry; });
     OnPick(widgets.Away, [&side](int entry) { side.Away.Picked = entry; });
-    QPushButton* const add =
-        Button("AddFixture", tr("&Add &Fixture"), [this] { editor_.AddFixture_Click(); });
-    add->setShortcut(QKeySequence(tr("Alt+F")));  // Alt+A is the other button's.
+    QPushButton* const add = Button("AddFixture", "&Add &Fixture", [this] { editor_.AddFixture_Click(); });
+    add->setShortcut(QKeySequence("Alt+F"));  // Alt+A is the other button's.
     buttons->addWidget(add);
   }
-  buttons->addWidget(Button(prefix + "AutoFixtures", tr("&Auto Fixtures"),
-                            [this, &side] { editor_.AutoFixtures_Click(side); }));
+  buttons->addWidget(
+      Button(prefix + "AutoFixtures", "&Auto Fixtures", [this, &side] { editor_.AutoFixtures_Click(side); }));
   buttons->addStretch();
   layout->addLayout(buttons);
   return layout;
@@ -174,13 +172,13 @@ QLayout* LegEditorWindow::BuildFiles(SideWidgets& widgets, EditorSide& side, con
   widgets.Load = MakeCombo(prefix + "Load");
   OnPick(widgets.Load, [this, &side](int entry) { editor_.Load_Click(side, entry); });
   auto* const layout = new QHBoxLayout;
-  layout->addWidget(MakeCaption(tr("Open / Load"), widgets.Load));
+  layout->addWidget(MakeCaption("Open / Load", widgets.Load));
   layout->addWidget(widgets.Load);
   layout->addStretch();
-  layout->addWidget(MakeCaption(tr("Save / Delete"), nullptr));
-  layout->addWidget(Button(prefix + "Save", IsLeague(side) ? tr("&Save League") : tr("&Save Knock Out"),
+  layout->addWidget(MakeCaption("Save / Delete", nullptr));
+  layout->addWidget(Button(prefix + "Save", IsLeague(side) ? "&Save League" : "&Save Knock Out",
                            [this, &side] { editor_.Save_Click(side); }));
-  layout->addWidget(Button(prefix + "Delete", IsLeague(side) ? tr("Delete &League") : tr("Delete &Knock Out"),
+  layout->addWidget(Button(prefix + "Delete", IsLeague(side) ? "Delete &League" : "Delete &Knock Out",
                            [this, &side] { editor_.Delete_Click(side); }));
   return layout;
 }

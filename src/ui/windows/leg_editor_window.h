@@ -21,7 +21,7 @@ class LegEditorWindow final : public ScreenWindow {
   void Leave() override { editor_.Exit_Click(); }
 
  private:
-  /// The widgets of one side, named with its prefix: "League" or "KnockOut".
+  /// The widgets of one side. Their names begin with "League" or "KnockOut".
   struct SideWidgets {
     QWidget* Page;
     QLineEdit* Name;

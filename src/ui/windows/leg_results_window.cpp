@@ -3,32 +3,34 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "ui/widgets/widgets.h"
+#include "ui/text.h"
+#include "ui/widgets/choosers.h"
+#include "ui/widgets/labels.h"
 
 namespace kickwell {
 
 LegResultsWindow::LegResultsWindow(LegResults& results, QWidget* parent)
-    : ScreenWindow("LegResults", tr("Kickwell League/Tournament Results"), parent),
+    : ScreenWindow("LegResults", "Kickwell League/Tournament Results", parent),
       results_(results),
       label1_(MakeHeading("Label1")),
       list1_(MakeList("List1")),
-      command2_(MakeButton("Command2", tr("&Save"))) {
-  list1_->setAccessibleName(tr("Results"));
-  command2_->setAutoDefault(false);
-  QPushButton* const command1 = MakeButton("Command1", tr("Close"));
+      command2_(Button("Command2", "&Save", [this] { results_.Command2_Click(); })) {
+  list1_->setAccessibleName("Results");  // No caption says it.
+  QPushButton* const command1 = Button("Command1", "Close", [this] { results_.Command1_Click(); });
   command1->setDefault(true);
+
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(command2_);
   buttons->addStretch();
   buttons->addWidget(command1);
+
   auto* const layout = new QVBoxLayout(Page());
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addWidget(label1_);
   layout->addWidget(list1_, 1);
   layout->addLayout(buttons);
-  connect(command2_, &QPushButton::clicked, this, [this] { Act([this] { results_.Command2_Click(); }); });
-  connect(command1, &QPushButton::clicked, this, [this] { Act([this] { results_.Command1_Click(); }); });
+
   Refresh();
   OpenAt(560, 560);
 }

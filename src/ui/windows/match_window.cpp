@@ -9,20 +9,23 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/at.h"
+#include "ui/text.h"
 #include "ui/widgets/accessible.h"
-#include "ui/widgets/widgets.h"
+#include "ui/widgets/appearance.h"
+#include "ui/widgets/labels.h"
 
 namespace kickwell {
 namespace {
 
 constexpr int PenaltyRoom = 360;  ///< How far the goals move left for the shoot-out counts, in twips.
 
-/// The ball has arrived well before the next tick.
+/// How long the ball glides: it arrives well before the next tick.
 int Glide(const MatchTimings& timings) {
   return timings.Tick * 6 / 10;
 }
 
-/// The board behind the score, dark in every theme, with white writing.
+/// The board behind the score: dark in every theme, with white text.
 class ScoreBoard final : public QWidget {
  public:
   ScoreBoard() {
@@ -55,21 +58,23 @@ void SetColours(QWidget* widget, const QColor& background, const QColor& text) {
 }  // namespace
 
 MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
-    : ScreenWindow("Main", tr("Kickwell Match"), parent),
+    : ScreenWindow("Main", "Kickwell Match", parent),
       match_(match),
       timings_(timings),
-      label1_(MakeText("Label1", tr("Attendence"), Qt::AlignRight)),
-      ven_(MakeText("ven", tr("Match Venue"))),
+      label1_(MakeText("Label1", "Attendence", Qt::AlignRight)),
+      ven_(MakeText("ven", "Match Venue")),
       label2_(MakeCaption({})),
       label3_(MakeText("Label3", {}, Qt::AlignHCenter)),
       picture2_(new PitchPicture(Glide(timings))),
       picture1_(new GoalPicture(Glide(timings))),
-      halftime_(MakeButton("halftime", {})),
-      instant_(MakeButton("instant", tr("&View Instant Match Results"))),
-      kick_(MakeButton("kick", tr("&Kick Ball"))),
-      nextshot_(MakeButton("nextshot", tr("&Next Player"))),
-      comSave_(MakeButton("ComSave", {})),
-      command1_(MakeButton("Command1", tr("E&xit"))) {
+      summary_(new LineList(ArrayName("List1", 0))),
+      commentary_(new LineList(ArrayName("List1", 1))),
+      halftime_(Button("halftime", {}, [this] { match_.halftime_Click(); })),
+      instant_(Button("instant", "&View Instant Match Results", [this] { match_.instant_Click(); })),
+      kick_(Button("kick", "&Kick Ball", [this] { match_.kick_Click(); })),
+      nextshot_(Button("nextshot", "&Next Player", [this] { match_.nextshot_Click(); })),
+      comSave_(Button("ComSave", {}, [this] { match_.ComSave_Click(); })),
+      command1_(Button("Command1", "E&xit", [this] { match_.Command1_Click(); })) {
   picture2_->setObjectName("Picture2");
   auto* const place = new QHBoxLayout;
   place->addWidget(ven_, 1);
@@ -92,10 +97,10 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
   layout->addLayout(BuildLists(), 2);
   layout->addLayout(BuildButtons());
 
-  ConnectActions();
   timer1_.setObjectName("Timer1");
   timer1_.setTimerType(Qt::PreciseTimer);
   timer1_.setInterval(timings_.Tick);
+  connect(&timer1_, &QTimer::timeout, this, [this] { Act([this] { match_.Timer1_Timer(*this); }); });
   Refresh();
   (instant_->isHidden() ? halftime_ : instant_)->setFocus();
   OpenAt(920, 680);
@@ -106,15 +111,15 @@ QWidget* MatchWindow::BuildScoreBoard() {
   SetRole(board, QAccessible::StatusBar);
   BuildScore(side1_, 1);
   BuildScore(side2_, 2);
-  QLabel* const label11 = MakeCaption(tr("Match Timer"));
+  QLabel* const label11 = MakeCaption("Match Timer");
   label11->setObjectName("Label11");
   label11->setAlignment(Qt::AlignCenter);
   label2_->setObjectName("Label2");
   label2_->setAutoFillBackground(true);
-  SetFigureCaption(label3_, tr("Match Timer"));
+  SetFigureCaption(label3_, "Match Timer");
   Enlarged(label3_, 1.9);
   label3_->setMinimumWidth(label3_->fontMetrics().horizontalAdvance("000:00") + 24);
-  auto* const lamp = new QHBoxLayout(label2_);  // The clock's text stands on the lamp.
+  auto* const lamp = new QHBoxLayout(label2_);  // The clock's text is on the lamp.
   lamp->setContentsMargins(6, 2, 6, 2);
   lamp->addWidget(label3_);
   label2_->setMinimumSize(label3_->minimumWidth() + 12, label3_->fontMetrics().height() + 6);
@@ -141,7 +146,8 @@ void MatchWindow::BuildScore(SideWidgets& side, int number) {
   side.Penalties = Enlarged(MakeText("Pen" + n, "(0)"), 1.5);
   side.Goals->setMinimumWidth(side.Goals->fontMetrics().horizontalAdvance("00"));
   side.Score = new QWidget;
-  // The goals start one penalty room right of where they stand in a shoot-out, and nothing else ever moves.
+  // The goals make room for the penalties by moving left. Nothing else moves, so the room is there from the
+  // start.
   const int penaltyWidth = side.Penalties->fontMetrics().horizontalAdvance("(00)");
   side.Score->setFixedWidth(side.Goals->minimumWidth() +
                             std::max(penaltyWidth + 4, Twips(this, PenaltyRoom)));
@@ -166,11 +172,11 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
     grid->addWidget(figure, row++, 1, Qt::AlignVCenter);
     return figure;
   };
-  side.Shots = fact(tr("Shots"), "Shots" + n, "0");
-  side.Corners = fact(tr("Corners"), "Corner" + n, "0");
-  side.Bookings = fact(tr("Bookings"), "Book" + n, "0");
-  side.Fouls = fact(tr("Fouls"), "Foul" + n, "0");
-  side.Possession = fact(tr("Possesion"), ArrayName("PosMet", number - 1), "0%");
+  side.Shots = fact("Shots", "Shots" + n, "0");
+  side.Corners = fact("Corners", "Corner" + n, "0");
+  side.Bookings = fact("Bookings", "Book" + n, "0");
+  side.Fouls = fact("Fouls", "Foul" + n, "0");
+  side.Possession = fact("Possesion", ArrayName("PosMet", number - 1), "0%");
   side.Possession->setAlignment(Qt::AlignCenter);
   side.Possession->setAutoFillBackground(true);
   const QFontMetrics metrics = side.Possession->fontMetrics();
@@ -181,11 +187,11 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
 QWidget* MatchWindow::BuildShootOut() {
   shootOut_ = new QWidget;
   picture1_->setObjectName("Picture1");
-  QLabel* const label8 = MakeCaption(tr("PENALTY SHOOT OUT:"));
+  QLabel* const label8 = MakeCaption("PENALTY SHOOT OUT:");
   label8->setObjectName("Label8");
   Enlarged(label8, 1.1);
-  side1_.Takers = MakeText("Label4", tr("Team 1"), Qt::AlignRight);
-  side2_.Takers = MakeText("Label7", tr("Team 2"), Qt::AlignRight);
+  side1_.Takers = MakeText("Label4", "Team 1", Qt::AlignRight);
+  side2_.Takers = MakeText("Label7", "Team 2", Qt::AlignRight);
   auto* const rows = new QGridLayout;
   rows->setSpacing(0);
   rows->setHorizontalSpacing(0);
@@ -195,7 +201,7 @@ QWidget* MatchWindow::BuildShootOut() {
   for (int n = 0; n < KickCount; ++n) {
     auto* const mark = new KickMark;
     mark->setObjectName(ArrayName("penalty", n));
-    penalty_[static_cast<std::size_t>(n)] = mark;
+    At(penalty_, n) = mark;
     rows->addWidget(mark, n % 2, 2 + n / 2);
     rows->setColumnMinimumWidth(2 + n / 2, mark->width());
   }
@@ -211,24 +217,29 @@ QWidget* MatchWindow::BuildShootOut() {
 }
 
 QLayout* MatchWindow::BuildLists() {
+  const auto option = [this](int index, const QString& caption) {
+    auto* const button = new QRadioButton(caption);
+    button->setObjectName(ArrayName("Option1", index));
+    connect(button, &QRadioButton::clicked, this,
+            [this, index] { Act([this, index] { match_.Option1_Click(index); }); });
+    At(option1_, index) = button;
+    return button;
+  };
   auto* const options = new QHBoxLayout;
   options->setSpacing(18);
+  options->addWidget(option(1, "&Match Summary"));
+  options->addWidget(option(0, "&Commentary"));
+  options->addStretch();
+
   auto* const layout = new QVBoxLayout;
   layout->setSpacing(6);
   layout->addLayout(options);
-  const QString captions[] = {tr("&Commentary"), tr("&Match Summary")};
-  const QString names[] = {tr("Commentary"), tr("Match Summary")};
-  for (int i : {1, 0}) {
-    const auto at = static_cast<std::size_t>(i);
-    option1_[at] = new QRadioButton(captions[i]);
-    option1_[at]->setObjectName(ArrayName("Option1", i));
-    options->addWidget(option1_[at]);
-    list1_[at] = MakeList(ArrayName("List1", i));
-    list1_[at]->setAccessibleName(names[i]);
-    list1_[at]->setMinimumHeight(5 * list1_[at]->fontMetrics().height() + 8);
-    layout->addWidget(list1_[at]);
+  summary_->setAccessibleName("Match Summary");
+  commentary_->setAccessibleName("Commentary");
+  for (LineList* const list : {summary_, commentary_}) {
+    list->setMinimumHeight(5 * list->fontMetrics().height() + 8);
+    layout->addWidget(list);
   }
-  options->addStretch();
   return layout;
 }
 
@@ -238,25 +249,10 @@ QLayout* MatchWindow::BuildButtons() {
   buttons->addStretch();
   buttons->addWidget(comSave_);
   buttons->addWidget(command1_);
-  command1_->setAutoDefault(false);
+  // Without a text box to take Enter from, the button with the focus may show that Enter presses it.
+  for (QPushButton* const button : {halftime_, instant_, kick_, nextshot_, comSave_})
+    button->setAutoDefault(true);
   return buttons;
-}
-
-void MatchWindow::ConnectActions() {
-  const auto onClick = [this](QPushButton* button, void (Match::*action)()) {
-    connect(button, &QPushButton::clicked, this, [this, action] { Act([&] { (match_.*action)(); }); });
-  };
-  onClick(halftime_, &Match::halftime_Click);
-  onClick(instant_, &Match::instant_Click);
-  onClick(kick_, &Match::kick_Click);
-  onClick(nextshot_, &Match::nextshot_Click);
-  onClick(comSave_, &Match::ComSave_Click);
-  onClick(command1_, &Match::Command1_Click);
-  for (int i : {0, 1}) {
-    connect(option1_[static_cast<std::size_t>(i)], &QRadioButton::clicked, this,
-            [this, i] { Act([this, i] { match_.Option1_Click(i); }); });
-  }
-  connect(&timer1_, &QTimer::timeout, this, [this] { Act([this] { match_.Timer1_Timer(*this); }); });
 }
 
 void MatchWindow::PauseFunction() {
@@ -264,7 +260,7 @@ void MatchWindow::PauseFunction() {
   QTimer::singleShot(timings_.GoalPause, Qt::PreciseTimer, &pause, &QEventLoop::quit);
   connect(this, &QDialog::finished, &pause, &QEventLoop::quit);
   pause.exec();
-  timer1_.start();  // The next minute is a whole tick away again.
+  timer1_.start();  // The next minute is a full tick away.
 }
 
 void MatchWindow::Refresh() {
@@ -290,9 +286,8 @@ void MatchWindow::TellState(const MatchSession& session) {
   if (session.BallSide != 0) {
     const bool first = session.BallSide == 1;
     const int third = std::clamp(session.BallX * 3 / (2 * CentreSpotX), 0, 2);
-    const QString places[] = {tr("on the left"), tr("in midfield"), tr("on the right")};
-    state.append(tr("ball with ") + Shown((first ? session.Side1 : session.Side2).Team) + " " +
-                 places[third]);
+    const QString places[] = {"on the left", "in midfield", "on the right"};
+    state.append("ball with " + Shown((first ? session.Side1 : session.Side2).Team) + " " + places[third]);
   }
   const ItemList& lines = session.Commentary.Entries.empty() ? session.Summary : session.Commentary;
   if (!lines.Entries.empty()) state.append(Shown(lines.Entries.back()));
@@ -303,14 +298,13 @@ void MatchWindow::TellState(const MatchSession& session) {
 void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool hasBall) const {
   const bool pens = match_.Session().Controls.PensVisible;
   const QString team = Shown(side.Team);
-  SetFigureCaption(widgets.Goals, team + tr(", goals"));
-  SetFigureCaption(widgets.Penalties, team + tr(", penalties"));
-  SetFigureCaption(widgets.Shots, team + tr(", shots"));
-  SetFigureCaption(widgets.Corners, team + tr(", corners"));
-  SetFigureCaption(widgets.Bookings, team + tr(", bookings"));
-  SetFigureCaption(widgets.Fouls, team + tr(", fouls"));
-  SetFigureCaption(widgets.Possession,
-                   team + (hasBall ? tr(", has the ball, possession") : tr(", possession")));
+  SetFigureCaption(widgets.Goals, team + ", goals");
+  SetFigureCaption(widgets.Penalties, team + ", penalties");
+  SetFigureCaption(widgets.Shots, team + ", shots");
+  SetFigureCaption(widgets.Corners, team + ", corners");
+  SetFigureCaption(widgets.Bookings, team + ", bookings");
+  SetFigureCaption(widgets.Fouls, team + ", fouls");
+  SetFigureCaption(widgets.Possession, team + (hasBall ? ", has the ball, possession" : ", possession"));
   widgets.Team->setText(team);
   widgets.Takers->setText(team);
   widgets.Goals->setText(QString::number(side.Goals));
@@ -328,7 +322,7 @@ void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool ha
 
 void MatchWindow::ShowClock(const MatchControls& controls) {
   label3_->setText(Shown(controls.Label3));
-  const QString lamps[] = {tr("Lamp: dark"), tr("Lamp: green"), tr("Lamp: red")};
+  const QString lamps[] = {"Lamp: dark", "Lamp: green", "Lamp: red"};
   label2_->setAccessibleName(lamps[static_cast<std::size_t>(controls.Label2)]);
   const bool dark = controls.Label2 == Lamp::Black;
   SetColours(label2_, LampColour(controls.Label2), LampColour(dark ? Lamp::Green : Lamp::Black));
@@ -345,23 +339,27 @@ void MatchWindow::ShowShootOut(const MatchControls& controls) {
   shootOut_->setVisible(controls.ShootOutVisible);
   picture1_->SetBall(controls.Shape2);
   if (onPitch && controls.ShootOutVisible) picture1_->setFocus();
-  for (std::size_t n = 0; n < penalty_.size(); ++n) {
+  for (int n = 0; n < KickCount; ++n) {
     const Side& side = n % 2 == 0 ? match_.Session().Side1 : match_.Session().Side2;
-    penalty_[n]->SetMarker(controls.penalty[n], Shown(side.Team) + tr(", kick %1").arg(n / 2 + 1));
+    At(penalty_, n)
+        ->SetMarker(At(controls.penalty, n), Shown(side.Team) + QStringLiteral(", kick %1").arg(n / 2 + 1));
   }
 }
 
 void MatchWindow::ShowLists(const MatchSession& session) {
-  const ItemList* const lines[] = {&session.Commentary, &session.Summary};
+  commentary_->ShowLines(session.Commentary);
+  summary_->ShowLines(session.Summary);
+  const LineList* const onView = ListOnView();
+  for (LineList* const list : {commentary_, summary_}) list->setVisible(list == onView);
   for (int i : {0, 1}) {
-    const auto at = static_cast<std::size_t>(i);
-    const bool onView = session.Controls.Option1 == i;
-    ShowLines(list1_[at], *lines[i]);
-    list1_[at]->setVisible(onView);
-    option1_[at]->setEnabled(session.Controls.Option1Enabled);
-    option1_[at]->setChecked(onView);
+    At(option1_, i)->setEnabled(session.Controls.Option1Enabled);
+    At(option1_, i)->setChecked(session.Controls.Option1 == i);
   }
   comSave_->setText(Shown(match_.ComSaveCaption()));
+}
+
+LineList* MatchWindow::ListOnView() const {
+  return match_.Session().Controls.Option1 == 0 ? commentary_ : summary_;
 }
 
 void MatchWindow::ShowButtons(const MatchControls& controls) {
@@ -374,12 +372,10 @@ void MatchWindow::ShowButtons(const MatchControls& controls) {
                           {kick_, controls.ShootOutVisible, controls.kickEnabled},
                           {nextshot_, controls.ShootOutVisible, controls.nextshotEnabled}};
   halftime_->setText(Shown(ToText(match_.Session().Period)));
-  // A button that goes dark would pass the focus on to the next button, and Enter with it. The list on view
-  // takes it instead, from where Enter still presses the button that is lit.
+  // A button that becomes disabled would pass the focus on to the next button, and Enter with it. The list on
+  // view takes the focus instead; from there Enter presses the button that is enabled.
   for (const Play& play : buttons) {
-    if (focusWidget() == play.Button && !(play.Visible && play.Enabled)) {
-      list1_[static_cast<std::size_t>(controls.Option1)]->setFocus();
-    }
+    if (focusWidget() == play.Button && !(play.Visible && play.Enabled)) ListOnView()->setFocus();
   }
   for (const Play& play : buttons) {
     play.Button->setVisible(play.Visible);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -10,12 +9,14 @@
 #include "engine/match.h"
 #include "engine/match_screen.h"
 #include "ui/widgets/goal_picture.h"
+#include "ui/widgets/kick_mark.h"
+#include "ui/widgets/line_list.h"
 #include "ui/widgets/pitch_picture.h"
 #include "ui/windows/screen_window.h"
 
 namespace kickwell {
 
-/// How long things take, in milliseconds. Tests hurry them.
+/// How long things take, in milliseconds. Tests use shorter times.
 struct MatchTimings {
   int Tick = 1000;       ///< Of the clock: a minute of play.
   int GoalPause = 3000;  ///< After every goal.
@@ -36,7 +37,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   /// The widgets of one side of the pitch.
   struct SideWidgets {
     QLabel *Team, *Goals, *Penalties;
-    QWidget* Score;  ///< Holds goals and penalties, the goals to the left.
+    QWidget* Score;  ///< Holds the goals and, right of them, the penalties.
     QLabel *Shots, *Corners, *Bookings, *Fouls, *Possession;
     QLabel* Takers;  ///< The team's name beside its row of kick markers.
   };
@@ -47,11 +48,11 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   QWidget* BuildShootOut();
   QLayout* BuildLists();
   QLayout* BuildButtons();
-  void ConnectActions();
   void ShowSide(const SideWidgets& widgets, const Side& side, bool hasBall) const;
   void ShowClock(const MatchControls& controls);
   void ShowShootOut(const MatchControls& controls);
   void ShowLists(const MatchSession& session);
+  LineList* ListOnView() const;
   void ShowButtons(const MatchControls& controls);
   void TellState(const MatchSession& session);
 
@@ -64,7 +65,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   GoalPicture* picture1_;
   QWidget *scoreBoard_ = nullptr, *shootOut_ = nullptr;
   std::array<KickMark*, KickCount> penalty_{};
-  std::array<QListWidget*, 2> list1_{};
+  LineList *summary_, *commentary_;
   std::array<QRadioButton*, 2> option1_{};
   QPushButton *halftime_, *instant_, *kick_, *nextshot_, *comSave_, *command1_;
 };

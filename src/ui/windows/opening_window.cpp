@@ -6,9 +6,10 @@
 #include <QVBoxLayout>
 
 #include "base/program.h"
+#include "ui/text.h"
 #include "ui/widgets/accessible.h"
+#include "ui/widgets/labels.h"
 #include "ui/widgets/page_area.h"
-#include "ui/widgets/widgets.h"
 
 namespace kickwell {
 namespace {
@@ -32,7 +33,7 @@ class Grass : public QWidget {
 };
 
 QLabel* AddText(QVBoxLayout* layout, const QString& name, const QString& text, qreal size, bool bold) {
-  // What is fixed is always shown whole.
+  // Fixed texts are never cut short.
   QLabel* const label = text.isEmpty() ? MakeText(name, text) : MakeCaption(text);
   label->setObjectName(name);
   label->setAlignment(Qt::AlignCenter);
@@ -51,7 +52,7 @@ QLabel* AddText(QVBoxLayout* layout, const QString& name, const QString& text, q
 
 OpeningWindow::OpeningWindow(Opening& opening) : opening_(opening) {
   setObjectName("Opening");
-  setWindowTitle(tr("Kickwell v4.0"));
+  setWindowTitle("Kickwell v4.0");
   BuildMenus();
   setCentralWidget(new PageArea(BuildTitle()));
   Refresh();
@@ -74,29 +75,29 @@ void OpeningWindow::BuildMenus() {
   const OpeningScreens& screens = opening_.Screens();
   const auto wired = [](const OpeningScreens::Open& open) { return static_cast<bool>(open); };
 
-  QMenu* const play = menuBar()->addMenu(tr("&Play"));
-  add(play, "MatchMenu", tr("&Single Match"), &Opening::MatchMenu_Click, wired(screens.Settings));
-  add(play, "KnockLoad", tr("&Knock Out"), &Opening::KnockLoad_Click, wired(screens.KnockSettings));
-  add(play, "LegLoad", tr("&League"), &Opening::LegLoad_Click, wired(screens.LegSettings));
+  QMenu* const play = menuBar()->addMenu("&Play");
+  add(play, "MatchMenu", "&Single Match", &Opening::MatchMenu_Click, wired(screens.Settings));
+  add(play, "KnockLoad", "&Knock Out", &Opening::KnockLoad_Click, wired(screens.KnockSettings));
+  add(play, "LegLoad", "&League", &Opening::LegLoad_Click, wired(screens.LegSettings));
   play->addSeparator();
-  add(play, "ExitMenu", tr("E&xit"), &Opening::ExitMenu_Click);
+  add(play, "ExitMenu", "E&xit", &Opening::ExitMenu_Click);
 
-  QMenu* const editors = menuBar()->addMenu(tr("&Editors"));
-  add(editors, "TeamMenu", tr("&Team Editor"), &Opening::TeamMenu_Click, wired(screens.TeamEditor));
-  add(editors, "StadMenu", tr("&Stadium Editor"), &Opening::StadMenu_Click, wired(screens.StadEditor));
-  add(editors, "LegMenu", tr("&Championship Editor"), &Opening::LegMenu_Click, wired(screens.LegEditor));
+  QMenu* const editors = menuBar()->addMenu("&Editors");
+  add(editors, "TeamMenu", "&Team Editor", &Opening::TeamMenu_Click, wired(screens.TeamEditor));
+  add(editors, "StadMenu", "&Stadium Editor", &Opening::StadMenu_Click, wired(screens.StadEditor));
+  add(editors, "LegMenu", "&Championship Editor", &Opening::LegMenu_Click, wired(screens.LegEditor));
 
-  statistics_ = menuBar()->addMenu(tr("&Statistics"));
-  add(statistics_, "ScorerMenu", tr("&Top Scorers"), &Opening::ScorerMenu_Click, wired(screens.TopScorers));
+  statistics_ = menuBar()->addMenu("&Statistics");
+  add(statistics_, "ScorerMenu", "&Top Scorers", &Opening::ScorerMenu_Click, wired(screens.TopScorers));
   leagueMenu_ =
-      add(statistics_, "LeagueMenu", tr("&League Table"), &Opening::LeagueMenu_Click, wired(screens.Table));
-  add(statistics_, "LegRes", tr("&Match Results"), &Opening::LegRes_Click, wired(screens.LegResults));
-  knockChart_ = add(statistics_, "KnockChart", tr("&Knock Out Table"), &Opening::KnockChart_Click,
+      add(statistics_, "LeagueMenu", "&League Table", &Opening::LeagueMenu_Click, wired(screens.Table));
+  add(statistics_, "LegRes", "&Match Results", &Opening::LegRes_Click, wired(screens.LegResults));
+  knockChart_ = add(statistics_, "KnockChart", "&Knock Out Table", &Opening::KnockChart_Click,
                     wired(screens.KnockCharts));
 
-  QMenu* const help = menuBar()->addMenu(tr("&Help"));
-  add(help, "ReadMenu", tr("&Contents"), &Opening::ReadMenu_Click);
-  add(help, "HistMenu", tr("&History"), &Opening::HistMenu_Click);
+  QMenu* const help = menuBar()->addMenu("&Help");
+  add(help, "ReadMenu", "&Contents", &Opening::ReadMenu_Click);
+  add(help, "HistMenu", "&History", &Opening::HistMenu_Click);
 }
 
 QWidget* OpeningWindow::BuildTitle() {
@@ -104,13 +105,13 @@ QWidget* OpeningWindow::BuildTitle() {
   auto* const layout = new QVBoxLayout(grass);
   layout->setContentsMargins(24, 24, 24, 24);
   layout->addStretch(2);
-  AddText(layout, "Label1", tr("Kickwell v4.0"), 3.2, true);
+  AddText(layout, "Label1", "Kickwell v4.0", 3.2, true);
   layout->addStretch(1);
-  AddText(layout, "Label4", tr("League/Tournament"), 1, false);
+  AddText(layout, "Label4", "League/Tournament", 1, false);
   league_ = AddText(layout, "league", {}, 1.5, true);
-  SetFigureCaption(league_, tr("League/Tournament"));
+  SetFigureCaption(league_, "League/Tournament");
   layout->addStretch(2);
-  AddText(layout, "Label2", tr("Programming and Design"), 0.9, false);
+  AddText(layout, "Label2", "Programming and Design", 0.9, false);
   AddText(layout, "Label3", ToQt(Credits), 1, true);
   mode_ = MakeText("mode", {});
   mode_->setParent(grass);

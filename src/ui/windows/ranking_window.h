@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <array>
@@ -11,23 +12,30 @@
 
 namespace kickwell {
 
-/// One column of a ranking: its header, the name of its labels, whether it holds figures, and what screen
-/// readers are told of a header that is cut short.
+/// One column of a ranking.
 struct RankingColumn {
-  const char* Name;
+  const char* Name;  ///< The name of its labels, which are a control array.
   QString Header;
-  bool Figure;
-  QString Told = Header;
+  bool Figure;                 ///< Figures stand to the right and get no more room than they need.
+  QString Announced = Header;  ///< What screen readers say for a header that is an abbreviation.
 };
 
-/// Pages of ranked rows with a bar that follows the mouse and the arrow keys: the league table and the top
-/// scorers.
+/// What makes the screen of one ranking differ from that of another.
+struct RankingScreen {
+  const char* Name;
+  QString Caption;
+  const char* CloseName;  ///< The name of the button that closes the screen.
+  int Width;              ///< Of the window, where type is of the usual size.
+  std::vector<RankingColumn> Columns;
+};
+
+RankingScreen TableScreen();       ///< The league table.
+RankingScreen TopScorersScreen();  ///< The top scorers.
+
+/// Pages of ranked rows with a bar that follows the mouse and the arrow keys.
 class RankingWindow final : public ScreenWindow {
  public:
-  /// `closeName` is the name of the button that closes the screen, `width` the window's where type is of the
-  /// usual size.
-  RankingWindow(Ranking& ranking, const char* name, const QString& caption, const char* closeName,
-                std::vector<RankingColumn> columns, int width, QWidget* parent);
+  RankingWindow(Ranking& ranking, const RankingScreen& screen, QWidget* parent);
 
  protected:
   void Refresh() override;
@@ -36,21 +44,21 @@ class RankingWindow final : public ScreenWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  using Labels = std::array<QLabel*, Paging::Rows>;
+
   QWidget* BuildRows();
+  Labels BuildColumn(QGridLayout* grid, int place, const RankingColumn& column);
   void MoveBar(int row);
   void PlaceBar();
 
   Ranking& ranking_;
   std::vector<RankingColumn> columns_;
   QLabel* label1_;
-  std::vector<std::array<QLabel*, Paging::Rows>> labels_;  ///< By column.
+  std::vector<Labels> labels_;  ///< By column.
   std::array<QWidget*, Paging::Rows> markers_{};
-  QFrame* bar_ = nullptr;
+  QFrame* rows_ = nullptr;
+  QFrame* bar_ = nullptr;  ///< Lies under the labels of the marked row.
   QPushButton *nextpage_, *prevpage_;
 };
-
-/// The two rankings with their captions and columns.
-RankingWindow* MakeTableWindow(Ranking& table, QWidget* parent);
-RankingWindow* MakeTopScorersWindow(Ranking& scorers, QWidget* parent);
 
 }  // namespace kickwell

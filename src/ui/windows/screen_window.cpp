@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "ui/widgets/page_area.h"
-#include "ui/widgets/widgets.h"
 
 namespace kickwell {
 
@@ -47,14 +46,19 @@ void ScreenWindow::Act(const std::function<void()>& action) {
     Refresh();
   } else if (isVisible()) {  // An action within this one may have closed the window already.
     done(Accepted);
-    // Where two screens close at once, a window manager may lose the keyboard.
+    // When two screens close at once, some window managers give the keyboard to neither of those below.
     if (parentWidget() != nullptr) parentWidget()->activateWindow();
   }
 }
 
 QPushButton* ScreenWindow::Button(const QString& name, const QString& caption, std::function<void()> action) {
-  QPushButton* const button = MakeButton(name, caption);
+  auto* const button = new QPushButton(caption);
+  button->setObjectName(name);
   button->setAutoDefault(false);
+  if (caption.contains('<') || caption.contains('>') || caption.count('&') > 1) {
+    QString words = caption;
+    button->setAccessibleName(words.remove('&').remove('<').remove('>').trimmed());
+  }
   connect(button, &QPushButton::clicked, this, [this, action = std::move(action)] { Act(action); });
   return button;
 }

@@ -1,4 +1,4 @@
-// What every modal screen's window has in common.
+// What the windows of all modal screens have in common.
 #pragma once
 
 #include <QComboBox>
@@ -9,11 +9,11 @@
 
 namespace kickwell {
 
-/// Shows the whole state anew after each action and closes when the screen's logic says so. Escape and the
-/// window's frame are the screen's own way out.
+/// The window of a screen. It runs the user's actions, after each of which it shows the whole state again or
+/// closes, as the screen's logic says. Escape and the window's frame leave the screen as its own button does.
 class ScreenWindow : public QDialog {
  public:
-  /// `name` is the screen's name, `caption` its title.
+  /// `name` becomes the window's object name, `caption` its title.
   ScreenWindow(const char* name, const QString& caption, QWidget* parent);
 
   void reject() override;
@@ -21,29 +21,30 @@ class ScreenWindow : public QDialog {
  protected:
   void keyPressEvent(QKeyEvent* event) override;  ///< Enter presses the button that has the focus.
 
-  /// Runs one action of the user and shows what has become of it.
+  /// Runs an action of the user, then shows the state or closes the window.
   void Act(const std::function<void()>& action);
 
-  /// A button that runs `action` and never takes Enter from a text box.
+  /// A button that runs `action`. It is no auto-default button, so it never takes Enter from a text box.
+  /// Screen readers announce its caption without arrows of "<" and ">".
   QPushButton* Button(const QString& name, const QString& caption, std::function<void()> action);
 
-  /// The same with an arrow for its caption; `tip` says what it does.
+  /// The same with an arrow instead of a caption; `tip` says what it does.
   QPushButton* ArrowButton(const QString& name, QStyle::StandardPixmap arrow, const QString& tip,
                            std::function<void()> action);
 
   /// Runs `action` with the entry that the user picks.
   void OnPick(QComboBox* combo, std::function<void(int)> action);
 
-  /// Where the screen's widgets are laid out.
+  /// The widget to lay the screen out on.
   QWidget* Page() const { return page_; }
 
-  /// Opens at `width` by `height` pixels where type is of the usual size, larger with larger type, but always
-  /// on the screen.
+  /// Sets the size to open at: `width` by `height` pixels where type is of the usual size, more with larger
+  /// type, but never more than fits on the desktop.
   void OpenAt(int width, int height);
 
-  virtual void Refresh() = 0;
-  virtual bool IsClosed() const = 0;
-  virtual void Leave() = 0;  ///< The action of the button that leaves the screen.
+  virtual void Refresh() = 0;         ///< Shows the whole state of the screen's logic.
+  virtual bool IsClosed() const = 0;  ///< Whether the logic is done with the screen.
+  virtual void Leave() = 0;           ///< The action of the button that leaves the screen.
 
  private:
   QWidget* page_;

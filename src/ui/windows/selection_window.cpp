@@ -10,15 +10,18 @@
 #include <optional>
 #include <utility>
 
+#include "base/at.h"
+#include "ui/text.h"
 #include "ui/widgets/accessible.h"
-#include "ui/widgets/widgets.h"
+#include "ui/widgets/choosers.h"
+#include "ui/widgets/labels.h"
 
 namespace kickwell {
 namespace {
 
 constexpr int UsualName = 14;  ///< Two choosers stand side by side.
 
-/// A figure beside its caption, in two columns of the grid.
+/// Adds a figure and its caption, side by side in the grid.
 QLabel* AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& name,
                   const QString& text) {
   QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), 1);
@@ -34,9 +37,9 @@ QString FigureText(const std::optional<int>& figure) {
 }  // namespace
 
 SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
-    : ScreenWindow("Selection", tr("Kickwell Team Selection"), parent),
+    : ScreenWindow("Selection", "Kickwell Team Selection", parent),
       selection_(selection),
-      command1_(MakeButton("Command1", tr("&Continue >>"))) {
+      command1_(Button("Command1", "&Continue >>", [this] { selection_.Command1_Click(); })) {
   const MatchSetup& setup = selection.Setup();
   auto* const sides = new QHBoxLayout;
   sides->setSpacing(16);
@@ -46,8 +49,7 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   QLabel* const num = MakeText("num", QString::number(setup.MatchNumber));
   num->setVisible(false);
   command1_->setDefault(true);
-  QPushButton* const command2 = MakeButton("Command2", tr("Cancel"));
-  command2->setAutoDefault(false);
+  QPushButton* const command2 = Button("Command2", "Cancel", [this] { selection_.Command2_Click(); });
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(num);
   buttons->addStretch();
@@ -61,8 +63,6 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   layout->addStretch();
   layout->addLayout(buttons);
 
-  connect(command1_, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command1_Click(); }); });
-  connect(command2, &QPushButton::clicked, this, [this] { Act([this] { selection_.Command2_Click(); }); });
   Page()->installEventFilter(this);
   Refresh();
   selection_.Changed = [this] { Refresh(); };
@@ -74,38 +74,40 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   auto* const box = new QWidget;
   QLabel* const name = Enlarged(MakeText("Team" + number, team, Qt::AlignHCenter), 1.4);
 
-  auto* const slots_ = new QGridLayout;
-  slots_->setVerticalSpacing(4);
-  slots_->setHorizontalSpacing(10);
-  slots_->setColumnStretch(0, 1);
+  auto* const grid = new QGridLayout;
+  grid->setVerticalSpacing(4);
+  grid->setHorizontalSpacing(10);
+  grid->setColumnStretch(0, 1);
   column.Squad = new QStringListModel(this);
   const QByteArray combo = ("Combo" + number).toLatin1();
   const QByteArray post = ("Post" + number).toLatin1();
   const QByteArray skill = ("Sk" + number).toLatin1();
   for (int i = 0; i < SlotCount; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    column.Combos[at] = MakeCombo(ArrayName(combo, i));
-    column.Combos[at]->setModel(column.Squad);
-    const QString player = team + tr(", player %1").arg(i + 1);
-    Name(column.Combos[at], player);
-    column.Combos[at]->setMinimumContentsLength(UsualName);
-    column.Posts[at] = MakeText(ArrayName(post, i), {}, Qt::AlignHCenter);
-    column.Posts[at]->setMinimumWidth(fontMetrics().horizontalAdvance("MMMM"));
-    SetFigureCaption(column.Posts[at], player + tr(", position"));
-    column.Skills[at] = MakeText(ArrayName(skill, i), {}, Qt::AlignRight);
-    column.Skills[at]->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
-    SetFigureCaption(column.Skills[at], player + tr(", skill"));
-    slots_->addWidget(column.Combos[at], i, 0);
-    slots_->addWidget(column.Posts[at], i, 1);
-    slots_->addWidget(column.Skills[at], i, 2);
-    OnPick(column.Combos[at], [this, pick, i](int entry) { (selection_.*pick)(i, entry); });
+    QComboBox* const chooser = MakeCombo(ArrayName(combo, i));
+    chooser->setModel(column.Squad);
+    const QString player = team + QStringLiteral(", player %1").arg(i + 1);
+    Name(chooser, player);
+    chooser->setMinimumContentsLength(UsualName);
+    OnPick(chooser, [this, pick, i](int entry) { (selection_.*pick)(i, entry); });
+    QLabel* const position = MakeText(ArrayName(post, i), {}, Qt::AlignHCenter);
+    position->setMinimumWidth(fontMetrics().horizontalAdvance("MMMM"));
+    SetFigureCaption(position, player + ", position");
+    QLabel* const figure = MakeText(ArrayName(skill, i), {}, Qt::AlignRight);
+    figure->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
+    SetFigureCaption(figure, player + ", skill");
+    grid->addWidget(chooser, i, 0);
+    grid->addWidget(position, i, 1);
+    grid->addWidget(figure, i, 2);
+    At(column.Combos, i) = chooser;
+    At(column.Posts, i) = position;
+    At(column.Skills, i) = figure;
   }
 
   auto* const layout = new QVBoxLayout(box);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(10);
   layout->addWidget(name);
-  layout->addLayout(slots_);
+  layout->addLayout(grid);
   layout->addWidget(BuildFigures(column, side, team));
   return box;
 }
@@ -118,15 +120,15 @@ QWidget* SelectionWindow::BuildFigures(Column& column, int side, const QString& 
   figures->setColumnMinimumWidth(2, 24);
   figures->setColumnStretch(1, 1);
   figures->setColumnStretch(4, 1);
-  column.Formation = AddFigure(figures, 0, 0, tr("Formation:"), "Formation" + number, "0-0-0");
-  column.Skill = AddFigure(figures, 1, 0, tr("Overall Skill:"), "Skill" + number, "0");
-  column.OSkill = AddFigure(figures, 2, 0, tr("Reputation:"), "OSkill" + number, "0");
+  column.Formation = AddFigure(figures, 0, 0, "Formation:", "Formation" + number, "0-0-0");
+  column.Skill = AddFigure(figures, 1, 0, "Overall Skill:", "Skill" + number, "0");
+  column.OSkill = AddFigure(figures, 2, 0, "Reputation:", "OSkill" + number, "0");
   const int firstLabel = side == 1 ? 11 : 15;
   const auto labelName = [firstLabel](int i) { return "Label" + QString::number(firstLabel + i); };
-  column.Attack = AddFigure(figures, 0, 3, tr("Attack:"), labelName(0), {});
-  column.Defence = AddFigure(figures, 1, 3, tr("Defence:"), labelName(1), {});
-  column.Midfield = AddFigure(figures, 2, 3, tr("Mid-Field:"), labelName(2), {});
-  column.Keeping = AddFigure(figures, 3, 3, tr("Keeping:"), labelName(3), {});
+  column.Attack = AddFigure(figures, 0, 3, "Attack:", labelName(0), {});
+  column.Defence = AddFigure(figures, 1, 3, "Defence:", labelName(1), {});
+  column.Midfield = AddFigure(figures, 2, 3, "Mid-Field:", labelName(2), {});
+  column.Keeping = AddFigure(figures, 3, 3, "Keeping:", labelName(3), {});
   auto* const figuresBox = new QFrame;
   figuresBox->setAccessibleName(team);
   figuresBox->setFrameShape(QFrame::StyledPanel);
@@ -135,7 +137,7 @@ QWidget* SelectionWindow::BuildFigures(Column& column, int side, const QString& 
 }
 
 bool SelectionWindow::eventFilter(QObject* watched, QEvent* event) {
-  // The squads are loaded when the screen has been drawn.
+  // The screen is drawn first, then the squads are loaded.
   if (watched == Page() && event->type() == QEvent::Paint && !std::exchange(timer1Started_, true))
     QTimer::singleShot(0, this, [this] { Act([this] { selection_.Timer1_Timer(); }); });
   return ScreenWindow::eventFilter(watched, event);

@@ -5,8 +5,10 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "ui/text.h"
+#include "ui/widgets/choosers.h"
+#include "ui/widgets/labels.h"
 #include "ui/widgets/text_label.h"
-#include "ui/widgets/widgets.h"
 
 namespace kickwell {
 namespace {
@@ -23,19 +25,18 @@ QVBoxLayout* Captioned(const QString& caption, QComboBox* combo) {
 }  // namespace
 
 SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
-    : ScreenWindow("Settings", tr("Kickwell Settings"), parent),
+    : ScreenWindow("Settings", "Kickwell Settings", parent),
       settings_(settings),
       combo1_(MakeCombo("Combo1")),
       combo2_(MakeCombo("Combo2")),
       combo3_(MakeCombo("Combo3")),
       combo4_(MakeCombo("Combo4")),
       combo5_(MakeCombo("Combo5")),
-      check1_(new QCheckBox(tr("Extra Time (Golden Goal)"))),
-      check2_(new QCheckBox(tr("Penalty Shoot Out"))) {
-  QPushButton* const command1 =
-      Button("Command1", tr("&Continue >>"), [this] { settings_.Command1_Click(); });
+      check1_(new QCheckBox("Extra Time (Golden Goal)")),
+      check2_(new QCheckBox("Penalty Shoot Out")) {
+  QPushButton* const command1 = Button("Command1", "&Continue >>", [this] { settings_.Command1_Click(); });
   command1->setDefault(true);
-  QPushButton* const command2 = Button("Command2", tr("Close"), [this] { settings_.Command2_Click(); });
+  QPushButton* const command2 = Button("Command2", "Close", [this] { settings_.Command2_Click(); });
   auto* const buttons = new QHBoxLayout;
   buttons->addStretch();
   buttons->addWidget(command1);
@@ -44,11 +45,11 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   auto* const grid = new QGridLayout;
   grid->setHorizontalSpacing(24);
   grid->setVerticalSpacing(18);
-  grid->addLayout(Captioned(tr("Select Your Team:"), combo1_), 0, 0);
-  grid->addLayout(Captioned(tr("Select Your Opposition:"), combo2_), 0, 1);
-  grid->addLayout(Captioned(tr("Match Venue (Stadium/Ground):"), combo3_), 1, 0);
-  grid->addLayout(Captioned(tr("Weather Condition:"), combo5_), 1, 1);
-  grid->addLayout(Captioned(tr("Match Simulation Type:"), combo4_), 2, 0, Qt::AlignTop);
+  grid->addLayout(Captioned("Select Your Team:", combo1_), 0, 0);
+  grid->addLayout(Captioned("Select Your Opposition:", combo2_), 0, 1);
+  grid->addLayout(Captioned("Match Venue (Stadium/Ground):", combo3_), 1, 0);
+  grid->addLayout(Captioned("Weather Condition:", combo5_), 1, 1);
+  grid->addLayout(Captioned("Match Simulation Type:", combo4_), 2, 0, Qt::AlignTop);
   grid->addLayout(BuildDeciders(), 2, 1);
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(1, 1);
@@ -59,11 +60,6 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   layout->addLayout(grid);
   layout->addStretch();
   layout->addLayout(buttons);
-  const QWidget* const order[] = {combo1_, combo2_, combo3_,  combo5_, combo4_,
-                                  check1_, check2_, command1, command2};
-  for (std::size_t i = 1; i < std::size(order); ++i) {
-    setTabOrder(const_cast<QWidget*>(order[i - 1]), const_cast<QWidget*>(order[i]));
-  }
 
   OnPick(combo1_, [this](int entry) { settings_.Combo1_Click(entry); });
   OnPick(combo2_, [this](int entry) { settings_.Combo2_Click(entry); });
@@ -79,7 +75,7 @@ QLayout* SettingsWindow::BuildDeciders() {
   check2_->setObjectName("Check2");
   auto* const deciders = new QVBoxLayout;
   deciders->setSpacing(4);
-  deciders->addWidget(MakeCaption(tr("Match Result Decider:"), check1_));
+  deciders->addWidget(MakeCaption("Match Result Decider:", check1_));
   deciders->addWidget(check1_);
   deciders->addWidget(check2_);
   check1_->setAccessibleName(check1_->text());

@@ -5,9 +5,13 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "base/at.h"
+#include "ui/text.h"
+#include "ui/widgets/choosers.h"
+#include "ui/widgets/labels.h"
+#include "ui/widgets/section.h"
+#include "ui/widgets/text_box.h"
 #include "ui/widgets/text_label.h"
-#include "ui/widgets/widgets.h"
-#include "ui/windows/editor_parts.h"
 
 namespace kickwell {
 namespace {
@@ -33,7 +37,7 @@ QLabel* Instruction(const QString& name, const QString& text) {
 }  // namespace
 
 StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
-    : ScreenWindow("StadEditor", tr("Kickwell Stadium Editor"), parent),
+    : ScreenWindow("StadEditor", "Kickwell Stadium Editor", parent),
       editor_(editor),
       list1_(MakeList("List1")),
       label8_(MakeText("Label8", {})),
@@ -41,14 +45,14 @@ StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
       text2_(MakeTextBox("Text2", LongestCity, editor.Text2)),
       text3_(MakeTextBox("Text3", LongestCapacity, editor.Text3)),
       combo1_(MakeCombo("Combo1")) {
-  list1_->setAccessibleName(tr("Stadiums"));
+  list1_->setAccessibleName("Stadiums");
   connect(list1_, &QListWidget::itemSelectionChanged, this,
           [this] { Act([this] { editor_.List1_Click(SelectedRow(list1_)); }); });
   OnPick(combo1_, [this](int entry) { editor_.Combo1_Click(entry); });
-  auto* const instructions = new QGroupBox(tr("Instructions"));
+  auto* const instructions = new QGroupBox("Instructions");
   auto* const texts = new QVBoxLayout(instructions);
-  texts->addWidget(Instruction("Label9", tr(Removing)));
-  texts->addWidget(Instruction("Label10", tr(Adding)));
+  texts->addWidget(Instruction("Label9", Removing));
+  texts->addWidget(Instruction("Label10", Adding));
   auto* const right = new QVBoxLayout;
   right->setSpacing(10);
   right->addWidget(BuildAddition());
@@ -62,41 +66,40 @@ StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
   layout->addLayout(columns, 1);
-  layout->addWidget(
-      Button("Command3", tr("E&xit Kickwell Stadium Editor"), [this] { editor_.Command3_Click(); }), 0,
-      Qt::AlignRight);
+  layout->addWidget(Button("Command3", "E&xit Kickwell Stadium Editor", [this] { editor_.Command3_Click(); }),
+                    0, Qt::AlignRight);
   Refresh();
   OpenAt(760, 460);
 }
 
 QWidget* StadEditorWindow::BuildRemoval() {
-  auto* const box = new QGroupBox(tr("Remove Stadiums"));
+  auto* const box = new QGroupBox("Remove Stadiums");
   auto* const total = new QHBoxLayout;
-  total->addWidget(MakeFigureCaption(tr("Total number of stadiums:"), label8_));
+  total->addWidget(MakeFigureCaption("Total number of stadiums:", label8_));
   total->addWidget(label8_);
   total->addStretch();
   auto* const layout = new QVBoxLayout(box);
   layout->addWidget(list1_, 1);
   layout->addLayout(total);
-  layout->addWidget(Button("Command1", tr("&Remove Stadium"), [this] { editor_.Command1_Click(); }), 0,
+  layout->addWidget(Button("Command1", "&Remove Stadium", [this] { editor_.Command1_Click(); }), 0,
                     Qt::AlignLeft);
   return box;
 }
 
 QWidget* StadEditorWindow::BuildAddition() {
-  Section add(tr("Add Stadiums"));
-  add.Add(tr("Name:"), text1_);
-  add.Add(tr("City/Country:"), text2_);
-  add.Add(tr("Capacity:"), text3_);
-  add.Add(tr("Home To:"), combo1_);
-  add.AddButton(Button("Command2", tr("&Add Stadium"), [this] { editor_.Command2_Click(); }));
+  Section add("Add Stadiums");
+  add.Add("Name:", text1_);
+  add.Add("City/Country:", text2_);
+  add.Add("Capacity:", text3_);
+  add.Add("Home To:", combo1_);
+  add.AddButton(Button("Command2", "&Add Stadium", [this] { editor_.Command2_Click(); }));
   return add.Box;
 }
 
 void StadEditorWindow::Refresh() {
   ShowList(list1_, editor_.List1);
   for (int i = 0; i < list1_->count(); ++i) {
-    const Stadium& stadium = editor_.Stadiums()[static_cast<std::size_t>(i)];
+    const Stadium& stadium = At(editor_.Stadiums(), i);
     const QString whole =
         Shown(stadium.Name + ", " + stadium.City + " (" + stadium.Capacity + "), " + stadium.HomeTeam);
     list1_->item(i)->setToolTip(PlainTip(whole));

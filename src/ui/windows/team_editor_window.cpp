@@ -5,8 +5,11 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "ui/widgets/widgets.h"
-#include "ui/windows/editor_parts.h"
+#include "ui/text.h"
+#include "ui/widgets/choosers.h"
+#include "ui/widgets/labels.h"
+#include "ui/widgets/section.h"
+#include "ui/widgets/text_box.h"
 
 namespace kickwell {
 namespace {
@@ -23,7 +26,7 @@ const char* const Warning =
 }  // namespace
 
 TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
-    : ScreenWindow("TeamEditor", tr("Kickwell Team/Player Editor"), parent),
+    : ScreenWindow("TeamEditor", "Kickwell Team/Player Editor", parent),
       editor_(editor),
       combo1_(Combo("Combo1", &TeamEditor::Combo1_Click)),
       combo2_(Combo("Combo2", &TeamEditor::Combo2_Click)),
@@ -37,7 +40,7 @@ TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
       text2_(MakeTextBox("Text2", LongestPlayerName, editor.Text2)),
       text4_(MakeTextBox("Text4", LongestSkill, editor.Text4)),
       text5_(MakeTextBox("Text5", LongestSkill, editor.Text5)) {
-  list1_->setAccessibleName(tr("Players"));
+  list1_->setAccessibleName("Players");
   connect(list1_, &QListWidget::itemSelectionChanged, this,
           [this] { Act([this] { editor_.List1_Click(SelectedRow(list1_)); }); });
   auto* const columns = new QHBoxLayout;
@@ -49,7 +52,7 @@ TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
   layout->setSpacing(12);
   layout->addLayout(columns, 1);
   layout->addWidget(
-      Button("Command4", tr("E&xit Kickwell Team/Player Editor"), [this] { editor_.Command4_Click(); }), 0,
+      Button("Command4", "E&xit Kickwell Team/Player Editor", [this] { editor_.Command4_Click(); }), 0,
       Qt::AlignRight);
   Refresh();
   OpenAt(820, 620);
@@ -63,25 +66,25 @@ QComboBox* TeamEditorWindow::Combo(const char* name, void (TeamEditor::*action)(
 
 QLayout* TeamEditorWindow::BuildSquad() {
   auto* const team = new QFormLayout;
-  team->addRow(MakeCaption(tr("Team Name:"), combo3_), combo3_);
-  team->addRow(MakeFigureCaption(tr("Team Skill:"), label13_), label13_);
-  team->addRow(MakeFigureCaption(tr("No. of Players:"), label14_), label14_);
+  team->addRow(MakeCaption("Team Name:", combo3_), combo3_);
+  team->addRow(MakeFigureCaption("Team Skill:", label13_), label13_);
+  team->addRow(MakeFigureCaption("No. of Players:", label14_), label14_);
   auto* const player = new QFormLayout;
-  player->addRow(MakeFigureCaption(tr("Player Skill:"), label4_), label4_);
-  player->addRow(MakeFigureCaption(tr("Position:"), label5_), label5_);
+  player->addRow(MakeFigureCaption("Player Skill:", label4_), label4_);
+  player->addRow(MakeFigureCaption("Position:", label5_), label5_);
 
   auto* const moves = new QVBoxLayout;
-  moves->addWidget(ArrowButton("Command1", QStyle::SP_ArrowUp, tr("Move the player up"),
+  moves->addWidget(ArrowButton("Command1", QStyle::SP_ArrowUp, "Move the player up",
                                [this] { editor_.Command1_Click(); }));
-  moves->addWidget(ArrowButton("Command2", QStyle::SP_ArrowDown, tr("Move the player down"),
+  moves->addWidget(ArrowButton("Command2", QStyle::SP_ArrowDown, "Move the player down",
                                [this] { editor_.Command2_Click(); }));
   moves->addStretch();
   auto* const squad = new QHBoxLayout;
   squad->addWidget(list1_, 1);
   squad->addLayout(moves);
 
-  Section remove(tr("Remove Players"));
-  remove.Form->addRow(Button("Command6", tr("Delete &Player"), [this] { editor_.Command6_Click(); }));
+  Section remove("Remove Players");
+  remove.Form->addRow(Button("Command6", "Delete &Player", [this] { editor_.Command6_Click(); }));
   auto* const layout = new QVBoxLayout;
   layout->setSpacing(10);
   layout->addLayout(team);
@@ -92,16 +95,16 @@ QLayout* TeamEditorWindow::BuildSquad() {
 }
 
 QLayout* TeamEditorWindow::BuildChanges() {
-  Section players(tr("Add Players"));
-  players.Add(tr("Name:"), text2_);
-  players.Add(tr("Skill (1 - 99):"), text4_);
-  players.Add(tr("Field Position:"), combo1_);
-  players.Add(tr("Side:"), combo2_);
-  players.AddButton(Button("Command8", tr("&Add Player"), [this] { editor_.Command8_Click(); }));
-  Section teams(tr("Add Team"));
-  teams.Add(tr("Team Name:"), text1_);
-  teams.Add(tr("Skill (1 - 99):"), text5_);
-  teams.AddButton(Button("Command7", tr("Add &Team"), [this] { editor_.Command7_Click(); }));
+  Section players("Add Players");
+  players.Add("Name:", text2_);
+  players.Add("Skill (1 - 99):", text4_);
+  players.Add("Field Position:", combo1_);
+  players.Add("Side:", combo2_);
+  players.AddButton(Button("Command8", "&Add Player", [this] { editor_.Command8_Click(); }));
+  Section teams("Add Team");
+  teams.Add("Team Name:", text1_);
+  teams.Add("Skill (1 - 99):", text5_);
+  teams.AddButton(Button("Command7", "Add &Team", [this] { editor_.Command7_Click(); }));
   auto* const layout = new QVBoxLayout;
   layout->setSpacing(10);
   layout->addWidget(players.Box);
@@ -112,15 +115,15 @@ QLayout* TeamEditorWindow::BuildChanges() {
 }
 
 QWidget* TeamEditorWindow::BuildTeamRemoval() {
-  Section remove(tr("Remove Team"));
-  QLabel* const label22 = MakeCaption(tr("Warning Note"), nullptr);
+  Section remove("Remove Team");
+  QLabel* const label22 = MakeCaption("Warning Note", nullptr);
   label22->setObjectName("Label22");
-  QLabel* const label23 = MakeCaption(tr(Warning));
+  QLabel* const label23 = MakeCaption(Warning);
   label23->setObjectName("Label23");
   label23->setWordWrap(true);
   remove.Form->addRow(label22);
   remove.Form->addRow(label23);
-  remove.Form->addRow(Button("Command5", tr("&Delete Team"), [this] { editor_.Command5_Click(); }));
+  remove.Form->addRow(Button("Command5", "&Delete Team", [this] { editor_.Command5_Click(); }));
   return remove.Box;
 }
 

@@ -1,8 +1,8 @@
-#include "ui/windows/editor_parts.h"
+#include "ui/widgets/text_box.h"
 
 #include <algorithm>
 
-#include "ui/widgets/widgets.h"
+#include "ui/text.h"
 
 namespace kickwell {
 namespace {
@@ -19,25 +19,6 @@ QString Cut(QString text, int length) {
 }
 
 }  // namespace
-
-Section::Section(const QString& title) : Box(new QGroupBox(title)), Form(new QFormLayout(Box)) {
-  Form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
-}
-
-void Section::Add(const QString& caption, QWidget* control) {
-  Form->addRow(MakeCaption(caption, control), control);
-  // The sections have fields of the same captions.
-  const QString name = Box->title() + ", " + control->accessibleName();
-  control->setAccessibleName(name);
-  if (auto* const combo = qobject_cast<QComboBox*>(control)) Name(combo, name);
-}
-
-void Section::AddButton(QPushButton* button) {
-  for (const QLineEdit* const box : Box->findChildren<QLineEdit*>()) {
-    QObject::connect(box, &QLineEdit::returnPressed, button, &QPushButton::click);
-  }
-  Form->addRow(button);
-}
 
 QLineEdit* MakeTextBox(const QString& objectName, int length, std::string& text) {
   auto* const box = new QLineEdit;

@@ -1,0 +1,18 @@
+#include "ui/widgets/appearance.h"
+
+namespace kickwell {
+
+QColor FaintText(const QPalette& palette) {
+  constexpr float Strength = 0.7F;
+  const QColor text = palette.color(QPalette::Text);
+  const QColor ground = palette.color(QPalette::Base);
+  const auto mix = [](float of, float with) { return of * Strength + with * (1 - Strength); };
+  return QColor::fromRgbF(mix(text.redF(), ground.redF()), mix(text.greenF(), ground.greenF()),
+                          mix(text.blueF(), ground.blueF()));
+}
+
+int Twips(const QWidget* widget, int twips) {
+  return twips * widget->logicalDpiX() / 1440;
+}
+
+}  // namespace kickwell

@@ -1,0 +1,31 @@
+// Drop-down lists and lists to choose from.
+#pragma once
+
+#include <QComboBox>
+#include <QListWidget>
+#include <QString>
+
+#include "base/item_list.h"
+
+namespace kickwell {
+
+/// A drop-down list to pick from, not to type in. Its width does not depend on its entries.
+QComboBox* MakeCombo(const QString& objectName);
+
+/// Names `combo` to screen readers where its caption says too little. Some screen readers announce the picked
+/// entry in place of the name, so the description repeats the name.
+void Name(QComboBox* combo, const QString& name);
+
+/// A list of entries of one height.
+QListWidget* MakeList(const QString& objectName);
+
+/// Makes `combo` show `chooser`. Only a user's own pick emits `activated`.
+void ShowChooser(QComboBox* combo, const ItemList& chooser);
+
+/// Makes `list` show `chooser`, without the signals of a user's pick.
+void ShowList(QListWidget* list, const ItemList& chooser);
+
+/// The row that the user has selected, or ItemList::None.
+int SelectedRow(const QListWidget* list);
+
+}  // namespace kickwell

@@ -1,0 +1,51 @@
+#include "ui/widgets/labels.h"
+
+#include <QFontInfo>
+
+#include "ui/widgets/accessible.h"
+#include "ui/widgets/text_label.h"
+
+namespace kickwell {
+
+QLabel* MakeText(const QString& objectName, const QString& text, Qt::Alignment alignment) {
+  auto* const label = new TextLabel(text);
+  label->setObjectName(objectName);
+  label->setAlignment(alignment | Qt::AlignVCenter);
+  return label;
+}
+
+QLabel* Enlarged(QLabel* label, qreal factor) {
+  QFont font = label->font();
+  font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
+  font.setBold(true);
+  label->setFont(font);
+  return label;
+}
+
+QLabel* MakeHeading(const QString& objectName) {
+  QLabel* const heading = MakeText(objectName, {}, Qt::AlignHCenter);
+  return Enlarged(heading, 1.5);
+}
+
+QLabel* MakeCaption(const QString& text) {
+  return new QLabel(text);
+}
+
+QLabel* MakeCaption(const QString& text, QWidget* buddy) {
+  QLabel* const caption = MakeCaption(text);
+  QFont bold = caption->font();
+  bold.setBold(true);
+  caption->setFont(bold);
+  caption->setBuddy(buddy);
+  // Lists do not take their name from their buddy by themselves.
+  QString name = text;
+  if (buddy != nullptr) buddy->setAccessibleName(name.remove('&').remove(':'));
+  return caption;
+}
+
+QLabel* MakeFigureCaption(const QString& text, QLabel* figure) {
+  SetFigureCaption(figure, QString(text).remove(':'));
+  return MakeCaption(text);
+}
+
+}  // namespace kickwell

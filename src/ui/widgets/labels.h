@@ -1,0 +1,27 @@
+// Labels: captions, headings and figures.
+#pragma once
+
+#include <QLabel>
+#include <QString>
+
+namespace kickwell {
+
+/// A label for a figure or for a text from the user's files.
+QLabel* MakeText(const QString& objectName, const QString& text, Qt::Alignment alignment = Qt::AlignLeft);
+
+/// Gives `label` bold type of `factor` times the usual size.
+QLabel* Enlarged(QLabel* label, qreal factor);
+
+/// A large heading for a text from the user's files.
+QLabel* MakeHeading(const QString& objectName);
+
+/// A fixed caption. It is never cut short.
+QLabel* MakeCaption(const QString& text);
+
+/// A bold caption that names `buddy` to screen readers.
+QLabel* MakeCaption(const QString& text, QWidget* buddy);
+
+/// A caption for `figure`, which screen readers announce with it.
+QLabel* MakeFigureCaption(const QString& text, QLabel* figure);
+
+}  // namespace kickwell

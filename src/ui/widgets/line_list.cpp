@@ -1,0 +1,134 @@
+#include "ui/widgets/line_list.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "base/at.h"
+#include "ui/text.h"
+
+namespace kickwell {
+
+LineList::LineList(const QString& objectName) {
+  setObjectName(objectName);
+  setUniformItemSizes(true);
+}
+
+void LineList::ShowLines(const ItemList& lines) {
+  for (int i = count(); i < lines.Count(); ++i) addItem(Shown(At(lines.Entries, i)));
+  if (currentRow() != lines.Picked) setCurrentRow(lines.Picked);
+}
+
+int LineList::WholeLines() const {
+  return std::max(1, viewport()->height() / lineSize_.height());
+}
+
+int LineList::horizontalOffset() const {
+  return horizontalScrollBar()->value();
+}
+
+int LineList::verticalOffset() const {
+  return verticalScrollBar()->value() * lineSize_.height();
+}
+
+QRect LineList::visualRect(const QModelIndex& index) const {
+  if (!index.isValid()) return {};
+  const int width = std::max(viewport()->width(), lineSize_.width());
+  const int top = (index.row() - verticalScrollBar()->value()) * lineSize_.height();
+  return {-horizontalOffset(), top, width, lineSize_.height()};
+}
+
+QModelIndex LineList::indexAt(const QPoint& point) const {
+  return IndexOf((point.y() + verticalOffset()) / lineSize_.height());
+}
+
+void LineList::scrollTo(const QModelIndex& index, ScrollHint hint) {
+  if (!index.isValid()) return;
+  updateGeometries();
+  const int first = verticalScrollBar()->value();
+  const int lowest = index.row() - WholeLines() + 1;  // With this line at the top, `index` is at the bottom.
+  const bool above = index.row() < first;
+  const bool below = first < lowest;
+  if (hint == PositionAtTop || (hint == EnsureVisible && above)) {
+    verticalScrollBar()->setValue(index.row());
+  } else if (hint == PositionAtBottom || (hint == EnsureVisible && below)) {
+    verticalScrollBar()->setValue(lowest);
+  } else if (hint == PositionAtCenter) {
+    verticalScrollBar()->setValue((index.row() + lowest) / 2);
+  }
+}
+
+void LineList::doItemsLayout() {
+  QAbstractItemView::doItemsLayout();  // Without that of QListView, which is what takes long.
+}
+
+void LineList::updateGeometries() {
+  if (count() > 0) lineSize_ = sizeHintForIndex(IndexOf(0)).expandedTo({0, 1});
+  verticalScrollBar()->setSingleStep(1);
+  verticalScrollBar()->setPageStep(WholeLines());
+  verticalScrollBar()->setRange(0, count() - WholeLines());
+  horizontalScrollBar()->setSingleStep(lineSize_.height());
+  horizontalScrollBar()->setPageStep(viewport()->width());
+  horizontalScrollBar()->setRange(0, lineSize_.width() - viewport()->width());
+  QAbstractItemView::updateGeometries();
+}
+
+void LineList::scrollContentsBy(int dx, int dy) {
+  viewport()->scroll(dx, dy * lineSize_.height());
+}
+
+QModelIndex LineList::moveCursor(CursorAction action, Qt::KeyboardModifiers /*modifiers*/) {
+  const int last = count() - 1;
+  const int row = currentRow();
+  const auto within = [last](int wanted) { return std::clamp(wanted, 0, std::max(last, 0)); };
+  switch (action) {
+    case MoveHome:
+      return IndexOf(0);
+    case MoveEnd:
+      return IndexOf(last);
+    case MovePageUp:
+      return IndexOf(within(row - WholeLines()));
+    case MovePageDown:
+      return IndexOf(within(row + WholeLines()));
+    case MoveUp:
+    case MovePrevious:
+      return IndexOf(within(row - 1));
+    case MoveDown:
+    case MoveNext:
+      return IndexOf(within(row + 1));
+    default:
+      return currentIndex();
+  }
+}
+
+void LineList::setSelection(const QRect& area, QItemSelectionModel::SelectionFlags flags) {
+  selectionModel()->select(indexAt(area.center()), flags);
+}
+
+QRegion LineList::visualRegionForSelection(const QItemSelection& selection) const {
+  QRegion region;
+  for (const QModelIndex& index : selection.indexes()) region += visualRect(index);
+  return region & viewport()->rect();
+}
+
+void LineList::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  QStyleOptionViewItem option;
+  initViewItemOption(&option);
+  const QStyle::State state = option.state;
+  const QModelIndex current = currentIndex();
+  const int last =
+      std::min(count() - 1, verticalScrollBar()->value() + WholeLines());  // One may show in part.
+  for (int row = verticalScrollBar()->value(); row <= last; ++row) {
+    const QModelIndex index = IndexOf(row);
+    option.rect = visualRect(index);
+    if (!option.rect.intersects(event->rect())) continue;
+    option.state = state;
+    option.state.setFlag(QStyle::State_Selected, selectionModel()->isSelected(index));
+    option.state.setFlag(QStyle::State_HasFocus, index == current && hasFocus());
+    itemDelegate()->paint(&painter, option, index);
+  }
+}
+
+}  // namespace kickwell

@@ -1,0 +1,42 @@
+// The running lists of the match.
+#pragma once
+
+#include <QListWidget>
+
+#include "base/item_list.h"
+
+namespace kickwell {
+
+/// A list that only grows, with lines of one height. It works out the place of a line from its number.
+/// QListView itself lays out all lines again whenever one is added, so that a late minute of a match would
+/// cost more than an early one.
+class LineList final : public QListWidget {
+ public:
+  explicit LineList(const QString& objectName);
+
+  /// Shows `lines`, which have only grown since the last call, and scrolls to the picked one.
+  void ShowLines(const ItemList& lines);
+
+  QRect visualRect(const QModelIndex& index) const override;
+  QModelIndex indexAt(const QPoint& point) const override;
+  void scrollTo(const QModelIndex& index, ScrollHint hint) override;
+  void doItemsLayout() override;
+
+ protected:
+  int horizontalOffset() const override;
+  int verticalOffset() const override;
+  QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+  void setSelection(const QRect& area, QItemSelectionModel::SelectionFlags flags) override;
+  QRegion visualRegionForSelection(const QItemSelection& selection) const override;
+  void updateGeometries() override;
+  void scrollContentsBy(int dx, int dy) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QModelIndex IndexOf(int row) const { return model()->index(row, modelColumn()); }
+  int WholeLines() const;  ///< How many lines have room in the list; at least 1.
+
+  QSize lineSize_{0, 1};  ///< The first line's, which stands for all.
+};
+
+}  // namespace kickwell

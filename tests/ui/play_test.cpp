@@ -14,10 +14,10 @@ namespace {
 
 using Fields = std::vector<std::pair<const char*, const char*>>;
 
-class PlayTest : public ScreenTest {
+class PlayTest : public WindowTest {
  protected:
   PlayTest() {
-    AddTeams(folder_, {"Albion", "Borough", "City"});
+    AddTeams({"Albion", "Borough", "City"});
     Write("stadiums.sim", "2\nAlbion\nMill\nLeat\n1000\nNeutral\nBowl\nOss\n500\n");
   }
 
@@ -100,7 +100,8 @@ TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
   QtDesktop desktop(folder_.Folder);
   Run(desktop);
 
-  const Lines page = ReadLines(folder_ / "page.htm").value_or(Lines(14));
+  const TextLines page = Decode(Bytes("page.htm"));
+  ASSERT_GE(page.size(), 14U);
   EXPECT_EQ(page[6], "Venue: Bowl, Oss<br>");
   EXPECT_EQ(page[9], "PENALTY SHOOT OUT!<br>");
   EXPECT_EQ(page[13], "PSO was tied at 0-0<br>");
@@ -178,8 +179,8 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
 }
 
 TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
-  AddTeams(folder_, {"Dynamo"});
-  std::filesystem::remove(folder_ / "stadiums.sim");  // Played without any crowd.
+  AddTeams({"Dynamo"});
+  Remove("stadiums.sim");  // Played without any crowd.
   Choose(Qt::Key_H, Qt::Key_C);
   Choose(Qt::Key_H, Qt::Key_H);
 
@@ -209,7 +210,7 @@ TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
   ExpectTexts({{"team(6)", "City"}, {"team(7)", ""}});
   user_.Click("Command3");
   Run(desktop_);
-  EXPECT_EQ(ReadResults(folder_.Folder, ChampionshipKind::KnockOut, "Cup")[7], "Borough 0(0) vs Dynamo 0(0)");
+  EXPECT_EQ(ReadResults(folder_.Folder, {ChampionshipKind::KnockOut, "Cup"}).Value[7], "Borough 0(0) vs Dynamo 0(0)");
   const Texts told = desktop_.Taken();
   EXPECT_EQ(told[0], "i: Read the file 'Help.htm' in your Kickwell folder for help.");
   EXPECT_EQ(told[1], "i: Read the file 'History.txt' in your Kickwell folder for history.");
@@ -240,8 +241,7 @@ TEST_F(PlayTest, TheEditorsTakeANewClubAndItsStadium) {
   user_.ExpectText("Label8", "3");
   user_.Click("Command3");
   Run(desktop_);
-  const std::vector<Stadium> stadiums = LoadStadiums(folder_.Folder);
-  EXPECT_EQ(stadiums.back().HomeTeam, "Newcomers and mo");
+  EXPECT_EQ(LoadStadiums(folder_.Folder).Value.back().HomeTeam, "Newcomers and mo");
 }
 
 TEST_F(PlayTest, AStartFinishesWhatAJournalTellsOf) {

@@ -20,10 +20,10 @@
 namespace kickwell {
 namespace {
 
-class ScreensTest : public ScreenTest {
+class ScreensTest : public WindowTest {
  protected:
   /// A stadium, a league and a knock-out of two teams, with results.
-  void AddChampionships(const std::string& name, const std::string& home, const std::string& away) const {
+  void AddChampionships(const std::string& name, const std::string& home, const std::string& away) {
     const std::string line = home + "\n", teams = line + away + "\n";
     Write("stadiums.sim", "1\nNeutral\n" + line + line + "500\n");
     Write("Leagues/" + name + ".leg", name + "\n2\n" + teams + "2\nNP\n" + teams + "P\n" + teams);
@@ -131,7 +131,7 @@ QStringList Statistics(const QMenuBar& bar) {
 }
 
 TEST_F(ScreensTest, AreToldAndWalked) {
-  AddTeams(folder_, {"Rovers", "United"});
+  AddTeams({"Rovers", "United"});
   AddChampionships("Test", "Rovers", "United");
   std::set<QString> screens;
   std::vector<QStringList> statistics;
@@ -201,7 +201,7 @@ bool ExpectPlain(const QWidget& window) {
 }
 
 TEST_F(ScreensTest, AreNotBrokenByAnyNameEvenInLargeType) {
-  AddTeams(folder_, {"Plain"});
+  AddTeams({"Plain"});
   ASSERT_TRUE(SaveTeam(folder_.Folder, MakeTeam("Hostile", Hostile)).Ok());
   std::filesystem::rename(folder_ / "Teams/Hostile", folder_ / ("Teams/" + Tricky));
   AddChampionships(Tricky, Hostile, Tricky);

@@ -17,7 +17,7 @@
 namespace kickwell {
 namespace {
 
-using WindowsTest = ScreenTest;
+using WindowsTest = WindowTest;
 
 TEST_F(WindowsTest, TheGoalsMakeRoomForTheShootOutAndTheFactsStandInTheirPlaces) {
   // Nobody scores in 89 minutes; then three kicks each, side 1's all in; then the facts.

@@ -1,5 +1,3 @@
-#include <tuple>
-
 #include "data/championship_store.h"
 #include "editors/stad_editor.h"
 #include "editors/team_editor.h"
@@ -11,153 +9,220 @@ namespace {
 class EditorsTest : public ScreenTest {
  protected:
   EditorsTest() {
-    AddTeams(folder_, {"A", "B"});
+    AddTeams({"A", "B"});
     EXPECT_TRUE(SaveStadiums(folder_.Folder, {{"A", "Mill", "Leat", "9"}}).Ok());
   }
 
   TeamEditor OpenTeams(const std::string& league = "N/A") { return {folder_.Folder, desktop_, league}; }
 
-  // Each adds what is typed and gives the messages.
-  std::string AddTeam(TeamEditor& editor, const std::string& name, const std::string& skill) {
-    std::tie(editor.Text1, editor.Text5) = std::tie(name, skill);
+  // Each types an entry, adds it and gives the messages.
+  Texts AddTeam(TeamEditor& editor, const std::string& name, const std::string& skill) {
+    editor.Text1 = name;
+    editor.Text5 = skill;
     editor.Command7_Click();
-    return desktop_.Told();
+    return desktop_.Taken();
   }
-  std::string AddPlayer(TeamEditor& editor, const std::string& name, const std::string& skill) {
-    std::tie(editor.Text2, editor.Text4) = std::tie(name, skill);
+  Texts AddPlayer(TeamEditor& editor, const std::string& name, const std::string& skill) {
+    editor.Text2 = name;
+    editor.Text4 = skill;
     editor.Command8_Click();
-    return desktop_.Told();
+    return desktop_.Taken();
   }
-  std::string AddStadium(StadEditor& editor, const std::string& name, const std::string& seats) {
-    std::tie(editor.Text1, editor.Text2, editor.Text3) = std::tie(name, name, seats);
+  Texts AddStadium(StadEditor& editor, const std::string& name, const std::string& capacity) {
+    editor.Text1 = name;
+    editor.Text2 = "Dell";
+    editor.Text3 = capacity;
     editor.Command2_Click();
-    return desktop_.Told();
-  }
-
-  /// Presses a button with the answer No and then so many times with Yes; gives the messages.
-  template <typename Editor>
-  std::string Press(Editor& editor, void (Editor::*button)(), int times) {
-    for (int i = 0; i <= times; ++i) {
-      desktop_.Yes = i > 0;
-      (editor.*button)();
-    }
-    desktop_.Yes = true;
-    return desktop_.Told();
-  }
-
-  /// Chosen team, its skill and players, the picked one with his figures, and what is typed.
-  static std::string Shown(const TeamEditor& e) {
-    return Joined({e.Combo3.Text(), e.Label13(), e.Label14(), e.List1.Text(), e.Label4(), e.Label5(), e.Text1,
-                   e.Text5, e.Text2, e.Text4});
+    return desktop_.Taken();
   }
 };
 
-TEST_F(EditorsTest, InputIsTestedInOrder) {
+TEST_F(EditorsTest, ANewTeamIsCheckedInOrder) {
   TeamEditor editor = OpenTeams();
-  StadEditor stadiums(folder_.Folder, desktop_);
   desktop_.Yes = false;
-  const auto allEnter = [](const std::string& team, const std::string& player, const std::string& stadium) {
-    const std::string enter = "!: Please enter ";
-    return Joined({enter + team, enter + player, enter + stadium});
-  };
-  const std::string details = allEnter("all the Team Details properly.", "all the Player Details properly.",
-                                       "all the Stadium Details properly.");
-  const std::string skill = "a numerical value for Skill.", range = "a skill value from 1 to 99.";
-  const std::string numerical = allEnter(skill, skill, "a numerical value for Capacity.");
-  const std::string sure = "?: Are you sure you want to add ", stadium = sure + "this stadium?";
-  const std::tuple<const char*, const char*, std::string> inputs[] = {
-      {"", "x", details},
-      {"A", "", details},
-      {"A", "+5", numerical},
-      {"A", "1.", numerical},
-      {"A", "-", numerical},
-      {"A", "-1", allEnter(range, range, "a capacity value from 1 to 99999.")},
-      {"A", "50", "i: A already exists|" + sure + "A?|" + stadium},
-      {"A0", "50", sure + "A0?|i: A0 already exists|" + stadium},
-      {"Mill", "50", sure + "Mill?|" + sure + "Mill?|i: Mill already exists"},
-      {"A:", "50", "!: A: can't be used as a file name.|" + sure + "A:?|" + stadium}};
-  for (const auto& [name, number, messages] : inputs)
-    EXPECT_EQ(Joined({AddTeam(editor, name, number), AddPlayer(editor, name, number),
-                      AddStadium(stadiums, name, number)}),
-              messages);
-  EXPECT_EQ(Shown(editor), "A|75|11|A0|80|GK|A:|50|A:|50");  // What was typed stays.
-  EXPECT_EQ(Joined(ListTeams(folder_.Folder)) + stadiums.Label8(), "A|B1");
+  const Texts details = {"!: Please enter all the Team Details properly."};
+  const Texts number = {"!: Please enter a numerical value for Skill."};
+  EXPECT_EQ(AddTeam(editor, "", "x"), details);
+  EXPECT_EQ(AddTeam(editor, "A", ""), details);
+  for (const char* skill : {"+5", "1.", "-"}) EXPECT_EQ(AddTeam(editor, "A", skill), number);
+  for (const char* skill : {"-1", "0"})
+    EXPECT_EQ(AddTeam(editor, "A", skill), Texts{"!: Please enter a skill value from 1 to 99."});
+  EXPECT_EQ(AddTeam(editor, "A", "50"), Texts{"i: A already exists"});
+  EXPECT_EQ(AddTeam(editor, "A:", "50"), Texts{"!: A: can't be used as a file name."});
+  EXPECT_EQ(AddTeam(editor, "New", "50"), Texts{"?: Are you sure you want to add New?"});
+  EXPECT_EQ(editor.Text1, "New");  // What was typed stays.
+  EXPECT_EQ(ListTeams(folder_.Folder), (Texts{"A", "B"}));
 }
 
-TEST_F(EditorsTest, TeamsAreAddedToTheListAndTheStandingsAndDeletedDownToTwo) {
-  const std::string rows = "A\n1\n1\n0\n0\n2\n1\n3\nB\n1\n0\n0\n1\n1\n2\n0\n";
-  Write("Leagues/Top.rec", rows + "cut");
-  Write("settings.cfg", "");
+TEST_F(EditorsTest, ANewPlayerIsCheckedInOrder) {
+  TeamEditor editor = OpenTeams();
+  desktop_.Yes = false;
+  EXPECT_EQ(AddPlayer(editor, "", "x"), Texts{"!: Please enter all the Player Details properly."});
+  EXPECT_EQ(AddPlayer(editor, "A0", "x"), Texts{"!: Please enter a numerical value for Skill."});
+  EXPECT_EQ(AddPlayer(editor, "A0", "0"), Texts{"!: Please enter a skill value from 1 to 99."});
+  EXPECT_EQ(AddPlayer(editor, "A0", "5"), Texts{"i: A0 already exists"});
+  EXPECT_EQ(AddPlayer(editor, "Ann", "5"), Texts{"?: Are you sure you want to add Ann?"});
+  EXPECT_EQ(editor.Label14(), "11");
+}
+
+TEST_F(EditorsTest, ANewStadiumIsCheckedInOrder) {
+  StadEditor editor(folder_.Folder, desktop_);
+  desktop_.Yes = false;
+  EXPECT_EQ(AddStadium(editor, "", "x"), Texts{"!: Please enter all the Stadium Details properly."});
+  EXPECT_EQ(AddStadium(editor, "Mill", "x"), Texts{"!: Please enter a numerical value for Capacity."});
+  EXPECT_EQ(AddStadium(editor, "Mill", "0"), Texts{"!: Please enter a capacity value from 1 to 99999."});
+  EXPECT_EQ(AddStadium(editor, "Mill", "5"), Texts{"i: Mill already exists"});
+  EXPECT_EQ(AddStadium(editor, "Park", "5"), Texts{"?: Are you sure you want to add this stadium?"});
+  EXPECT_EQ(editor.Label8(), "1");
+}
+
+TEST_F(EditorsTest, ANewTeamIsShownAndJoinsTheStandings) {
+  const std::string row = "A\n1\n1\n0\n0\n2\n1\n3\n";
+  Write("Leagues/Top.rec", row + "cut");
   TeamEditor editor = OpenTeams("Top");
   AddTeam(editor, "C", "05");
-  EXPECT_EQ(Shown(editor), "C|05|0|||||||");
-  EXPECT_EQ(Bytes("Teams/C") + Bytes("Leagues/Top.rec"),
-            AsWritten("05\n") + AsWritten(rows + "C\n0\n0\n0\n0\n0\n0\n0\n"));
-  editor.Combo3_Click(1);
-  EXPECT_EQ(Press(editor, &TeamEditor::Command5_Click, 2),
-            "?: Are you sure you want to delete B?|?: Are you sure you want to delete B?|"
-            "!: You can't delete any more team.");
-  EXPECT_EQ(Joined(ListTeams(folder_.Folder)) + ", " + Shown(editor), "A|C, A|75|11|A0|80|GK||||");
-  EXPECT_FALSE(Exists("settings.cfg"));
+  EXPECT_EQ(editor.Combo3.Text(), "C");
+  EXPECT_EQ(editor.Label13(), "05");
+  EXPECT_EQ(editor.List1.Count(), 0);
+  EXPECT_EQ(editor.Text1 + editor.Text5, "");
+  EXPECT_EQ(Bytes("Teams/C"), AsWritten("05\n"));
+  EXPECT_EQ(Bytes("Leagues/Top.rec"), AsWritten(row + "C\n0\n0\n0\n0\n0\n0\n0\n"));
 }
 
-TEST_F(EditorsTest, PlayersAreAddedMovedAndDeletedDownToElevenOrFromFewerToNone) {
+TEST_F(EditorsTest, TeamsAreDeletedDownToTwo) {
+  AddTeams({"C"});
+  Write("settings.cfg", "");
   TeamEditor editor = OpenTeams();
-  const auto squad = [&] { return Joined(OpenTeams().List1.Entries) + ", " + editor.List1.Text(); };
-  editor.Combo1_Click(3);
-  AddPlayer(editor, "Keeper", "09");
-  EXPECT_EQ(Shown(editor) + editor.Combo1.Text(), "A|75|12|Keeper|09|GK||||FD");
+  editor.Combo3_Click(1);
+  desktop_.Yes = false;
+  editor.Command5_Click();
+  EXPECT_TRUE(Exists("Teams/B"));
+  desktop_.Yes = true;
+  editor.Command5_Click();
+  EXPECT_EQ(desktop_.Taken(), Texts(2, "?: Are you sure you want to delete B?"));
+  EXPECT_EQ(ListTeams(folder_.Folder), (Texts{"A", "C"}));
+  EXPECT_FALSE(Exists("settings.cfg"));
+  EXPECT_EQ(editor.Combo3.Text(), "A");
+  EXPECT_EQ(editor.List1.Text(), "A0");
+  editor.Command5_Click();
+  EXPECT_EQ(desktop_.Taken(), Texts{"!: You can't delete any more team."});
+}
+
+TEST_F(EditorsTest, PlayersAreAddedWithTheChosenPosition) {
+  TeamEditor editor = OpenTeams();
   editor.Combo1_Click(2);
   editor.Combo2_Click(2);
-  AddPlayer(editor, "Last", "1");
-  editor.Command2_Click();  // At the bottom: nothing moves.
-  EXPECT_EQ(Shown(editor) + editor.Combo2.Text(), "A|75|13|Last|1|DFC||||L");
-  for (int i = 0; i < 14; ++i) editor.Command1_Click();
-  editor.List1_Click(1);
-  editor.Command2_Click();
-  EXPECT_EQ(squad(), "Last|A1|A0|A2|A3|A4|A5|A6|A7|A8|A9|A10|Keeper, A0");
-  EXPECT_EQ(Press(editor, &TeamEditor::Command6_Click, 3),
-            "?: Are you sure you want to delete A0?|?: Are you sure you want to delete A0?|"
-            "?: Are you sure you want to delete Last?|!: You can't delete any more players.");
-  EXPECT_EQ(squad(), "A1|A2|A3|A4|A5|A6|A7|A8|A9|A10|Keeper, A1");
-  ASSERT_TRUE(SaveTeam(folder_.Folder, {"A", "75", {{"X", "1", "GK"}}}).Ok());
-  TeamEditor few = OpenTeams();
-  EXPECT_TRUE(Press(few, &TeamEditor::Command6_Click, 2).ends_with("!: You can't delete any more players."));
-  EXPECT_EQ(Bytes("Teams/A"), AsWritten("75\n"));
+  AddPlayer(editor, "Back", "09");
+  EXPECT_EQ(editor.List1.Text(), "Back");
+  EXPECT_EQ(editor.Label4(), "09");
+  EXPECT_EQ(editor.Label5(), "DFC");
+  EXPECT_EQ(editor.Label14(), "12");
+  EXPECT_EQ(editor.Combo1.Text() + editor.Combo2.Text(), "FDL");  // Preset again.
+  EXPECT_EQ(editor.Text2 + editor.Text4, "");
+  editor.Combo1_Click(3);
+  AddPlayer(editor, "Keeper", "1");
+  EXPECT_EQ(editor.Label5(), "GK");
+  EXPECT_EQ(OpenTeams().List1.Entries, editor.List1.Entries);
 }
 
-TEST_F(EditorsTest, WithoutAFileNothingIsChosenAndWhatCannotBeSavedIsNotShown) {
+TEST_F(EditorsTest, PlayersAreMovedWithinTheSquad) {
+  ASSERT_TRUE(SaveTeam(folder_.Folder, {"A", "75", {{"X", "1", "GK"}, {"Y", "2", "DFL"}}}).Ok());
   TeamEditor editor = OpenTeams();
-  StadEditor stadiums(folder_.Folder, desktop_);
-  std::filesystem::remove(folder_ / "Teams/B");
-  editor.Combo3_Click(1);
-  std::filesystem::remove_all(folder_ / "Teams");
-  Write("Teams", "no folder");
-  std::filesystem::remove(folder_ / "stadiums.sim");
-  Write("stadiums.sim/x", "a folder");
-  for (const std::string& told :
-       {AddPlayer(editor, "Ann", "5"), AddTeam(editor, "New", "5"), AddStadium(stadiums, "Park", "5")})
-    EXPECT_NE(told.find("!: The file "), std::string::npos) << told;
-  EXPECT_EQ(Shown(editor) + std::to_string(editor.Combo3.Count()), "A|75|11|A0|80|GK|New|5|Ann|52");
-  EXPECT_EQ(Joined(stadiums.List1.Entries) + stadiums.Label8() + stadiums.Text1, "Mill1Park");
+  editor.Command1_Click();  // At the top already.
+  EXPECT_EQ(editor.List1.Entries, (Texts{"X", "Y"}));
+  editor.Command2_Click();
+  editor.Command2_Click();
+  EXPECT_EQ(editor.List1.Text(), "X");
+  EXPECT_EQ(Bytes("Teams/A"), AsWritten("75\nY\n2\nDFL\nX\n1\nGK\n"));
+}
+
+TEST_F(EditorsTest, PlayersAreDeletedDownToElevenOrFromFewerToNone) {
+  TeamEditor editor = OpenTeams();
+  AddPlayer(editor, "Ann", "5");
+  editor.List1_Click(1);
+  desktop_.Yes = false;
+  editor.Command6_Click();
+  EXPECT_EQ(editor.List1.Count(), 12);
+  desktop_.Yes = true;
+  editor.Command6_Click();
+  EXPECT_EQ(desktop_.Taken(), Texts(2, "?: Are you sure you want to delete A1?"));
+  EXPECT_EQ(editor.List1.Text(), "A0");
+  EXPECT_EQ(OpenTeams().List1.PlaceOf("A1"), ItemList::None);
+  editor.Command6_Click();
+  EXPECT_EQ(desktop_.Taken(), Texts{"!: You can't delete any more players."});
+  ASSERT_TRUE(SaveTeam(folder_.Folder, {"A", "75", {{"X", "1", "GK"}}}).Ok());
+  TeamEditor few = OpenTeams();
+  few.Command6_Click();
+  few.Command6_Click();
+  EXPECT_EQ(desktop_.Taken(),
+            (Texts{"?: Are you sure you want to delete X?", "!: You can't delete any more players."}));
+  EXPECT_EQ(Bytes("Teams/A"), AsWritten("75\n"));
 }
 
 TEST_F(EditorsTest, StadiumsAreAddedAndRemovedDownToOne) {
   StadEditor editor(folder_.Folder, desktop_);
   editor.Combo1_Click(2);
   AddStadium(editor, "Bowl", "99999");
-  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("2\nA\nMill\nLeat\n9\nB\nBowl\nBowl\n99999\n"));
-  EXPECT_EQ(Joined({editor.List1.Text(), editor.Combo1.Text(), editor.Text1, editor.Text2, editor.Text3}),
-            "Bowl|Neutral|||");
+  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("2\nA\nMill\nLeat\n9\nB\nBowl\nDell\n99999\n"));
+  EXPECT_EQ(editor.List1.Text(), "Bowl");
+  EXPECT_EQ(editor.Combo1.Text(), "Neutral");
+  EXPECT_EQ(editor.Text1 + editor.Text2 + editor.Text3, "");
   AddStadium(editor, "Park", "5");
   Write("settings.cfg", "");
   editor.List1_Click(1);
-  EXPECT_EQ(Press(editor, &StadEditor::Command1_Click, 3),
-            "?: Are you sure you want to remove Bowl?|?: Are you sure you want to remove Bowl?|"
-            "?: Are you sure you want to remove Mill?|!: You can't delete any more stadium.");
-  EXPECT_EQ(Joined(editor.List1.Entries) + editor.List1.Text() + LoadStadiums(folder_.Folder)[0].Name,
-            "ParkParkPark");
+  desktop_.Yes = false;
+  editor.Command1_Click();
+  EXPECT_EQ(editor.Label8(), "3");
+  desktop_.Yes = true;
+  editor.Command1_Click();
+  EXPECT_EQ(desktop_.Taken(), Texts(2, "?: Are you sure you want to remove Bowl?"));
+  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("2\nA\nMill\nLeat\n9\nNeutral\nPark\nDell\n5\n"));
   EXPECT_FALSE(Exists("settings.cfg"));
+  EXPECT_EQ(editor.List1.Text(), "Mill");
+  editor.Command1_Click();
+  editor.Command1_Click();
+  EXPECT_EQ(desktop_.Taken().back(), "!: You can't delete any more stadium.");
+}
+
+TEST_F(EditorsTest, WhatCannotBeSavedIsNotShown) {
+  TeamEditor teams = OpenTeams();
+  StadEditor stadiums(folder_.Folder, desktop_);
+  Remove("Teams");
+  Write("Teams", "no folder");
+  Remove("stadiums.sim");
+  Write("stadiums.sim/x", "a folder");
+  for (const Texts& told :
+       {AddTeam(teams, "New", "5"), AddPlayer(teams, "Ann", "5"), AddStadium(stadiums, "Park", "5")})
+    EXPECT_TRUE(told.back().starts_with("!: The file ")) << told.back();
+  EXPECT_EQ(teams.Combo3.Entries, (Texts{"A", "B"}));
+  EXPECT_EQ(teams.Label14(), "11");
+  EXPECT_EQ(teams.Text1, "New");
+  EXPECT_EQ(stadiums.List1.Entries, Texts{"Mill"});
+  EXPECT_EQ(stadiums.Text1, "Park");
+}
+
+TEST_F(EditorsTest, AFileThatCannotBeReadIsReportedOnceAndKept) {
+  AddTeams({"C", "D"});
+  TeamEditor teams = OpenTeams();
+  Remove("Teams/C");
+  teams.Combo3_Click(2);  // Missing, which is not reported.
+  const Texts teamMessage = {MakeUnreadable("Teams/B")};
+  teams.Combo3_Click(1);
+  EXPECT_EQ(desktop_.Taken(), teamMessage);
+  EXPECT_EQ(teams.Combo3.Text(), "A");
+  teams.Command5_Click();  // A goes, and B cannot take its place.
+  teams.Command2_Click();
+  EXPECT_EQ(teams.List1.Count(), 0);
+  EXPECT_FALSE(Exists("Teams/A"));
+
+  desktop_.Taken();
+  const std::string list = Bytes("stadiums.sim");
+  const Texts listMessage = {MakeUnreadable("stadiums.sim")};
+  StadEditor stadiums(folder_.Folder, desktop_);
+  EXPECT_EQ(desktop_.Taken(), listMessage);
+  folder_.Files.Unreadable.clear();
+  AddStadium(stadiums, "Park", "5");
+  EXPECT_EQ(Bytes("stadiums.sim"), list);  // Never replaced by what has not been read.
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // The match settings and the line-up selection.
+#include "base/at.h"
 #include "setup/selection.h"
 #include "setup/settings.h"
 #include "support/screen_test.h"
@@ -40,33 +41,9 @@ TEST_F(SetupTest, ATeamPickedOnOneSideMovesTheOtherSideOn) {
   EXPECT_EQ(teams(), Teams("A", "b"));
 }
 
-TEST_F(SetupTest, TheSettingsAreHandedToTheSelection) {
-  AddTeams({"Rovers", "United"});
-  const std::vector<Stadium> stadiums = {{"Rovers", "Mill", "Leat", "9"}, {"Neutral", "Bowl", "Dell", "100"}};
-  ASSERT_TRUE(SaveStadiums(folder_.Folder, stadiums).Ok());
-  Settings settings = OpenSettings();
-  settings.Combo3_Click(1);
-  settings.Combo4_Click(1);
-  settings.Combo5_Click(3);
-  settings.Check1_Click(true);
-  settings.Check2_Click(true);
-  settings.Command1_Click();
-  ASSERT_EQ(opened_.size(), 1U);
-  const MatchSetup& setup = opened_[0];
-  EXPECT_EQ(setup.Team1Name, "Rovers");
-  EXPECT_EQ(setup.Team2Name, "United");
-  EXPECT_EQ(setup.Venue, "Bowl, Dell");
-  EXPECT_EQ(setup.Capacity, 100);
-  EXPECT_EQ(setup.SimulationType, SimulationKind::FullSimulation);
-  EXPECT_EQ(setup.Weather, WeatherCondition::WarmAndHumid);
-  EXPECT_TRUE(setup.ExtraTime);
-  EXPECT_TRUE(setup.PenaltyShootOut);
-}
-
 TEST_F(SetupTest, AShootOutNeedsExtraTime) {
   Settings settings = OpenSettings();
   settings.Check1_Click(true);
-  EXPECT_TRUE(settings.Check2Enabled);
   settings.Check2_Click(true);
   settings.Check1_Click(false);
   EXPECT_FALSE(settings.Check2);
@@ -77,21 +54,28 @@ TEST_F(SetupTest, AMatchNeedsTwoTeamsAndAVenue) {
   OpenSettings().Command1_Click();  // Not even the folders exist.
   AddTeams({"A"});
   Settings settings = OpenSettings();
+  EXPECT_EQ(settings.Combo1.Text(), "");  // One team is no default.
   settings.Combo1_Click(0);
   settings.Combo2_Click(0);  // There is no other entry to move on to.
   settings.Command1_Click();
   EXPECT_EQ(desktop_.Taken(), Texts(2, "i: Please make all the settings properly"));
-  settings.Combo3.Entries = {"Mill"};
-  settings.Combo3_Click(0);
-  settings.Command1_Click();
-  EXPECT_EQ(opened_.size(), 1U);
+  AddTeams({"B"});
+  ASSERT_TRUE(SaveStadiums(folder_.Folder, {{"A", "Mill", "Leat", "100"}}).Ok());
+  Settings complete = OpenSettings();
+  complete.Combo5_Click(3);
+  complete.Command1_Click();
+  ASSERT_EQ(opened_.size(), 1U);
+  EXPECT_EQ(opened_[0].Weather, WeatherCondition::WarmAndHumid);
+  EXPECT_EQ(opened_[0].Capacity, 100);
 }
 
-TEST_F(SetupTest, TheFirstElevenAreShownWithTheirFigures) {
+TEST_F(SetupTest, TheFirstElevenAreShownWithTheirFiguresAndHandedOverInSlotOrder) {
+  AddTeams({"United"});
   Team rovers = MakeTeam("Rovers", "R", "70");
-  rovers.Players[1].Skill = "none";  // Counts 0.
+  std::swap(rovers.Players[0], rovers.Players[9]);  // The keeper's slot is the last but one.
+  rovers.Players[1].Skill = "none";                 // Counts 0.
   rovers.Players[10].Skill = "75";
-  rovers.Players.push_back({"Sub", "99", "SWEEPER"});
+  rovers.Players.push_back({"Sub", "99", "MFX"});  // Plays in no line.
   ASSERT_TRUE(SaveTeam(folder_.Folder, rovers).Ok());
   Selection selection = OpenSelection();
   const LineUp& side = selection.Side1;
@@ -100,57 +84,39 @@ TEST_F(SetupTest, TheFirstElevenAreShownWithTheirFigures) {
   EXPECT_EQ(side.OverallSkill, 64);  // 705 / 11
   EXPECT_EQ(side.Keeping, 70);
   EXPECT_EQ(side.Defence, 52);  // 210 / 4
-  EXPECT_EQ(side.Midfield, 70);
-  EXPECT_EQ(side.Attack, 72);      // 145 / 2
-  selection.Combo1_Click(10, 11);  // Plays in no line, so counts in the overall skill only.
-  EXPECT_EQ(side.Slots[10].Position, "SWEEPER");
+  EXPECT_EQ(side.Attack, 72);   // 145 / 2
+  selection.Combo1_Click(10, 11);
   EXPECT_EQ(side.Formation, "4-4-1");
   EXPECT_EQ(side.OverallSkill, 66);
-  EXPECT_EQ(side.Attack, 70);
-}
-
-TEST_F(SetupTest, TheLineUpsAreHandedOverInSlotOrder) {
-  AddTeams({"United"});
-  Team rovers = MakeTeam("Rovers", "R", "70");
-  rovers.Players[8].Position = "SWEEPER";  // Of no line.
-  ASSERT_TRUE(SaveTeam(folder_.Folder, rovers).Ok());
-  Selection selection = OpenSelection();
-  selection.Combo1_Click(0, 9);
-  selection.Combo1_Click(9, 0);
   selection.Command1_Click();
   ASSERT_EQ(opened_.size(), 1U);
-  const MatchSetup& setup = opened_[0];
-  EXPECT_EQ(setup.Team1Attackers, (Texts{"R9", "R5", "R6", "R7", "R10"}));
-  EXPECT_EQ(setup.Team1Outfield, (Texts{"R9", "R1", "R2", "R3", "R4", "R5", "R6", "R7", "R10"}));
-  EXPECT_EQ(setup.Team2Attackers.front(), "United5");
-  EXPECT_EQ(setup.Team2Outfield.front(), "United1");
-  EXPECT_EQ(setup.Team1Strength, 70);
-  EXPECT_EQ(setup.Team2Strength, 80);
+  EXPECT_EQ(opened_[0].Team1Attackers, (Texts{"R9", "R5", "R6", "R7", "R8"}));
+  EXPECT_EQ(opened_[0].Team1Outfield, (Texts{"R9", "R1", "R2", "R3", "R4", "R5", "R6", "R7", "R8"}));
+  EXPECT_EQ(opened_[0].Team2Outfield.size(), 10U);
+  EXPECT_EQ(opened_[0].Team1Strength, 66);
+  EXPECT_EQ(opened_[0].Team2Strength, 80);
 }
 
-TEST_F(SetupTest, ASquadOfTenCannotPlay) {
+TEST_F(SetupTest, OnlyElevenPlayersCanPlay) {
+  OpenSelection().Command1_Click();  // Without squads all names are empty.
   Team rovers = MakeTeam("Rovers", "R");
   rovers.Players.pop_back();
   ASSERT_TRUE(SaveTeam(folder_.Folder, rovers).Ok());
-  Selection selection = OpenSelection();
-  selection.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(), Texts{"!: Rovers don't have enough players to play."});
-  EXPECT_FALSE(selection.Command1Enabled);
+  OpenSelection().Command1_Click();  // Disabled.
+  EXPECT_EQ(desktop_.Taken(), (Texts{"!:  of Rovers has been selected more than once.",
+                                     "!: Rovers don't have enough players to play."}));
 }
 
 TEST_F(SetupTest, TheLastPlayerChosenTwiceIsReported) {
-  OpenSelection().Command1_Click();  // Without squads all names are empty.
-  EXPECT_EQ(desktop_.Taken(), Texts{"!:  of Rovers has been selected more than once."});
   AddTeams({"Rovers", "United"});
   Selection selection = OpenSelection();
   selection.Combo1_Click(0, 1);  // No goalkeeper either, but that rule comes later.
   selection.Combo2_Click(10, 9);
   selection.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(), Texts{"!: United9 of United has been selected more than once."});
   selection.Combo1_Click(10, 9);  // The same pair as on side 2.
   selection.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(), Texts{"!: Rovers9 of Rovers has been selected more than once."});
-  EXPECT_TRUE(opened_.empty());
+  EXPECT_EQ(desktop_.Taken(), (Texts{"!: United9 of United has been selected more than once.",
+                                     "!: Rovers9 of Rovers has been selected more than once."}));
   EXPECT_FALSE(selection.Closed);
 }
 
@@ -158,9 +124,8 @@ TEST_F(SetupTest, TheLastPlayerChosenTwiceIsReported) {
 LineUp LineUpOf(const Texts& positions) {
   LineUp side;
   for (int slot = 0; slot < SlotCount; ++slot) {
-    const auto place = static_cast<std::size_t>(slot);
-    side.Squad.push_back(
-        {std::to_string(slot), "61", place < positions.size() ? positions[place] : "SWEEPER"});
+    const bool given = slot < std::ssize(positions);
+    side.Squad.push_back({std::to_string(slot), "61", given ? At(positions, slot) : "SWEEPER"});
     side.Choose(slot, slot);
   }
   return side;
@@ -190,7 +155,6 @@ TEST_F(SetupTest, AFileThatCannotBeReadIsReportedOnce) {
   Selection selection = OpenSelection();
   selection.Command1_Click();
   EXPECT_EQ(desktop_.Taken(), team);
-  EXPECT_FALSE(selection.Command1Enabled);
   EXPECT_EQ(selection.Side1.Formation, "4-4-2");  // The other team is there.
 }
 

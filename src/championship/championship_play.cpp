@@ -1,6 +1,5 @@
 #include "championship/championship_play.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "data/championship_store.h"
@@ -9,6 +8,15 @@
 #include "data/tell_failure.h"
 
 namespace kickwell {
+namespace {
+
+/// The match whose winner a fixture of a knock-out waits for; 0 when both teams are known.
+int AwaitedMatch(const Fixture& fixture) {
+  const int home = PlaceholderNumber(fixture.Home);
+  return home > 0 ? home : PlaceholderNumber(fixture.Away);
+}
+
+}  // namespace
 
 ChampionshipPlay::ChampionshipPlay(ChampionshipKind kind, ProgramFolder folder, Desktop& desktop,
                                    SetChampionship setChampionship, OpenSelection openSelection)
@@ -53,7 +61,7 @@ void ChampionshipPlay::Load(const std::string& fileName) {
   }
   To = From;
   From.PickFirst();
-  To.Pick(std::min(To.Count(), 2) - 1);
+  To.Pick(To.Count() > 1 ? 1 : 0);
   Changed();
 }
 
@@ -73,21 +81,17 @@ void ChampionshipPlay::Command1_Click() {
 }
 
 void ChampionshipPlay::HandOver(int number) {
-  if (number > static_cast<int>(fixtures_.size())) return;  // The file has lost it in the meantime.
+  if (number > FixtureList.Count()) return;  // The file has lost it in the meantime.
   const Fixture fixture = At(fixtures_, number - 1);
   const std::string match = "Match " + std::to_string(number);
   if (fixture.Status != NotPlayed) {
     desktop_.Inform(match + " has been played already");
     return;
   }
-  if (kind_ == ChampionshipKind::KnockOut) {
-    for (const std::string& entry : {fixture.Home, fixture.Away}) {
-      if (const int earlier = PlaceholderNumber(entry)) {
-        desktop_.Inform(match + " can't be played before match " + std::to_string(earlier) +
-                        " has been played");
-        return;
-      }
-    }
+  const int awaited = kind_ == ChampionshipKind::KnockOut ? AwaitedMatch(fixture) : 0;
+  if (awaited > 0) {
+    desktop_.Inform(match + " can't be played before match " + std::to_string(awaited) + " has been played");
+    return;
   }
   MatchSetup setup;
   setup.Mode = ModeOf(kind_);

@@ -28,12 +28,13 @@ class ChampionshipPlay {
   void To_Click(int entry) { To.Picked = entry; }
   void SimulationType_Click(int entry) { SimulationType.Picked = entry; }
 
-  /// Reads the championship's fixtures and offers all of them. A missing file changes nothing. A file that
-  /// stores another name than its own is refused: its results would go to that other championship. So is
-  /// every file while an earlier change cannot be finished.
+  /// Reads the championship's fixtures and offers them all. A file that is missing or can't be read changes
+  /// nothing. Neither does one that stores another name than its own, because its results would go to that
+  /// other championship, nor any file while an interrupted change can't be finished.
   void Load(const std::string& fileName);
 
-  /// Hands the unplayed fixtures of the range to the line-up selection, one after the other.
+  /// Hands the unplayed fixtures of the range to the line-up selection, one after the other, and reports
+  /// those that can't be played.
   void Command1_Click();
   void Command2_Click() { Closed = true; }
 
@@ -46,12 +47,14 @@ class ChampionshipPlay {
   ItemList SimulationType;
   bool Closed = false;
 
-  std::function<void()> Changed = [] {
-  };  ///< Called when fixtures have been read again in the middle of a range.
+  /// Called when fixtures have been read, also in the middle of a range.
+  std::function<void()> Changed = [] {};
 
  private:
   void Form_Load();
   void HandOver(int number);
+
+  /// The team that plays for a fixture's entry: a winner by toss plays under its own name.
   std::string TeamOf(const std::string& entry) const;
 
   ChampionshipKind kind_;

@@ -10,7 +10,7 @@
 namespace kickwell {
 namespace {
 
-/// As many exchanges of two drawn places as there are fixtures.
+/// Exchanges two drawn places, as many times as there are fixtures.
 void Shuffle(std::vector<Pairing>& fixtures, Random& random) {
   const int count = static_cast<int>(fixtures.size());
   for (int i = 0; i < count; ++i) {

@@ -1,4 +1,4 @@
-// Generated fixtures.
+// Fixtures that the program makes, and the limits of a championship.
 #pragma once
 
 #include <string>
@@ -9,15 +9,15 @@
 
 namespace kickwell {
 
-inline constexpr int MostFixtures = 1001;              ///< Of one championship.
-inline constexpr int MostTeamsOfGeneratedLeague = 32;  ///< Their fixtures are no more than MostFixtures.
+inline constexpr int MostFixtures = 1001;              ///< Of a championship.
+inline constexpr int MostTeamsOfGeneratedLeague = 32;  ///< More would need more than MostFixtures.
 inline constexpr int MostTeamsOfLeague = 100;
 
-/// The double round robin of `teams`, in an order drawn: every ordered pair of teams once.
+/// The double round robin of `teams` in a drawn order: each team once at home to every other.
 std::vector<Pairing> LeagueFixture(const std::vector<std::string>& teams, Random& random);
 
-/// The draw of a knock-out between 2, 4, 8 or 16 teams. The teams of the first half meet those of the second
-/// at home, in an order drawn; then come the placeholders of the later rounds, the final last.
+/// The draw of a knock-out between 2, 4, 8 or 16 teams. In the first round the teams of the first half are at
+/// home to those of the second, in a drawn order. The later rounds follow between placeholders.
 std::vector<Pairing> KnockOutFixture(const std::vector<std::string>& teams, Random& random);
 
 }  // namespace kickwell

@@ -1,7 +1,5 @@
 #include "championship/knock_charts.h"
 
-#include <algorithm>
-
 #include "data/championship_store.h"
 #include "data/tell_failure.h"
 
@@ -14,11 +12,13 @@ KnockCharts::KnockCharts(const ProgramFolder& folder, Desktop& desktop, const st
   Label1 = read->Name + " Table";
   Matches = ChartMatches(read->TeamCount);
   if (!Matches.empty()) VisibleSlots = 2 * read->TeamCount - 1;
-  for (std::size_t k = 0; k < std::min(Matches.size(), read->Fixtures.size()); ++k) {
-    const Fixture& fixture = read->Fixtures[k];
-    At(team_, Matches[k].Home) = fixture.Home;
-    At(team_, Matches[k].Away) = fixture.Away;
-    At(team_, Matches[k].Winner) = fixture.Winner;
+  auto match = Matches.begin();
+  for (const Fixture& fixture : read->Fixtures) {
+    if (match == Matches.end()) break;
+    At(team_, match->Home) = fixture.Home;
+    At(team_, match->Away) = fixture.Away;
+    At(team_, match->Winner) = fixture.Winner;
+    ++match;
   }
 }
 

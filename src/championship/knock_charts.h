@@ -14,7 +14,7 @@ namespace kickwell {
 
 class KnockCharts {
  public:
-  /// Reads the knock-out of that name; there may be none.
+  /// Reads the knock-out of that name. Without one the chart stays empty.
   KnockCharts(const ProgramFolder& folder, Desktop& desktop, const std::string& championship);
 
   void Command3_Click() { Closed = true; }
@@ -23,8 +23,8 @@ class KnockCharts {
   const std::string& Text(int slot) const { return At(team_, slot); }
 
   std::string Label1 = "Knock Out Table";  ///< The heading.
-  std::vector<ChartMatch> Matches;         ///< What the chart shows.
-  int VisibleSlots = 0;                    ///< Slots 0 to this, less one, are shown.
+  std::vector<ChartMatch> Matches;         ///< In the order of the fixtures.
+  int VisibleSlots = 0;                    ///< The first so many slots are shown.
   bool Closed = false;
 
  private:

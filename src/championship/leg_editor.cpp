@@ -10,6 +10,7 @@
 #include "data/tell_failure.h"
 
 namespace kickwell {
+
 LegEditor::LegEditor(ProgramFolder folder, Desktop& desktop, Random& random)
     : folder_(std::move(folder)), desktop_(desktop), random_(random) {
   Form_Load();
@@ -49,13 +50,18 @@ void LegEditor::FewerTeams_Click() {
   if (KnockOut.NumberOfTeams > FewestTeamsOfKnockOut) KnockOut.NumberOfTeams /= 2;
 }
 
-void LegEditor::ShowFixture(EditorSide& side, Pairing fixture) {
+void LegEditor::ClearFixtures(EditorSide& side) {
+  side.FixtureList = {};
+  side.Table.clear();
+}
+
+void LegEditor::AddFixture(EditorSide& side, Pairing fixture) {
   side.FixtureList.Add(FixtureText(side.FixtureList.Count() + 1, fixture));
   side.Table.push_back(std::move(fixture));
 }
 
 void LegEditor::AutoFixtures_Click(EditorSide& side) {
-  const bool league = side.Kind == ChampionshipKind::League;
+  const bool league = side.IsLeague();
   if (!league && side.NumberOfTeams != side.Selected.Count()) {
     desktop_.Inform("Total teams selected doesn't match the number of teams");
     return;
@@ -70,11 +76,10 @@ void LegEditor::AutoFixtures_Click(EditorSide& side) {
     return;
   }
   side.ManualEntry = false;
-  side.FixtureList = {};
-  side.Table.clear();
+  ClearFixtures(side);
   const std::vector<std::string>& teams = side.Selected.Entries;
   for (Pairing& fixture : league ? LeagueFixture(teams, random_) : KnockOutFixture(teams, random_)) {
-    ShowFixture(side, std::move(fixture));
+    AddFixture(side, std::move(fixture));
   }
 }
 
@@ -90,25 +95,21 @@ void LegEditor::AddFixture_Click() {
   } else if (League.ManualEntry && League.FixtureList.Count() >= MostFixtures) {
     desktop_.Inform("A championship can have at most " + std::to_string(MostFixtures) + " matches");
   } else {
-    if (!std::exchange(League.ManualEntry, true)) {
-      League.FixtureList = {};
-      League.Table.clear();
-    }
-    ShowFixture(League, {home, away});
+    if (!std::exchange(League.ManualEntry, true)) ClearFixtures(League);
+    AddFixture(League, {home, away});
   }
 }
 
 bool LegEditor::MayBeSaved(const EditorSide& side) {
-  const bool league = side.Kind == ChampionshipKind::League;
-  const bool holdsKnockOut =
-      side.Selected.Count() == side.NumberOfTeams && IsKnockOut(side.Selected.Entries, side.Table);
+  const bool complete = side.IsLeague() || (side.Selected.Count() == side.NumberOfTeams &&
+                                            IsKnockOut(side.Selected.Entries, side.Table));
   if (side.Selected.Count() < 2) {
     desktop_.Inform("Please select the championship teams properly");
-  } else if (side.Table.empty() || (!league && !holdsKnockOut)) {
+  } else if (side.Table.empty() || !complete) {
     desktop_.Inform("Please add the championship fixtures properly");
   } else if (side.Name.empty()) {
     desktop_.Inform("Please enter a name for the championship");
-  } else if (league && side.Selected.Count() > MostTeamsOfLeague) {
+  } else if (side.IsLeague() && side.Selected.Count() > MostTeamsOfLeague) {
     desktop_.Inform("A league can have at most " + std::to_string(MostTeamsOfLeague) + " teams");
   } else if (!IsFileName(side.Name)) {
     desktop_.Warn(FileNameRefusal(side.Name));
@@ -142,21 +143,21 @@ void LegEditor::Save_Click(EditorSide& side) {
 void LegEditor::Load_Click(EditorSide& side, int entry) {
   const auto [loaded, result] =
       ReadChampionship(folder_, IdOfMainFile(side.Kind, At(side.Load.Entries, entry)));
-  if (!TellFailure(desktop_, result)) return;
-  side.Load.Picked = entry;
+  TellFailure(desktop_, result);
   if (!loaded) return;
+  side.Load.Picked = entry;
   side.Available.Entries = ListTeams(folder_);
-  side.Selected = side.FixtureList = side.Home = side.Away = {};
-  side.Table.clear();
+  side.Selected = {};
+  ClearFixtures(side);
   side.Name = loaded->Id.Name;
   for (const std::string& team : loaded->Teams) {
     side.Selected.Insert(team, ListedBefore);
     std::erase(side.Available.Entries, team);
   }
   side.Available.PickFirst();
-  side.Home.Entries = side.Away.Entries = side.Selected.Entries;
+  side.Home = side.Away = {side.Selected.Entries};
   side.NumberOfTeams = KnockOutSizeWithin(side.Selected.Count());
-  for (const Fixture& fixture : loaded->Fixtures) ShowFixture(side, {fixture.Home, fixture.Away});
+  for (const Fixture& fixture : loaded->Fixtures) AddFixture(side, {fixture.Home, fixture.Away});
   side.ManualEntry = true;
 }
 

@@ -17,15 +17,17 @@ namespace kickwell {
 struct EditorSide {
   explicit EditorSide(ChampionshipKind kind) : Kind(kind) {}
 
+  bool IsLeague() const { return Kind == ChampionshipKind::League; }
+
   ChampionshipKind Kind;
-  std::string Name;              ///< The name box, at most 20 characters.
+  std::string Name;              ///< In the name box, at most 20 characters.
   ItemList Available, Selected;  ///< Team lists, alphabetical ignoring letter case.
   ItemList FixtureList;          ///< As the fixtures are shown.
-  std::vector<Pairing> Table;    ///< The fixtures of the list.
+  std::vector<Pairing> Table;    ///< The fixtures themselves.
   ItemList Load;                 ///< Main files of this kind.
 
   ItemList Home, Away;       ///< League only: the selected teams.
-  bool ManualEntry = false;  ///< League only: the next hand-made fixture is added to the list.
+  bool ManualEntry = false;  ///< League only: the next hand-made fixture joins the list.
   int NumberOfTeams = 2;     ///< Knock-out only: the chosen number, 2, 4, 8 or 16.
 };
 
@@ -33,20 +35,17 @@ class LegEditor {
  public:
   LegEditor(ProgramFolder folder, Desktop& desktop, Random& random);
 
-  /// Fills the team lists and the load choosers and shows the league side.
-  void Form_Load();
-
   void Kind_Click(int entry) { Kind.Picked = entry; }
 
-  // Actions of one side, which is `League` or `KnockOut` of this editor.
+  // Actions of one side, `League` or `KnockOut`.
   static void AddTeam_Click(EditorSide& side);
   static void RemoveTeam_Click(EditorSide& side);
   void AutoFixtures_Click(EditorSide& side);
   void Save_Click(EditorSide& side);
-  void Load_Click(EditorSide& side, int entry);
-  void Delete_Click(EditorSide& side);
+  void Load_Click(EditorSide& side, int entry);  ///< A file that is missing or can't be read changes nothing.
+  void Delete_Click(EditorSide& side);           ///< Deletes the championship that the load chooser shows.
 
-  /// Adds a fixture of the home and away teams picked. The first one replaces a generated list.
+  /// Adds a fixture of the picked home and away teams. The first one replaces a generated list.
   void AddFixture_Click();
   void MoreTeams_Click();   ///< Doubles the number of teams, up to 16.
   void FewerTeams_Click();  ///< Halves it, down to 2.
@@ -58,7 +57,9 @@ class LegEditor {
   bool Closed = false;
 
  private:
-  static void ShowFixture(EditorSide& side, Pairing fixture);
+  void Form_Load();
+  static void ClearFixtures(EditorSide& side);
+  static void AddFixture(EditorSide& side, Pairing fixture);
   bool MayBeSaved(const EditorSide& side);
 
   ProgramFolder folder_;

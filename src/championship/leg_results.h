@@ -12,7 +12,7 @@ namespace kickwell {
 
 class LegResults {
  public:
-  /// Reads the results log; there may be none.
+  /// Reads the results log. Without one the list stays empty.
   LegResults(ProgramFolder folder, Desktop& desktop, const ChampionshipId& id);
 
   void Command2_Click();  ///< Asks for a file name and writes the list as an HTML page.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "base/at.h"
@@ -11,6 +12,13 @@ namespace kickwell {
 
 class Ranking {
  public:
+  /// Adds an entry at the end, its rank as the first column, and shows the first page.
+  void Add(std::vector<std::string> columns) {
+    columns.insert(columns.begin(), std::to_string(Rows.size() + 1));
+    Rows.push_back(std::move(columns));
+    Pages.Open(static_cast<int>(Rows.size()));
+  }
+
   void nextpage_Click() { Pages.Next(); }
   void prevpage_Click() { Pages.Back(); }
   void Marker_MouseMove(int row) { Pages.Hover(row); }

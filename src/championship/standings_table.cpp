@@ -3,11 +3,25 @@
 #include <algorithm>
 #include <functional>
 #include <tuple>
+#include <utility>
 
 #include "data/championship_store.h"
 #include "data/tell_failure.h"
 
 namespace kickwell {
+namespace {
+
+long long GoalDifference(const StandingsRow& row) {
+  return static_cast<long long>(row.GoalsFor) - row.GoalsAgainst;
+}
+
+/// What decides the order, the highest first: each figure counts among teams that are level in those before
+/// it.
+auto Order(const StandingsRow& row) {
+  return std::tuple(row.Points, GoalDifference(row), row.GoalsFor);
+}
+
+}  // namespace
 
 Ranking StandingsTable(const ProgramFolder& folder, Desktop& desktop, const std::string& league) {
   const ChampionshipId id{ChampionshipKind::League, league};
@@ -18,20 +32,14 @@ Ranking StandingsTable(const ProgramFolder& folder, Desktop& desktop, const std:
   if (!read) return table;
   table.Label1 = read->Id.Name + " Standings";
   auto [standings, readingStandings] = ReadStandings(folder, id, read->Teams);
-  if (!TellFailure(desktop, readingStandings)) return table;
-  // A stable sort by the three keys at once gives what sorting by each in turn among the rows still level
-  // gives.
-  const auto keys = [](const StandingsRow& row) {
-    return std::tuple(row.Points, static_cast<long long>(row.GoalsFor) - row.GoalsAgainst, row.GoalsFor);
-  };
-  std::ranges::stable_sort(standings, std::greater(), keys);
+  if (!TellFailure(desktop, readingStandings)) return table;  // All zeros would be a wrong table.
+  std::ranges::stable_sort(standings, std::greater(), Order);
   if (standings.size() > MostStandings) standings.resize(MostStandings);
   for (const StandingsRow& row : standings) {
-    std::vector<std::string> texts{std::to_string(table.Rows.size() + 1), row.Team};
-    for (const auto figure : StandingsRow::Figures()) texts.push_back(std::to_string(row.*figure));
-    table.Rows.push_back(std::move(texts));
+    std::vector<std::string> columns{row.Team};
+    for (const auto figure : StandingsRow::Figures()) columns.push_back(std::to_string(row.*figure));
+    table.Add(std::move(columns));
   }
-  table.Pages.Open(static_cast<int>(table.Rows.size()));
   return table;
 }
 

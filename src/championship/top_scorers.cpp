@@ -14,12 +14,7 @@ Ranking TopScorers(const ProgramFolder& folder, Desktop& desktop, const Champion
   auto [scorers, result] = ReadScorers(folder, id);
   TellFailure(desktop, result);
   std::ranges::stable_sort(scorers, std::greater(), &ScorerRow::Goals);
-  list.Rows.reserve(scorers.size());
-  for (ScorerRow& row : scorers) {
-    list.Rows.push_back({std::to_string(list.Rows.size() + 1), std::move(row.Player), std::move(row.Team),
-                         std::to_string(row.Goals)});
-  }
-  list.Pages.Open(static_cast<int>(list.Rows.size()));
+  for (const ScorerRow& row : scorers) list.Add({row.Player, row.Team, std::to_string(row.Goals)});
   return list;
 }
 

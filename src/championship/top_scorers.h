@@ -10,7 +10,7 @@
 
 namespace kickwell {
 
-/// All scorers, most goals first; those with equally many in the order in which they first scored. Columns:
+/// All scorers, most goals first; those level on goals in the order in which they first scored. Columns:
 /// rank, player, team, goals.
 Ranking TopScorers(const ProgramFolder& folder, Desktop& desktop, const ChampionshipId& id);
 

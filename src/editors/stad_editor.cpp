@@ -31,8 +31,8 @@ void StadEditor::ShowStadiums(int selected) {
   List1.Pick(selected);
 }
 
-/// Makes these the stadiums, on disk and here; neither when saving fails or would replace what has never been
-/// read.
+/// Makes these the stadiums, on disk and here. If saving fails, neither changes. A list that could not be
+/// read is never replaced.
 bool StadEditor::Save(std::vector<Stadium> stadiums) {
   if (!TellFailure(desktop_, loading_) || !TellFailure(desktop_, SaveStadiums(folder_, stadiums)))
     return false;

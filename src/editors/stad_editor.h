@@ -18,7 +18,7 @@ class StadEditor {
   void List1_Click(int entry) { List1.Picked = entry; }
   void Combo1_Click(int entry) { Combo1.Picked = entry; }
 
-  // Each tests its input in a fixed order and tells the first fault, then asks.
+  // Each checks its input in a fixed order and reports the first fault. Without one, it asks first.
   void Command2_Click();  ///< Adds the stadium of the three text boxes and Combo1.
   void Command1_Click();  ///< Removes the selected stadium.
   void Command3_Click() { Closed = true; }
@@ -39,7 +39,7 @@ class StadEditor {
   ProgramFolder folder_;
   Desktop& desktop_;
   std::vector<Stadium> stadiums_;  ///< As they are on disk.
-  FileResult loading_;             ///< Why the list that is there could not be read.
+  FileResult loading_;             ///< A failure while there is a list that could not be read.
 };
 
 }  // namespace kickwell

@@ -48,7 +48,7 @@ void TeamEditor::ShowSquad(int selected) {
   List1.Pick(selected);
 }
 
-/// Makes `changed` the team, on disk and here; neither when saving fails.
+/// Makes `changed` the team, on disk and here. If saving fails, neither changes.
 bool TeamEditor::Save(Team changed, int selected) {
   if (!TellFailure(desktop_, SaveTeam(folder_, changed))) return false;
   team_ = std::move(changed);
@@ -78,8 +78,7 @@ void TeamEditor::Command7_Click() {
     return;
   }
   if (!SkillIsFine(Text5)) return;
-  // A file of that name that is not in the list is one that differs in letter case alone, where that is no
-  // difference.
+  // Where file names ignore letter case, a team that is not in the list can still be there.
   if (Combo3.PlaceOf(name) != ItemList::None || TeamExists(folder_, name)) {
     desktop_.Inform(name + " already exists");
     return;
@@ -150,6 +149,8 @@ void TeamEditor::Command5_Click() {
   if (name.empty() || !desktop_.Ask("Are you sure you want to delete " + name + "?")) return;
   if (!TellFailure(desktop_, DeleteTeam(folder_, name))) return;
   Combo3.RemoveAt(Combo3.Picked);
+  team_ = {};  // Gone for good, even if no other team can be loaded.
+  ShowSquad(0);
   Combo3_Click(0);
 }
 

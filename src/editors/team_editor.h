@@ -12,15 +12,15 @@ namespace kickwell {
 
 class TeamEditor {
  public:
-  /// `league` is the current championship, whose standings take a new team in, or "N/A".
+  /// `league` is the current championship, whose standings a new team joins, or "N/A".
   TeamEditor(ProgramFolder folder, Desktop& desktop, std::string league);
 
-  void Combo3_Click(int entry);  ///< Loads a team; one whose file is gone changes nothing.
+  void Combo3_Click(int entry);  ///< Loads a team. A file that is missing or can't be read changes nothing.
   void List1_Click(int entry) { List1.Picked = entry; }
   void Combo1_Click(int entry) { Combo1.Picked = entry; }
   void Combo2_Click(int entry) { Combo2.Picked = entry; }
 
-  // Each tests its input in a fixed order and tells the first fault, then asks.
+  // Each checks its input in a fixed order and reports the first fault. Without one, it asks first.
   void Command7_Click();  ///< Adds the team of Text1 and Text5.
   void Command8_Click();  ///< Adds the player of Text2, Text4, Combo1 and Combo2 to the team.
   void Command6_Click();  ///< Deletes the selected player.

@@ -4,13 +4,22 @@
 #include <cstdint>
 #include <utility>
 
+#include "base/at.h"
 #include "base/number.h"
 
 namespace kickwell {
 namespace {
 
-/// The name chosen twice in the last pair of slots that holds one, with its team; side 1 before side 2 in a
-/// pair.
+/// The slots of a line, and the sum of their skills. Files edited by hand may hold any number.
+struct LineSum {
+  int Slots = 0;
+  std::int64_t Skill = 0;
+
+  int MeanSkill() const { return Slots == 0 ? 0 : static_cast<int>(Skill / Slots); }
+};
+
+/// The player who stands in both slots of a pair, with his team. Of several pairs the last one counts, and
+/// side 1 comes before side 2 in the same pair.
 std::optional<std::string> ChosenTwice(const LineUp& side1, const std::string& team1, const LineUp& side2,
                                        const std::string& team2) {
   std::optional<std::string> twice;
@@ -39,48 +48,43 @@ std::optional<PositionLine> LineOf(std::string_view position) {
 }
 
 void LineUp::Choose(int slot, int player) {
-  const Player& chosen = Squad.at(static_cast<std::size_t>(player));
-  Slots.at(static_cast<std::size_t>(slot)) = {player, chosen.Position, chosen.Skill};
+  const Player& chosen = At(Squad, player);
+  At(Slots, slot) = {player, chosen.Position, chosen.Skill};
   WorkOutFigures();
 }
 
 void LineUp::WorkOutFigures() {
-  std::array<int, 4> counts{};
-  std::array<std::int64_t, 4> sums{};  // Skills of files edited by hand may be any number.
+  std::array<LineSum, 4> lines;
   std::int64_t total = 0;
   for (const LineUpSlot& slot : Slots) {
     const int skill = ToNumber(slot.Skill);
     total += skill;
     if (const std::optional<PositionLine> line = LineOf(slot.Position)) {
-      ++counts[static_cast<std::size_t>(*line)];
-      sums[static_cast<std::size_t>(*line)] += skill;
+      LineSum& sum = At(lines, static_cast<int>(*line));
+      ++sum.Slots;
+      sum.Skill += skill;
     }
   }
-  const auto count = [&](PositionLine line) { return counts[static_cast<std::size_t>(line)]; };
-  const auto mean = [&](PositionLine line) {
-    return count(line) == 0 ? 0 : static_cast<int>(sums[static_cast<std::size_t>(line)] / count(line));
-  };
+  const auto& [keeping, defence, midfield, attack] = lines;  // As in PositionLine.
   OverallSkill = static_cast<int>(total / SlotCount);
-  Goalkeepers = count(PositionLine::Goalkeeper);
-  Formation = std::to_string(count(PositionLine::Defence)) + "-" +
-              std::to_string(count(PositionLine::Midfield)) + "-" +
-              std::to_string(count(PositionLine::Attack));
-  Attack = mean(PositionLine::Attack);
-  Defence = mean(PositionLine::Defence);
-  Midfield = mean(PositionLine::Midfield);
-  Keeping = mean(PositionLine::Goalkeeper);
+  Goalkeepers = keeping.Slots;
+  Formation = std::to_string(defence.Slots) + "-" + std::to_string(midfield.Slots) + "-" +
+              std::to_string(attack.Slots);
+  Attack = attack.MeanSkill();
+  Defence = defence.MeanSkill();
+  Midfield = midfield.MeanSkill();
+  Keeping = keeping.MeanSkill();
 }
 
 std::string LineUp::NameIn(int slot) const {
-  const int player = Slots.at(static_cast<std::size_t>(slot)).Player;
-  return player < 0 ? std::string() : Squad.at(static_cast<std::size_t>(player)).Name;
+  const int player = At(Slots, slot).Player;
+  return player < 0 ? std::string() : At(Squad, player).Name;
 }
 
 std::vector<std::string> LineUp::NamesFrom(PositionLine line) const {
   std::vector<std::string> names;
-  for (int i = 0; i < SlotCount; ++i) {
-    // The lines stand in the order of the pitch, so "from" a line means it and those before it.
-    if (LineOf(Slots[static_cast<std::size_t>(i)].Position) >= line) names.push_back(NameIn(i));
+  for (int slot = 0; slot < SlotCount; ++slot) {
+    if (LineOf(At(Slots, slot).Position) >= line) names.push_back(NameIn(slot));
   }
   return names;
 }

@@ -13,6 +13,7 @@ namespace kickwell {
 
 inline constexpr int SlotCount = 11;
 
+/// From the own goal forward.
 enum class PositionLine { Goalkeeper, Defence, Midfield, Attack };
 
 /// The line of a position code, for example "MFC"; none for a text that is no such code.
@@ -33,12 +34,13 @@ struct LineUp {
   std::string Formation = "0-0-0";  ///< Defenders, midfielders and forwards.
   int OverallSkill = 0;             ///< Sum of the eleven skills divided by 11.
   int Goalkeepers = 0;
-  std::optional<int> Attack, Defence, Midfield, Keeping;  ///< Mean skill of the line, 0 for an empty one;
-                                                          ///< none before the first choice.
+
+  /// Mean skill of each line; 0 for a line without players, none before the first choice.
+  std::optional<int> Attack, Defence, Midfield, Keeping;
 
   bool CanPlay() const { return Squad.size() >= SlotCount; }
 
-  /// Puts player `player` of the squad into slot `slot` and works the figures out anew.
+  /// Puts player `player` of the squad into slot `slot` and works out all figures again.
   void Choose(int slot, int player);
 
   /// The name chosen in a slot; empty before a choice.
@@ -52,12 +54,13 @@ struct LineUp {
 
  private:
   void WorkOutFigures();
+
+  /// The names chosen in `line` and the lines in front of it, in slot order.
   std::vector<std::string> NamesFrom(PositionLine line) const;
 };
 
-/// What keeps two line-ups from playing, in the words that the user is told; nothing when they may. Of
-/// several reasons the first in the order of the rules: nobody twice, goalkeepers, forwards, defenders,
-/// midfielders.
+/// Why the two line-ups can't play, as a sentence for the user; nothing when they can. The rules are checked
+/// in this order, side 1 first: no player twice, one goalkeeper, forwards, defenders, midfielders.
 std::optional<std::string> LineUpFault(const LineUp& side1, const std::string& team1, const LineUp& side2,
                                        const std::string& team2);
 

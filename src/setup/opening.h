@@ -1,4 +1,4 @@
-// The main menu: the program's first screen. It holds the mode and the championship of the whole run.
+// The main menu, the program's first screen. It keeps the mode and the championship for the whole run.
 #pragma once
 
 #include <functional>
@@ -9,8 +9,7 @@
 
 namespace kickwell {
 
-/// Opens each screen over the menu and returns when it has closed. A screen that is not wired cannot be
-/// opened.
+/// Each opens a screen over the menu and returns when it has closed. An empty one opens nothing.
 struct OpeningScreens {
   using Open = std::function<void()>;
   Open Settings, KnockSettings, LegSettings;
@@ -45,8 +44,8 @@ class Opening {
   bool KnockChartVisible = true;
   bool Closed = false;  ///< The program is to end.
 
-  std::function<void()> Changed = [] {
-  };  ///< Called when what the menu shows has changed before a screen opens.
+  /// Called when what the menu shows has changed, before a screen opens.
+  std::function<void()> Changed = [] {};
 
  private:
   void Choose(MatchMode mode);

@@ -1,6 +1,5 @@
 #include "setup/selection.h"
 
-#include <optional>
 #include <utility>
 
 #include "data/team_store.h"

@@ -1,7 +1,6 @@
 // The line-up selection: both elevens of a match.
 #pragma once
 
-#include <array>
 #include <functional>
 #include <string>
 
@@ -16,20 +15,20 @@ class Selection {
  public:
   using OpenMatch = std::function<void(const MatchSetup&)>;  ///< Returns when the match screen has closed.
 
-  /// `setup` names the two teams and holds what the opener has chosen for the match. The squads are loaded by
-  /// the first Timer1_Timer, when the screen has been drawn.
+  /// `setup` names the two teams and holds what the opener has chosen for the match. Squads are loaded later,
+  /// by Timer1_Timer.
   Selection(ProgramFolder folder, Desktop& desktop, OpenMatch openMatch, MatchSetup setup);
 
-  /// Loads both squads and puts the first eleven players of each file into the slots. A squad of fewer than
-  /// eleven, or one that cannot be read, is told and keeps "Continue" disabled for good. Later calls do
-  /// nothing.
+  /// Loads both squads, once the screen has been drawn, and puts the first eleven players of each into the
+  /// slots. A squad that is too small or can't be read is reported and disables "Continue" for good; a
+  /// missing one stays empty. Later calls do nothing.
   void Timer1_Timer();
 
   /// Puts player `entry` of the squad into slot `slot` (0..10) of side 1 or 2.
   void Combo1_Click(int slot, int entry) { Side1.Choose(slot, entry); }
   void Combo2_Click(int slot, int entry) { Side2.Choose(slot, entry); }
 
-  /// Tells the first fault of the line-ups, or hands them to the match screen; closes when that has closed.
+  /// Reports the first fault of the line-ups. Without one, plays the match and closes after it.
   void Command1_Click();
 
   void Command2_Click() { Closed = true; }  ///< Cancels: no match is played.

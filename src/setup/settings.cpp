@@ -1,6 +1,5 @@
 #include "setup/settings.h"
 
-#include <string>
 #include <utility>
 
 #include "base/number.h"
@@ -11,7 +10,7 @@
 namespace kickwell {
 namespace {
 
-/// Moves `other` on to its next entry, from the last to the first, when it shows what `picked` shows.
+/// Moves `other` on to its next entry, or from the last to the first, if it shows what `picked` shows.
 void KeepApart(const ItemList& picked, ItemList& other) {
   if (other.Picked != ItemList::None && other.Text() == picked.Text()) {
     other.Picked = (other.Picked + 1) % other.Count();

@@ -16,11 +16,8 @@ class Settings {
 
   Settings(ProgramFolder folder, Desktop& desktop, OpenSelection openSelection);
 
-  /// Fills the choosers from the stadium list and the team files and shows the first of each.
-  void Form_Load();
-
-  // The actions take the picked entry, from 0. A team picked on one side moves the other side on where both
-  // would be the same.
+  // The actions take the place of the picked entry, from 0. A team picked on one side that the other side
+  // shows already moves the other side on to its next entry.
   void Combo1_Click(int entry);
   void Combo2_Click(int entry);
   void Combo3_Click(int entry);
@@ -29,13 +26,13 @@ class Settings {
   void Check1_Click(bool checked);  ///< The shoot-out is on offer only after extra time.
   void Check2_Click(bool checked) { Check2 = checked; }
 
-  /// Goes on to the line-up selection with the choices made, and closes when that has closed; asks for the
-  /// choices that are missing instead.
+  /// Opens the line-up selection with these choices and closes after it. If a choice is missing, asks for it
+  /// instead.
   void Command1_Click();
   void Command2_Click() { Closed = true; }
 
   ItemList Combo1, Combo2;          ///< Own team and opposition.
-  ItemList Combo3, Combo7, Combo6;  ///< Stadiums, their cities and their capacities, entry by entry.
+  ItemList Combo3, Combo7, Combo6;  ///< Names, cities and capacities of the stadiums, in step.
   ItemList Combo5;                  ///< Weather.
   ItemList Combo4;                  ///< Simulation type.
   bool Check1 = false;              ///< Extra time.
@@ -44,6 +41,8 @@ class Settings {
   bool Closed = false;
 
  private:
+  void Form_Load();
+
   ProgramFolder folder_;
   Desktop& desktop_;
   OpenSelection openSelection_;

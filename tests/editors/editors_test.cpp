@@ -1,5 +1,3 @@
-#include <tuple>
-
 #include "data/championship_store.h"
 #include "editors/stad_editor.h"
 #include "editors/team_editor.h"
@@ -11,153 +9,174 @@ namespace {
 class EditorsTest : public ScreenTest {
  protected:
   EditorsTest() {
-    AddTeams(folder_, {"A", "B"});
+    AddTeams({"A", "B"});
     EXPECT_TRUE(SaveStadiums(folder_.Folder, {{"A", "Mill", "Leat", "9"}}).Ok());
   }
 
   TeamEditor OpenTeams(const std::string& league = "N/A") { return {folder_.Folder, desktop_, league}; }
 
-  // Each adds what is typed and gives the messages.
-  std::string AddTeam(TeamEditor& editor, const std::string& name, const std::string& skill) {
-    std::tie(editor.Text1, editor.Text5) = std::tie(name, skill);
+  // Each types something new, adds it and gives the messages.
+  Texts AddTeam(TeamEditor& editor, const std::string& name, const std::string& skill) {
+    editor.Text1 = name;
+    editor.Text5 = skill;
     editor.Command7_Click();
-    return desktop_.Told();
+    return desktop_.Taken();
   }
-  std::string AddPlayer(TeamEditor& editor, const std::string& name, const std::string& skill) {
-    std::tie(editor.Text2, editor.Text4) = std::tie(name, skill);
+  Texts AddPlayer(TeamEditor& editor, const std::string& name, const std::string& skill) {
+    editor.Text2 = name;
+    editor.Text4 = skill;
     editor.Command8_Click();
-    return desktop_.Told();
+    return desktop_.Taken();
   }
-  std::string AddStadium(StadEditor& editor, const std::string& name, const std::string& seats) {
-    std::tie(editor.Text1, editor.Text2, editor.Text3) = std::tie(name, name, seats);
+  Texts AddStadium(StadEditor& editor, const std::string& name, const std::string& capacity) {
+    editor.Text1 = name;
+    editor.Text2 = "Dell";
+    editor.Text3 = capacity;
     editor.Command2_Click();
-    return desktop_.Told();
-  }
-
-  /// Presses a button with the answer No and then so many times with Yes; gives the messages.
-  template <typename Editor>
-  std::string Press(Editor& editor, void (Editor::*button)(), int times) {
-    for (int i = 0; i <= times; ++i) {
-      desktop_.Yes = i > 0;
-      (editor.*button)();
-    }
-    desktop_.Yes = true;
-    return desktop_.Told();
-  }
-
-  /// Chosen team, its skill and players, the picked one with his figures, and what is typed.
-  static std::string Shown(const TeamEditor& e) {
-    return Joined({e.Combo3.Text(), e.Label13(), e.Label14(), e.List1.Text(), e.Label4(), e.Label5(), e.Text1,
-                   e.Text5, e.Text2, e.Text4});
+    return desktop_.Taken();
   }
 };
 
-TEST_F(EditorsTest, InputIsTestedInOrder) {
-  TeamEditor editor = OpenTeams();
-  StadEditor stadiums(folder_.Folder, desktop_);
+TEST_F(EditorsTest, WhatIsTypedIsCheckedInOrder) {
   desktop_.Yes = false;
-  const auto allEnter = [](const std::string& team, const std::string& player, const std::string& stadium) {
-    const std::string enter = "!: Please enter ";
-    return Joined({enter + team, enter + player, enter + stadium});
-  };
-  const std::string details = allEnter("all the Team Details properly.", "all the Player Details properly.",
-                                       "all the Stadium Details properly.");
-  const std::string skill = "a numerical value for Skill.", range = "a skill value from 1 to 99.";
-  const std::string numerical = allEnter(skill, skill, "a numerical value for Capacity.");
-  const std::string sure = "?: Are you sure you want to add ", stadium = sure + "this stadium?";
-  const std::tuple<const char*, const char*, std::string> inputs[] = {
-      {"", "x", details},
-      {"A", "", details},
-      {"A", "+5", numerical},
-      {"A", "1.", numerical},
-      {"A", "-", numerical},
-      {"A", "-1", allEnter(range, range, "a capacity value from 1 to 99999.")},
-      {"A", "50", "i: A already exists|" + sure + "A?|" + stadium},
-      {"A0", "50", sure + "A0?|i: A0 already exists|" + stadium},
-      {"Mill", "50", sure + "Mill?|" + sure + "Mill?|i: Mill already exists"},
-      {"A:", "50", "!: A: can't be used as a file name.|" + sure + "A:?|" + stadium}};
-  for (const auto& [name, number, messages] : inputs)
-    EXPECT_EQ(Joined({AddTeam(editor, name, number), AddPlayer(editor, name, number),
-                      AddStadium(stadiums, name, number)}),
-              messages);
-  EXPECT_EQ(Shown(editor), "A|75|11|A0|80|GK|A:|50|A:|50");  // What was typed stays.
-  EXPECT_EQ(Joined(ListTeams(folder_.Folder)) + stadiums.Label8(), "A|B1");
+  TeamEditor teams = OpenTeams();
+  EXPECT_EQ(AddTeam(teams, "", "x"), Texts{"!: Please enter all the Team Details properly."});
+  EXPECT_EQ(AddTeam(teams, "A", ""), Texts{"!: Please enter all the Team Details properly."});
+  for (const char* skill : {"+5", "1.", "-"})
+    EXPECT_EQ(AddTeam(teams, "A", skill), Texts{"!: Please enter a numerical value for Skill."});
+  EXPECT_EQ(AddTeam(teams, "A", "0"), Texts{"!: Please enter a skill value from 1 to 99."});
+  EXPECT_EQ(AddTeam(teams, "A", "50"), Texts{"i: A already exists"});
+  EXPECT_EQ(AddTeam(teams, "A:", "50"), Texts{"!: A: can't be used as a file name."});
+  EXPECT_EQ(AddTeam(teams, "New", "50"), Texts{"?: Are you sure you want to add New?"});
+  EXPECT_EQ(teams.Text1, "New");  // Stays for correction.
+
+  EXPECT_EQ(AddPlayer(teams, "", "x"), Texts{"!: Please enter all the Player Details properly."});
+  EXPECT_EQ(AddPlayer(teams, "A0", "0"), Texts{"!: Please enter a skill value from 1 to 99."});
+  EXPECT_EQ(AddPlayer(teams, "A0", "5"), Texts{"i: A0 already exists"});
+  EXPECT_EQ(AddPlayer(teams, "Ann", "5"), Texts{"?: Are you sure you want to add Ann?"});
+  EXPECT_EQ(teams.Label14(), "11");
+
+  StadEditor stadiums(folder_.Folder, desktop_);
+  EXPECT_EQ(AddStadium(stadiums, "", "x"), Texts{"!: Please enter all the Stadium Details properly."});
+  EXPECT_EQ(AddStadium(stadiums, "Mill", "x"), Texts{"!: Please enter a numerical value for Capacity."});
+  EXPECT_EQ(AddStadium(stadiums, "Mill", "0"), Texts{"!: Please enter a capacity value from 1 to 99999."});
+  EXPECT_EQ(AddStadium(stadiums, "Mill", "5"), Texts{"i: Mill already exists"});
+  EXPECT_EQ(AddStadium(stadiums, "Park", "5"), Texts{"?: Are you sure you want to add this stadium?"});
 }
 
-TEST_F(EditorsTest, TeamsAreAddedToTheListAndTheStandingsAndDeletedDownToTwo) {
-  const std::string rows = "A\n1\n1\n0\n0\n2\n1\n3\nB\n1\n0\n0\n1\n1\n2\n0\n";
-  Write("Leagues/Top.rec", rows + "cut");
+TEST_F(EditorsTest, TeamsAreAddedToTheStandingsAndDeletedDownToTwo) {
+  const std::string row = "A\n1\n1\n0\n0\n2\n1\n3\n";
+  Write("Leagues/Top.rec", row);
   Write("settings.cfg", "");
   TeamEditor editor = OpenTeams("Top");
   AddTeam(editor, "C", "05");
-  EXPECT_EQ(Shown(editor), "C|05|0|||||||");
-  EXPECT_EQ(Bytes("Teams/C") + Bytes("Leagues/Top.rec"),
-            AsWritten("05\n") + AsWritten(rows + "C\n0\n0\n0\n0\n0\n0\n0\n"));
-  editor.Combo3_Click(1);
-  EXPECT_EQ(Press(editor, &TeamEditor::Command5_Click, 2),
-            "?: Are you sure you want to delete B?|?: Are you sure you want to delete B?|"
-            "!: You can't delete any more team.");
-  EXPECT_EQ(Joined(ListTeams(folder_.Folder)) + ", " + Shown(editor), "A|C, A|75|11|A0|80|GK||||");
+  EXPECT_EQ(editor.Label13(), "05");
+  EXPECT_EQ(editor.List1.Count(), 0);
+  EXPECT_EQ(editor.Text1, "");
+  EXPECT_EQ(Bytes("Leagues/Top.rec"), AsWritten(row + "C\n0\n0\n0\n0\n0\n0\n0\n"));
+  desktop_.Yes = false;
+  editor.Command5_Click();
+  EXPECT_EQ(editor.Combo3.Text(), "C");
+  desktop_.Yes = true;
+  editor.Command5_Click();
+  EXPECT_EQ(editor.Combo3.Text(), "A");
+  EXPECT_EQ(ListTeams(folder_.Folder), (Texts{"A", "B"}));
   EXPECT_FALSE(Exists("settings.cfg"));
+  editor.Command5_Click();
+  EXPECT_EQ(desktop_.Taken(),
+            (Texts{"?: Are you sure you want to delete C?", "?: Are you sure you want to delete C?",
+                   "!: You can't delete any more team."}));
 }
 
-TEST_F(EditorsTest, PlayersAreAddedMovedAndDeletedDownToElevenOrFromFewerToNone) {
+TEST_F(EditorsTest, PlayersAreAddedAndMoved) {
+  ASSERT_TRUE(SaveTeam(folder_.Folder, {"A", "75", {}}).Ok());
   TeamEditor editor = OpenTeams();
-  const auto squad = [&] { return Joined(OpenTeams().List1.Entries) + ", " + editor.List1.Text(); };
   editor.Combo1_Click(3);
-  AddPlayer(editor, "Keeper", "09");
-  EXPECT_EQ(Shown(editor) + editor.Combo1.Text(), "A|75|12|Keeper|09|GK||||FD");
-  editor.Combo1_Click(2);
-  editor.Combo2_Click(2);
-  AddPlayer(editor, "Last", "1");
-  editor.Command2_Click();  // At the bottom: nothing moves.
-  EXPECT_EQ(Shown(editor) + editor.Combo2.Text(), "A|75|13|Last|1|DFC||||L");
-  for (int i = 0; i < 14; ++i) editor.Command1_Click();
+  AddPlayer(editor, "Kim", "09");
+  AddPlayer(editor, "Wes", "9");  // The position is preset again.
+  editor.Command2_Click();        // At the bottom already.
+  editor.Command1_Click();
+  EXPECT_EQ(editor.List1.Text(), "Wes");
+  editor.Command1_Click();
+  EXPECT_EQ(Bytes("Teams/A"), AsWritten("75\nWes\n9\nFDL\nKim\n09\nGK\n"));
+}
+
+TEST_F(EditorsTest, PlayersAreDeletedDownToElevenOrFromFewerToNone) {
+  TeamEditor editor = OpenTeams();
+  AddPlayer(editor, "Ann", "5");
   editor.List1_Click(1);
-  editor.Command2_Click();
-  EXPECT_EQ(squad(), "Last|A1|A0|A2|A3|A4|A5|A6|A7|A8|A9|A10|Keeper, A0");
-  EXPECT_EQ(Press(editor, &TeamEditor::Command6_Click, 3),
-            "?: Are you sure you want to delete A0?|?: Are you sure you want to delete A0?|"
-            "?: Are you sure you want to delete Last?|!: You can't delete any more players.");
-  EXPECT_EQ(squad(), "A1|A2|A3|A4|A5|A6|A7|A8|A9|A10|Keeper, A1");
+  desktop_.Yes = false;
+  editor.Command6_Click();
+  EXPECT_EQ(editor.List1.Text(), "A1");
+  desktop_.Yes = true;
+  editor.Command6_Click();
+  EXPECT_EQ(editor.List1.Text(), "A0");
+  EXPECT_EQ(OpenTeams().List1.PlaceOf("A1"), ItemList::None);
+  editor.Command6_Click();
+  EXPECT_EQ(desktop_.Taken(),
+            (Texts{"?: Are you sure you want to delete A1?", "?: Are you sure you want to delete A1?",
+                   "!: You can't delete any more players."}));
   ASSERT_TRUE(SaveTeam(folder_.Folder, {"A", "75", {{"X", "1", "GK"}}}).Ok());
   TeamEditor few = OpenTeams();
-  EXPECT_TRUE(Press(few, &TeamEditor::Command6_Click, 2).ends_with("!: You can't delete any more players."));
+  few.Command6_Click();
+  few.Command6_Click();
+  EXPECT_EQ(desktop_.Taken().back(), "!: You can't delete any more players.");
   EXPECT_EQ(Bytes("Teams/A"), AsWritten("75\n"));
-}
-
-TEST_F(EditorsTest, WithoutAFileNothingIsChosenAndWhatCannotBeSavedIsNotShown) {
-  TeamEditor editor = OpenTeams();
-  StadEditor stadiums(folder_.Folder, desktop_);
-  std::filesystem::remove(folder_ / "Teams/B");
-  editor.Combo3_Click(1);
-  std::filesystem::remove_all(folder_ / "Teams");
-  Write("Teams", "no folder");
-  std::filesystem::remove(folder_ / "stadiums.sim");
-  Write("stadiums.sim/x", "a folder");
-  for (const std::string& told :
-       {AddPlayer(editor, "Ann", "5"), AddTeam(editor, "New", "5"), AddStadium(stadiums, "Park", "5")})
-    EXPECT_NE(told.find("!: The file "), std::string::npos) << told;
-  EXPECT_EQ(Shown(editor) + std::to_string(editor.Combo3.Count()), "A|75|11|A0|80|GK|New|5|Ann|52");
-  EXPECT_EQ(Joined(stadiums.List1.Entries) + stadiums.Label8() + stadiums.Text1, "Mill1Park");
 }
 
 TEST_F(EditorsTest, StadiumsAreAddedAndRemovedDownToOne) {
   StadEditor editor(folder_.Folder, desktop_);
   editor.Combo1_Click(2);
   AddStadium(editor, "Bowl", "99999");
-  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("2\nA\nMill\nLeat\n9\nB\nBowl\nBowl\n99999\n"));
-  EXPECT_EQ(Joined({editor.List1.Text(), editor.Combo1.Text(), editor.Text1, editor.Text2, editor.Text3}),
-            "Bowl|Neutral|||");
-  AddStadium(editor, "Park", "5");
+  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("2\nA\nMill\nLeat\n9\nB\nBowl\nDell\n99999\n"));
+  EXPECT_EQ(editor.List1.Text(), "Bowl");
+  EXPECT_EQ(editor.Combo1.Text(), "Neutral");
+  EXPECT_EQ(editor.Text1, "");
   Write("settings.cfg", "");
-  editor.List1_Click(1);
-  EXPECT_EQ(Press(editor, &StadEditor::Command1_Click, 3),
-            "?: Are you sure you want to remove Bowl?|?: Are you sure you want to remove Bowl?|"
-            "?: Are you sure you want to remove Mill?|!: You can't delete any more stadium.");
-  EXPECT_EQ(Joined(editor.List1.Entries) + editor.List1.Text() + LoadStadiums(folder_.Folder)[0].Name,
-            "ParkParkPark");
+  desktop_.Yes = false;
+  editor.Command1_Click();
+  EXPECT_EQ(editor.Label8(), "2");
+  desktop_.Yes = true;
+  editor.Command1_Click();
+  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("1\nA\nMill\nLeat\n9\n"));
   EXPECT_FALSE(Exists("settings.cfg"));
+  EXPECT_EQ(editor.List1.Text(), "Mill");
+  editor.Command1_Click();
+  EXPECT_EQ(desktop_.Taken(),
+            (Texts{"?: Are you sure you want to remove Bowl?", "?: Are you sure you want to remove Bowl?",
+                   "!: You can't delete any more stadium."}));
+}
+
+TEST_F(EditorsTest, AFileThatCannotBeReadIsReportedOnceAndKept) {
+  const std::string stadiumList = Bytes("stadiums.sim");
+  const Texts messages = {MakeUnreadable("Teams/B"), MakeUnreadable("stadiums.sim")};
+  AddTeams({"C"});
+  TeamEditor teams = OpenTeams();
+  Remove("Teams/C");
+  for (const int entry : {1, 2}) {  // What is missing is not reported.
+    teams.Combo3_Click(entry);
+    EXPECT_EQ(teams.Combo3.Text(), "A");
+  }
+  StadEditor stadiums(folder_.Folder, desktop_);
+  EXPECT_EQ(desktop_.Taken(), messages);
+  teams.Command5_Click();  // A goes, and B can't take its place.
+  EXPECT_EQ(teams.List1.Count(), 0);
+  folder_.Files.Unreadable.clear();
+  AddStadium(stadiums, "Park", "5");
+  EXPECT_EQ(Bytes("stadiums.sim"), stadiumList);
+}
+
+TEST_F(EditorsTest, WhatCannotBeSavedIsNotShown) {
+  TeamEditor teams = OpenTeams();
+  StadEditor stadiums(folder_.Folder, desktop_);
+  for (const char* file : {"Teams/A", "Teams/New", "stadiums.sim"}) MakeUnreadable(file);
+  EXPECT_EQ(AddTeam(teams, "New", "5").size(), 2U);  // The question and the failure.
+  EXPECT_EQ(AddPlayer(teams, "Ann", "5").size(), 2U);
+  EXPECT_EQ(AddStadium(stadiums, "Park", "5").size(), 2U);
+  EXPECT_EQ(teams.Combo3.Entries, (Texts{"A", "B"}));
+  EXPECT_EQ(teams.Label14(), "11");
+  EXPECT_EQ(stadiums.Label8(), "1");
+  EXPECT_EQ(stadiums.Text1, "Park");
 }
 
 }  // namespace

@@ -20,6 +20,13 @@ class ScreenTestIn : public testing::Test {
   void Remove(const std::string& file) { folder_.Remove(file); }
   std::string Bytes(const std::string& file) const { return folder_.Bytes(file); }
   bool Exists(const std::string& file) const { return folder_.Exists(file); }
+
+  /// Keeps a file of a folder in memory from being read; gives the message that the user is to see.
+  std::string MakeUnreadable(const std::string& file) {
+    folder_.Files.Unreadable.insert(folder_ / file);
+    return "!: The file " + (folder_ / file).string() + " can't be read: Permission denied.";
+  }
+
   void AddTeams(std::initializer_list<const char*> names) { kickwell::AddTeams(folder_.Folder, names); }
 
   ProgramFolderOfTest folder_;

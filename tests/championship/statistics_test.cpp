@@ -1,0 +1,165 @@
+// The rankings, the results and the chart; and how screens of championships report what can't be read.
+#include "championship/championship_play.h"
+#include "championship/knock_charts.h"
+#include "championship/leg_editor.h"
+#include "championship/leg_results.h"
+#include "championship/standings_table.h"
+#include "championship/top_scorers.h"
+#include "data/championship_store.h"
+#include "engine/pages.h"
+#include "support/screen_test.h"
+
+namespace kickwell {
+namespace {
+
+const ChampionshipId Top = {ChampionshipKind::League, "Top"};
+const ChampionshipId Cup = {ChampionshipKind::KnockOut, "Cup"};
+
+class StatisticsTest : public ScreenTest {
+ protected:
+  Ranking Table() { return StandingsTable(folder_.Folder, desktop_, "Top"); }
+
+  KnockCharts Chart() { return {folder_.Folder, desktop_, "Cup"}; }
+  ChampionshipPlay Play() {
+    return {ChampionshipKind::League, folder_.Folder, desktop_, [](auto&) {}, {}};
+  }
+};
+
+TEST_F(StatisticsTest, TheTableIsOrderedByPointsThenDifferenceThenGoals) {
+  Write("Leagues/Top.leg", "Top\n6\nLast\nLevel\nScorers\nLeaders\nEqual\nDefenders\n");
+  const std::vector<StandingsRow> standings = {
+      {"Last", 3, 0, 0, 3, 1, 9, 0},    {"Level", 3, 1, 0, 2, 4, 2, 3}, {"Scorers", 3, 1, 0, 2, 5, 3, 3},
+      {"Leaders", 3, 2, 0, 1, 2, 9, 6}, {"Equal", 3, 1, 0, 2, 4, 2, 3}, {"Defenders", 3, 1, 0, 2, 3, 0, 3}};
+  ASSERT_TRUE(ChangeFiles(folder_.Folder, {ChangedStandings(Top, standings)}).Ok());
+  const Ranking table = Table();
+  EXPECT_EQ(table.Rows.front(), (Texts{"1", "Leaders", "3", "2", "0", "1", "2", "9", "6"}));
+  Texts teams;
+  for (const Texts& row : table.Rows) teams.push_back(row[1]);
+  EXPECT_EQ(teams, (Texts{"Leaders", "Defenders", "Scorers", "Level", "Equal", "Last"}));
+}
+
+TEST_F(StatisticsTest, TheTableOfANewLeagueHasUpToAHundredTeamsWithoutPoints) {
+  EXPECT_EQ(Table().Label1, "Kickwell Current League Standings");
+  std::string league = "Top\n120\n";
+  for (int team = 1; team <= 120; ++team) league += "Team " + std::to_string(team) + "\n";
+  Write("Leagues/Top.leg", league);
+  const Ranking table = Table();
+  EXPECT_EQ(table.Label1, "Top Standings");
+  EXPECT_EQ(table.Rows.size(), 100U);
+  EXPECT_TRUE(table.Pages.NextEnabled());
+  EXPECT_EQ(table.Rows.back(), (Texts{"100", "Team 100", "0", "0", "0", "0", "0", "0", "0"}));
+}
+
+TEST_F(StatisticsTest, TopScorersStandByGoalsInTheOrderOfTheirFirstOnes) {
+  std::string file = "Ann\nA\nmany\nBo\nB\n3\nCy\nA\n12\n";
+  for (int i = 1; i <= 20; ++i) file += "Player " + std::to_string(i) + "\nB\n3\n";
+  Write("Tournies/Cup.sco", file + "Di\nB");
+  const Ranking scorers = TopScorers(folder_.Folder, desktop_, Cup);
+  EXPECT_EQ(scorers.Label1, "Cup Goal Scorers");
+  EXPECT_EQ(scorers.Rows[0], (Texts{"1", "Cy", "A", "12"}));
+  EXPECT_EQ(scorers.Rows[1], (Texts{"2", "Bo", "B", "3"}));
+  EXPECT_EQ(scorers.Rows[21], (Texts{"22", "Player 20", "B", "3"}));
+  EXPECT_EQ(scorers.Rows.back(), (Texts{"23", "Ann", "A", "0"}));
+}
+
+TEST(Paging, ShowsFifteenRowsAtATime) {
+  Paging pages;
+  pages.Open(15);
+  EXPECT_FALSE(pages.NextEnabled());
+  pages.Open(16);
+  pages.Hover(15);
+  pages.Next();
+  EXPECT_EQ(pages.RowCount(), 1);
+  EXPECT_EQ(pages.Highlight, 1);
+  pages.Hover(2);  // No entry there.
+  EXPECT_EQ(pages.Highlight, 1);
+}
+
+TEST_F(StatisticsTest, ResultsAreSavedAsAPage) {
+  LegResults(folder_.Folder, desktop_, Top).Command2_Click();  // Disabled without results.
+  EXPECT_EQ(desktop_.ProposedName, "");
+  Write("Leagues/Top.lrs", "Match 1:\n\nMatch 2:\n");
+  LegResults results(folder_.Folder, desktop_, Top);
+  results.Command2_Click();  // Cancelled.
+  EXPECT_EQ(desktop_.ProposedName, "Top Results");
+  desktop_.SaveName = (folder_ / "page").string();
+  results.Command2_Click();
+  std::string page;
+  for (const std::string& line : ResultsPage("Top Results", {{"Match 1:", "", "Match 2:"}}))
+    page += line + "\n";
+  EXPECT_EQ(Bytes("page.htm"), AsWritten(page));
+}
+
+TEST(Chart, FollowsTheTreeOfEachSize) {
+  const auto slots = [](int teams) {  // Home, away and winner of every match.
+    std::vector<int> all;
+    for (const auto [home, away, winner] : ChartMatches(teams)) all.insert(all.end(), {home, away, winner});
+    return all;
+  };
+  using Slots = std::vector<int>;
+  EXPECT_EQ(slots(2), (Slots{0, 1, 2}));
+  EXPECT_EQ(slots(4), (Slots{0, 1, 2, 3, 4, 5, 2, 5, 6}));
+  EXPECT_EQ(slots(8), (Slots{0, 1, 2, 3, 4, 5, 7, 8, 9, 10, 11, 12, 2, 5, 6, 9, 12, 13, 6, 13, 14}));
+  EXPECT_EQ(slots(16),
+            (Slots{0,  1, 2, 3, 4, 5,  7,  8,  9,  10, 11, 12, 15, 16, 17, 18, 19, 20, 22, 23, 24, 25, 26,
+                   27, 2, 5, 6, 9, 12, 13, 17, 20, 21, 24, 27, 28, 6,  13, 14, 21, 28, 29, 14, 29, 30}));
+  for (const auto [home, away, winner] : ChartMatches(16)) {
+    const ChartSlot above = At(ChartSlots(), home), below = At(ChartSlots(), away);
+    const ChartSlot next = At(ChartSlots(), winner);
+    EXPECT_EQ(next.Left, above.Left + 1680);  // One column on, between the two.
+    EXPECT_TRUE(above.Top < next.Top && next.Top < below.Top) << "slot " << winner;
+  }
+}
+
+TEST_F(StatisticsTest, TheChartShowsTheFixturesThatTheFileHolds) {
+  EXPECT_EQ(Chart().Label1, "Knock Out Table");
+  const std::string teams = "0\nCup\n4\nA\nB\nC\nD\n", first = "P\nA\nC\nC (By Toss)\n";
+  Write("Tournies/Cup.trn", teams + first + "NP\nB\nD\nWinner 2\nNP\nC (By");
+  const KnockCharts chart = Chart();
+  EXPECT_EQ(chart.Label1, "Cup Table");
+  Texts slots;
+  for (int slot = 0; slot < chart.VisibleSlots; ++slot) slots.push_back(chart.Text(slot));
+  EXPECT_EQ(slots, (Texts{"A", "C", "C (By Toss)", "B", "D", "Winner 2", ""}));
+  Write("Tournies/Cup.trn", "0\nCup\n2\nA\nC\n" + first + first);  // One fixture too many.
+  EXPECT_EQ(Chart().VisibleSlots, 3);
+  Write("Tournies/Cup.trn", "0\nCup\n3\nA\nB\nC\n" + first);
+  EXPECT_EQ(Chart().VisibleSlots, 0);
+}
+
+TEST_F(StatisticsTest, AFileThatCannotBeReadIsReportedOnce) {
+  for (const char* file : {"Leagues/Top.leg", "Leagues/Top.rec", "Leagues/Top.lrs", "Tournies/Cup.trn"})
+    Write(file, "Top\n2\nA\nB\n");
+  const std::pair<const char*, std::function<void()>> screens[] = {
+      {"Leagues/Top.rec", [&] { EXPECT_TRUE(Table().Rows.empty()); }},
+      {"Leagues/Top.leg", [&] { EXPECT_TRUE(Table().Rows.empty()); }},  // Neither of its files can be read.
+      {"Leagues/Top.sco", [&] { EXPECT_TRUE(TopScorers(folder_.Folder, desktop_, Top).Rows.empty()); }},
+      {"Leagues/Top.lrs", [&] { EXPECT_FALSE(LegResults(folder_.Folder, desktop_, Top).Command2Enabled()); }},
+      {"Tournies/Cup.trn", [&] { EXPECT_EQ(Chart().VisibleSlots, 0); }},
+      {"Leagues/Top.leg", [&] { EXPECT_EQ(Play().Championships.Text(), ""); }},
+      {"unfinished.journal", [&] { EXPECT_EQ(Play().Championships.Text(), ""); }}};
+  for (const auto& [file, open] : screens) {
+    const Texts message = {MakeUnreadable(file)};
+    open();
+    EXPECT_EQ(desktop_.Taken(), message);
+  }
+}
+
+TEST_F(StatisticsTest, AFileThatCannotBeLoadedLeavesTheScreenAsItIs) {
+  for (const std::string name : {"A", "B", "C"}) Write("Leagues/" + name + ".leg", name + "\n0\n0\n");
+  ChampionshipPlay play = Play();
+  LegEditor editor(folder_.Folder, desktop_, random_);
+  editor.Load_Click(editor.League, 0);
+  const std::string message = MakeUnreadable("Leagues/B.leg");
+  Remove("Leagues/C.leg");
+  for (const int entry : {1, 2}) {
+    play.Championships_Click(entry);
+    editor.Load_Click(editor.League, entry);
+    EXPECT_EQ(play.Championships.Text(), "A.leg");
+    EXPECT_EQ(editor.League.Load.Text(), "A.leg");
+    EXPECT_EQ(editor.League.Name, "A");
+  }
+  EXPECT_EQ(desktop_.Taken(), Texts(2, message));  // What is missing is not reported.
+}
+
+}  // namespace
+}  // namespace kickwell

@@ -8,10 +8,8 @@
 
 #include "championship/championship_play.h"
 #include "data/championship_store.h"
-#include "data/tell_failure.h"
 #include "data/text_file.h"
-#include "editors/stad_editor.h"
-#include "editors/team_editor.h"
+#include "engine/announcement.h"
 #include "engine/file_recording.h"
 #include "support/fakes.h"
 #include "support/folders.h"
@@ -45,81 +43,67 @@ bool HasTemporary(const Season& season) {
 
 constexpr int ForEver = std::numeric_limits<int>::max();
 
-/// A match of the championship "Cup" that Rovers have won by 2-0.
-MatchSession Won(MatchMode mode) {
-  MatchSession s;
-  s.Setup = MakeSetup(mode);
-  s.Setup.ChampionshipName = "Cup";
-  s.Setup.MatchNumber = 1;
-  s.Side1.Team = s.WinnerName = s.ResultText = s.LastScoringTeam = "Rovers";
-  s.Side2.Team = s.LoserName = "United";
-  s.Side1.Goals = s.Side1.FinalGoals = s.WinnerGoals = 2;
-  s.LastScorer = "Ann";
-  return s;
-}
-
-void RecordMatch(const ProgramFolder& folder, Desktop& desktop, MatchMode mode) {
-  FileRecording recording(folder, desktop, [](const std::string&) {});
-  recording.StoreResult(Won(mode));
-  recording.StoreLeagueResult(Won(mode));
-}
-
-void RecordGoal(const ProgramFolder& folder, Desktop& desktop) {
-  FileRecording(folder, desktop, [](const std::string&) {}).StoreScorer(Won(MatchMode::League));
-}
-
-void AddPlayer(const ProgramFolder& folder, Desktop& desktop) {
-  TeamEditor editor(folder, desktop, std::string(NoChampionship));
-  editor.Text2 = "New";
-  editor.Text4 = "50";
-  editor.Command8_Click();
-}
-
-void AddStadium(const ProgramFolder& folder, Desktop& desktop) {
-  StadEditor editor(folder, desktop);
-  editor.Text1 = editor.Text2 = "New";
-  editor.Text3 = "50";
-  editor.Command2_Click();
-}
-
 const ChampionshipId League{ChampionshipKind::League, "Cup"}, KnockOut{ChampionshipKind::KnockOut, "Cup"};
+
+/// Has a match or a goal recorded; fails with the first message.
+template <typename Record>
+FileResult Recorded(const ProgramFolder& folder, MatchMode mode, Record record) {
+  FakeDesktop desktop;
+  FileRecording recording(folder, desktop, [](const std::string&) {});
+  MatchSession s = EndedMatch(mode, 2, 0);
+  s.LastScorer = "Ann";
+  s.LastScoringTeam = "Rovers";
+  record(s, recording);
+  return {desktop.Messages.empty() ? "" : desktop.Messages.front()};
+}
+
+FileResult RecordMatch(const ProgramFolder& folder, MatchMode mode) {
+  return Recorded(folder, mode, [](MatchSession& s, Recording& recording) {
+    QuietRandom random;
+    Announcement(s, random, recording).ShowResult();
+  });
+}
+
+FileResult RecordGoal(const ProgramFolder& folder) {
+  return Recorded(folder, MatchMode::League, [](MatchSession& s, Recording& r) { r.StoreScorer(s); });
+}
 
 /// Everything that changes what users keep.
 struct Change {
   const char* Name;
-  std::function<void(const ProgramFolder& folder, Desktop& desktop)> Make;
+  std::function<FileResult(const ProgramFolder& folder)> Make;
 };
-const Change LeagueMatch{"league match", [](const auto& folder, Desktop& desktop) {
-                           RecordMatch(folder, desktop, MatchMode::League);
-                         }};
-const Change ReplacedLeague{"replaced league", [](const auto& folder, Desktop& desktop) {
-                              TellFailure(desktop, ReplaceChampionship(folder, {League, {"Rovers"}, {}}));
+const Change LeagueMatch{"league match",
+                         [](const auto& folder) { return RecordMatch(folder, MatchMode::League); }};
+const Change ReplacedLeague{"replaced league", [](const auto& folder) {
+                              return ReplaceChampionship(folder, {League, {"Rovers"}, {}});
                             }};
 const Change Changes[] = {
     LeagueMatch,
     ReplacedLeague,
-    {"cup match",
-     [](const auto& folder, Desktop& desktop) { RecordMatch(folder, desktop, MatchMode::KnockOut); }},
+    {"cup match", [](const auto& folder) { return RecordMatch(folder, MatchMode::KnockOut); }},
     {"goal", RecordGoal},
-    {"player", AddPlayer},
-    {"stadium", AddStadium},
-    {"deleted cup", [](const auto& folder,
-                       Desktop& desktop) { TellFailure(desktop, DeleteChampionship(folder, KnockOut)); }},
+    {"team",
+     [](const auto& folder) {
+       return SaveTeam(folder, {"Rovers", "50", {}});
+     }},
+    {"stadiums", [](const auto& folder) { return SaveStadiums(folder, {}); }},
+    {"deleted cup", [](const auto& folder) { return DeleteChampionship(folder, KnockOut); }},
 };
 
 class NothingLostTest : public testing::Test {
  protected:
-  Files After(const Change& change) {
+  static Files After(const Change& change) {
     Season season;
-    change.Make(season.Folder, desktop_);
+    EXPECT_TRUE(change.Make(season.Folder).Ok()) << change.Name;
     return season.Files.All();
   }
 
   /// Makes the change until it stops at an operation; false when it was over before.
-  bool StopsAt(int operation, Season& season, const Change& change) {
+  static bool StopsAt(int operation, Season& season, const Change& change) {
     season.Files.StopAt = operation;
     try {
-      change.Make(season.Folder, desktop_);
+      EXPECT_TRUE(change.Make(season.Folder).Ok()) << change.Name;
     } catch (const MemoryFiles::Stopped&) {
       return true;
     }
@@ -137,7 +121,6 @@ class NothingLostTest : public testing::Test {
     return true;
   }
 
-  FakeDesktop desktop_;
   const Files before_ = Season().Files.All();
 };
 
@@ -181,7 +164,7 @@ TEST_F(NothingLostTest, APowerCutLeavesTheFilesBeforeOrAfterTheChange) {
 TEST_F(NothingLostTest, WhatIsSavedSurvivesAPowerCutRightAfterIt) {
   for (const Change& change : Changes) {
     Season season;
-    change.Make(season.Folder, desktop_);
+    EXPECT_TRUE(change.Make(season.Folder).Ok());
     season.Files.CutPower({});
     Starts(season);
     EXPECT_EQ(season.Files.All(), After(change)) << change.Name;
@@ -229,24 +212,21 @@ TEST_F(NothingLostTest, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
   for (const Change& change : Changes) {
     const Files after = After(change);
     Season counting;
-    change.Make(counting.Folder, desktop_);
+    EXPECT_TRUE(change.Make(counting.Folder).Ok());
     for (int failAt = 1; failAt <= counting.Files.Operations; ++failAt) {
       for (const int failures : {1, 2, 3, ForEver}) {
         SCOPED_TRACE(std::string(change.Name) + ", operation " + std::to_string(failAt));
         Season season;
         season.Files.FailAt = failAt;
         season.Files.FailCount = failures;
-        desktop_.Taken();
-        change.Make(season.Folder, desktop_);
-        const bool told = std::ranges::any_of(
-            desktop_.Messages, [](const std::string& text) { return text.starts_with("!: "); });
+        const FileResult result = change.Make(season.Folder);
         const bool unfinished = season.HasJournal();
         EXPECT_TRUE(failures > 1 || unfinished || !HasTemporary(season));
         season.Files.Restart();
         Starts(season);
         EXPECT_TRUE(season.Files.All() == after || (season.Files.All() == before_ && !unfinished));
-        EXPECT_TRUE(told || season.Files.All() == after);
-        if (season.Files.All() == before_) change.Make(season.Folder, desktop_);
+        EXPECT_TRUE(!result.Ok() || season.Files.All() == after);
+        EXPECT_TRUE(season.Files.All() == after || change.Make(season.Folder).Ok());
         EXPECT_EQ(season.Files.All(), after);
       }
     }
@@ -254,9 +234,9 @@ TEST_F(NothingLostTest, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
 }
 
 TEST_F(NothingLostTest, AnEndedChangeIsNotMadeAgain) {
-  const auto play = [this](Season& season) {
-    ReplacedLeague.Make(season.Folder, desktop_);  // Deletes the scorers;
-    RecordGoal(season.Folder, desktop_);           // the next goal must not be deleted, too.
+  const auto play = [](Season& season) {
+    EXPECT_TRUE(ReplacedLeague.Make(season.Folder).Ok());  // Deletes the scorers;
+    EXPECT_TRUE(RecordGoal(season.Folder).Ok());           // the next goal must not be deleted, too.
   };
   Season played;
   play(played);
@@ -276,15 +256,15 @@ TEST_F(NothingLostTest, NothingBuildsOnAnUnfinishedChange) {
   season.Write(std::string(JournalName), "Kickwell journal 1\n~kickwell-7-1.tmp\nLeagues/Cup.rec\nEnd\n");
   const Files before = season.Files.All();
 
-  const ChampionshipPlay play(ChampionshipKind::League, season.Folder, desktop_, [](const std::string&) {},
+  FakeDesktop desktop;
+  const ChampionshipPlay play(ChampionshipKind::League, season.Folder, desktop, [](const std::string&) {},
                               {});
   EXPECT_EQ(play.FixtureList.Count(), 0);
-  RecordGoal(season.Folder, desktop_);
-  RecordMatch(season.Folder, desktop_, MatchMode::League);
+  for (const Change& change : {LeagueMatch, ReplacedLeague, Changes[3]}) {
+    EXPECT_FALSE(change.Make(season.Folder).Ok()) << change.Name;
+  }
   EXPECT_FALSE(AppendStandings(season.Folder, League, "City").Ok());
-  EXPECT_FALSE(WriteChampionship(season.Folder, {KnockOut, {}, {}}).Ok());
   EXPECT_EQ(season.Files.All(), before);
-  EXPECT_EQ(desktop_.Messages.size(), 4U);  // One for the play settings, one for the goal, two for the match.
 }
 
 }  // namespace

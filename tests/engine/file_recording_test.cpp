@@ -9,29 +9,13 @@ namespace {
 /// Records matches of the championship "Cup" between Rovers and United, most of them as match 1.
 class FileRecordingTest : public ScreenTest {
  protected:
-  static MatchSession Match(MatchMode mode) {
-    MatchSession s;
-    s.Setup = MakeSetup(mode);
-    s.Setup.ChampionshipName = "Cup";
-    s.Setup.MatchNumber = 1;
-    s.Side1.Team = "Rovers";
-    s.Side2.Team = "United";
-    s.Venue = "The Mill, Leat";
-    s.Attendance = 500;
-    s.AttendancePercent = 50;
-    return s;
-  }
-
-  /// The match at its end, announced and recorded.
   void Play(MatchMode mode, int rovers, int united) {
-    MatchSession s = Match(mode);
-    s.Side1.Goals = s.Side1.FinalGoals = rovers;
-    s.Side2.Goals = s.Side2.FinalGoals = united;
+    MatchSession s = EndedMatch(mode, rovers, united);
     Announcement(s, random_, file_).ShowResult();
   }
 
   void Score(MatchMode mode, const std::string& player, const std::string& team) {
-    MatchSession s = Match(mode);
+    MatchSession s = EndedMatch(mode);
     s.LastScorer = player;
     s.LastScoringTeam = team;
     file_.StoreScorer(s);
@@ -49,8 +33,8 @@ class FileRecordingTest : public ScreenTest {
 
 TEST_F(FileRecordingTest, NothingOfAFriendlyIsRecorded) {
   Score(MatchMode::Friendly, "Ann", "Rovers");
-  file_.StoreResult(Match(MatchMode::Friendly));
-  file_.StoreLeagueResult(Match(MatchMode::Friendly));
+  file_.StoreResult(EndedMatch(MatchMode::Friendly));
+  file_.StoreLeagueResult(EndedMatch(MatchMode::Friendly));
   EXPECT_TRUE(folder_.Files.All().empty());
   EXPECT_TRUE(selectedAgain_.empty());
 }
@@ -98,7 +82,7 @@ TEST_F(FileRecordingTest, AKnockOutWinnerGoesWhereHisMatchIsWaitedFor) {
   Write("Tournies/Cup.trn",
         teams + "NP\nRovers (By Toss)\nUnited\nWinner 1\n" +  // Through by toss, without a team so called.
             "NP\nAlbion\nWinner 4\nWinner 2\nNP\nWinner 1\nCity\nWinner 3\n");
-  MatchSession s = Match(MatchMode::KnockOut);
+  MatchSession s = EndedMatch(MatchMode::KnockOut);
   s.ResultText = "United (By Toss)";
   file_.StoreResult(s);  // A knock-out has no standings.
   file_.StoreLeagueResult(s);
@@ -113,8 +97,7 @@ TEST_F(FileRecordingTest, AKnockOutWinnerGoesWhereHisMatchIsWaitedFor) {
 }
 
 TEST_F(FileRecordingTest, AShootOutIsToldInTheResults) {
-  MatchSession s = Match(MatchMode::KnockOut);
-  s.Side1.Goals = s.Side2.Goals = 1;
+  MatchSession s = EndedMatch(MatchMode::KnockOut, 1, 1);
   s.Side1.Penalties = 9;
   s.Side2.Penalties = 10;
   s.DecidedByShootOut = true;

@@ -33,6 +33,22 @@ inline MatchSetup MakeFullSetup(bool extraTime = false, bool shootOut = false) {
   return setup;
 }
 
+/// The first match of the championship "Cup", at its end, between Rovers and United on their first sides.
+inline MatchSession EndedMatch(MatchMode mode, int rovers = 0, int united = 0) {
+  MatchSession s;
+  s.Setup = MakeSetup(mode);
+  s.Setup.ChampionshipName = "Cup";
+  s.Setup.MatchNumber = 1;
+  s.Side1.Team = "Rovers";
+  s.Side1.Goals = s.Side1.FinalGoals = rovers;
+  s.Side2.Team = "United";
+  s.Side2.Goals = s.Side2.FinalGoals = united;
+  s.Venue = s.Setup.Venue;
+  s.Attendance = 500;
+  s.AttendancePercent = 50;
+  return s;
+}
+
 /// The match facts of a side.
 struct Facts {
   int Goals = 0, Shots = 0, Corners = 0, Bookings = 0, Fouls = 0, Possession = 0;

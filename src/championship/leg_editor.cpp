@@ -92,7 +92,7 @@ void LegEditor::AddFixture_Click() {
     desktop_.Inform("Select both the home and away teams properly");
   } else if (home == away) {
     desktop_.Inform(home + " can't play againt itself");
-  } else if (League.ManualEntry && League.FixtureList.Count() >= MostFixtures) {
+  } else if (League.FixtureList.Count() >= MostFixtures) {
     desktop_.Inform("A championship can have at most " + std::to_string(MostFixtures) + " matches");
   } else {
     if (!std::exchange(League.ManualEntry, true)) ClearFixtures(League);

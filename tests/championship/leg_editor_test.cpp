@@ -91,12 +91,16 @@ TEST_F(LegEditorTest, EveryRefusalHasItsMessage) {
                    "i: Please load a championship to delete"}));
   Select(knockOut, 2);
   editor.AutoFixtures_Click(knockOut);
-  LegEditor::AddTeam_Click(knockOut);
-  editor.AutoFixtures_Click(knockOut);
-  LegEditor::RemoveTeam_Click(knockOut);
   editor.MoreTeams_Click();
   editor.Save_Click(knockOut);  // Two of four teams.
-  EXPECT_EQ(desktop_.Taken(), (Texts{"i: Total teams selected doesn't match the number of teams",
+  editor.FewerTeams_Click();
+  Select(knockOut, 1);
+  editor.AutoFixtures_Click(knockOut);
+  knockOut.Selected.Picked = 0;
+  LegEditor::RemoveTeam_Click(knockOut);
+  editor.Save_Click(knockOut);  // The fixture's home team is not selected any more.
+  EXPECT_EQ(desktop_.Taken(), (Texts{"i: Please add the championship fixtures properly",
+                                     "i: Total teams selected doesn't match the number of teams",
                                      "i: Please add the championship fixtures properly"}));
 }
 
@@ -170,6 +174,7 @@ TEST_F(LegEditorTest, ALoadedLeagueGoesOnWithItsFixtures) {
   editor.Load_Click(league, 0);
   EXPECT_EQ(league.Name, "Old");
   EXPECT_EQ(league.Available.Text(), "T101");
+  EXPECT_EQ(league.NumberOfTeams, 2);  // The most of three that play a knock-out.
   for (const ItemList* list : {&league.Selected, &league.Home, &league.Away})
     EXPECT_EQ(list->Entries, (Texts{"Gone", "T100", "T105"}));
   AddFixture(editor, 0, 1);

@@ -122,7 +122,7 @@ TEST_F(StatisticsTest, TheChartShowsTheFixturesThatTheFileHolds) {
   EXPECT_EQ(slots, (Texts{"A", "C", "C (By Toss)", "B", "D", "Winner 2", ""}));
   Write("Tournies/Cup.trn", "0\nCup\n2\nA\nC\n" + first + first);  // One fixture too many.
   EXPECT_EQ(Chart().VisibleSlots, 3);
-  Write("Tournies/Cup.trn", "0\nCup\n3\nA\nB\nC\n" + first);
+  Write("Tournies/Cup.trn", "0\nCup\n6\nA\nB\nC\nD\nE\nF\n" + first);
   EXPECT_EQ(Chart().VisibleSlots, 0);
 }
 

@@ -96,9 +96,11 @@ TEST_F(EditorsTest, PlayersAreAddedAndMoved) {
   AddPlayer(editor, "Wes", "9");  // The position is preset again.
   editor.Command2_Click();        // At the bottom already.
   editor.Command1_Click();
+  editor.Command1_Click();  // At the top already.
   EXPECT_EQ(editor.List1.Text(), "Wes");
-  editor.Command1_Click();
   EXPECT_EQ(Bytes("Teams/A"), AsWritten("75\nWes\n9\nFDL\nKim\n09\nGK\n"));
+  editor.Command2_Click();
+  EXPECT_EQ(editor.List1.Entries, (Texts{"Kim", "Wes"}));
 }
 
 TEST_F(EditorsTest, PlayersAreDeletedDownToElevenOrFromFewerToNone) {

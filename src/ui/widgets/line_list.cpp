@@ -60,7 +60,8 @@ void LineList::scrollTo(const QModelIndex& index, ScrollHint hint) {
 }
 
 void LineList::doItemsLayout() {
-  QAbstractItemView::doItemsLayout();  // Without that of QListView, which is what takes long.
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the layout of QListView is what takes long.
+  QAbstractItemView::doItemsLayout();
 }
 
 void LineList::updateGeometries() {
@@ -71,6 +72,7 @@ void LineList::updateGeometries() {
   horizontalScrollBar()->setSingleStep(lineSize_.height());
   horizontalScrollBar()->setPageStep(viewport()->width());
   horizontalScrollBar()->setRange(0, lineSize_.width() - viewport()->width());
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): QListView would set the scroll bars by its own layout.
   QAbstractItemView::updateGeometries();
 }
 

@@ -114,7 +114,7 @@ bool RankingWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == rows_ && event->type() == QEvent::Resize) {
     QTimer::singleShot(0, this, [this] { PlaceBar(); });  // When the rows have found their places.
   } else if (event->type() == QEvent::MouseMove) {
-    const auto marker = std::ranges::find(markers_, watched);
+    auto* const marker = std::ranges::find(markers_, watched);
     if (marker != markers_.end()) MoveBar(static_cast<int>(marker - markers_.begin()) + 1);
   }
   return ScreenWindow::eventFilter(watched, event);

@@ -72,20 +72,21 @@ void WriteChampionships(const ProgramFolder& folder) {
   Require(WriteChampionship(folder, knockOut));
 }
 
+void FillAtLimits(const ProgramFolder& folder) {
+  std::vector<Stadium> stadiums;
+  for (int i = 0; i < Many; ++i) {
+    Require(SaveTeam(folder, MakeTeam(TeamName(i), i < 2 ? Many : 0)));
+    stadiums.push_back({TeamName(i), "Ground " + std::to_string(i), "Town", "50000"});
+  }
+  Require(SaveStadiums(folder, stadiums));
+  WriteChampionships(folder);
+}
+
 /// 1,000 teams, of which "Team 0" and "Team 1" have 1,000 players; 1,000 stadiums; a league of 100 teams with
 /// 1,001 fixtures, 5,000 scorers and 15,001 lines of results; a knock-out of 16 teams.
 const ProgramFolder& FolderAtLimits() {
   static const BenchFolder folder;
-  static const bool filled = [] {
-    std::vector<Stadium> stadiums;
-    for (int i = 0; i < Many; ++i) {
-      Require(SaveTeam(folder.Folder, MakeTeam(TeamName(i), i < 2 ? Many : 0)));
-      stadiums.push_back({TeamName(i), "Ground " + std::to_string(i), "Town", "50000"});
-    }
-    Require(SaveStadiums(folder.Folder, stadiums));
-    WriteChampionships(folder.Folder);
-    return true;
-  }();
+  static const bool filled = (FillAtLimits(folder.Folder), true);
   benchmark::DoNotOptimize(filled);
   return folder.Folder;
 }
@@ -95,12 +96,13 @@ SilentDesktop& Silence() {
   return desktop;
 }
 
-/// Loads the logic with `load`, makes its window with `open`, and waits until the window has been drawn.
+/// Loads the logic with `load` from the folder at the limits, makes its window with `open`, and waits until
+/// the window has been drawn.
 template <typename Load, typename Open>
 void AddScreen(Figures& figures, const std::string& name, Load load, Open open) {
   Figures::Register(name, [load, open](benchmark::State& state) {
     for ([[maybe_unused]] auto iteration : state) {
-      auto logic = load();
+      auto logic = load(FolderAtLimits());
       const std::unique_ptr<QWidget> window(open(logic));
       window->show();
       do {
@@ -115,11 +117,11 @@ void AddScreen(Figures& figures, const std::string& name, Load load, Open open) 
 template <typename Window>
 constexpr auto Opened = [](auto& logic) -> QWidget* { return new Window(logic, nullptr); };
 
-void AddSettingUp(Figures& figures, const ProgramFolder& folder) {
+void AddSettingUp(Figures& figures) {
   AddScreen(
       figures, "Match settings, 1,000 teams and stadiums",
-      [folder] { return Settings(folder, Silence(), {}); }, Opened<SettingsWindow>);
-  const auto select = [folder] {
+      [](const ProgramFolder& folder) { return Settings(folder, Silence(), {}); }, Opened<SettingsWindow>);
+  const auto select = [](const ProgramFolder& folder) {
     MatchSetup setup;
     setup.Team1Name = TeamName(0);
     setup.Team2Name = TeamName(1);
@@ -130,35 +132,41 @@ void AddSettingUp(Figures& figures, const ProgramFolder& folder) {
   AddScreen(figures, "Line-up selection, 1,000 players a side", select, Opened<SelectionWindow>);
 }
 
-void AddChampionships(Figures& figures, const ProgramFolder& folder) {
+void AddChampionships(Figures& figures) {
   const ChampionshipId league{League, AtLimits};
   AddScreen(
       figures, "Play settings, 1,001 fixtures",
-      [folder] { return ChampionshipPlay(League, folder, Silence(), [](const std::string&) {}, {}); },
+      [](const ProgramFolder& folder) {
+        return ChampionshipPlay(League, folder, Silence(), [](const std::string&) {}, {});
+      },
       [](ChampionshipPlay& logic) { return new ChampionshipPlayWindow(logic, League, nullptr); });
   AddScreen(
-      figures, "League table, 100 rows", [folder] { return StandingsTable(folder, Silence(), AtLimits); },
+      figures, "League table, 100 rows",
+      [](const ProgramFolder& folder) { return StandingsTable(folder, Silence(), AtLimits); },
       [](Ranking& table) { return MakeTableWindow(table, nullptr); });
   AddScreen(
-      figures, "Top scorers, 5,000", [folder, league] { return TopScorers(folder, Silence(), league); },
+      figures, "Top scorers, 5,000",
+      [league](const ProgramFolder& folder) { return TopScorers(folder, Silence(), league); },
       [](Ranking& scorers) { return MakeTopScorersWindow(scorers, nullptr); });
   AddScreen(
-      figures, "Results, 15,001 lines", [folder, league] { return LegResults(folder, Silence(), league); },
+      figures, "Results, 15,001 lines",
+      [league](const ProgramFolder& folder) { return LegResults(folder, Silence(), league); },
       Opened<LegResultsWindow>);
   AddScreen(
-      figures, "Chart, 16 teams", [folder] { return KnockCharts(folder, Silence(), AtLimits); },
+      figures, "Chart, 16 teams",
+      [](const ProgramFolder& folder) { return KnockCharts(folder, Silence(), AtLimits); },
       Opened<KnockChartsWindow>);
 }
 
-void AddEditors(Figures& figures, const ProgramFolder& folder) {
+void AddEditors(Figures& figures) {
   AddScreen(
       figures, "Team editor, 1,000 teams and players",
-      [folder] { return TeamEditor(folder, Silence(), std::string(NoChampionship)); },
+      [](const ProgramFolder& folder) { return TeamEditor(folder, Silence(), std::string(NoChampionship)); },
       Opened<TeamEditorWindow>);
   AddScreen(
-      figures, "Stadium editor, 1,000 stadiums", [folder] { return StadEditor(folder, Silence()); },
-      Opened<StadEditorWindow>);
-  const auto edit = [folder] {
+      figures, "Stadium editor, 1,000 stadiums",
+      [](const ProgramFolder& folder) { return StadEditor(folder, Silence()); }, Opened<StadEditorWindow>);
+  const auto edit = [](const ProgramFolder& folder) {
     static SeededRandom random(1);
     LegEditor editor(folder, Silence(), random);
     editor.Load_Click(editor.League, 0);
@@ -170,10 +178,9 @@ void AddEditors(Figures& figures, const ProgramFolder& folder) {
 }  // namespace
 
 void AddScreenFigures(Figures& figures) {
-  const ProgramFolder& folder = FolderAtLimits();
-  AddSettingUp(figures, folder);
-  AddChampionships(figures, folder);
-  AddEditors(figures, folder);
+  AddSettingUp(figures);
+  AddChampionships(figures);
+  AddEditors(figures);
 }
 
 }  // namespace kickwell

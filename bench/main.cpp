@@ -1,4 +1,4 @@
-// What the program's work costs, each figure beside its floor in the same run.
+// What the program's work costs, and whether it costs no more than it may.
 #include <QApplication>
 #include <vector>
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Warnings of Qt's offscreen platform about what it cannot do would stand between the figures.
+/// Qt's offscreen platform warns about what it cannot do, in the middle of the table.
 void Silence(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& /*text*/) {}
 
 }  // namespace
@@ -17,8 +17,8 @@ int main(int argc, char** argv) {
   if (const int exitCode = kickwell::RunAsStarted(argc, argv); exitCode >= 0) return exitCode;
   const QApplication application(argc, argv);
 
-  // Many short rounds in a random order: each figure and each floor then finds a moment in which the machine
-  // does little else. Arguments of the command line have the last word.
+  // With many short rounds in random order, every benchmark gets some moments in which the machine does
+  // little else. Arguments from the command line override these.
   char rounds[] = "--benchmark_repetitions=60";
   char mixed[] = "--benchmark_enable_random_interleaving=true";
   char minTime[] = "--benchmark_min_time=0.003";
@@ -31,7 +31,6 @@ int main(int argc, char** argv) {
   kickwell::Figures figures;
   kickwell::AddMatchFigures(figures);
   kickwell::AddRecordingFigures(figures);
-  kickwell::AddLeagueFigures(figures);
   kickwell::AddScreenFigures(figures);
   kickwell::AddStartFigures(figures);
   benchmark::RunSpecifiedBenchmarks(&figures);

@@ -1,4 +1,4 @@
-// What the logic is handed while it is measured: nothing that costs anything or asks anyone.
+// What measured logic is handed: nothing that costs time or asks anyone.
 #pragma once
 
 #include <cstdlib>
@@ -11,7 +11,7 @@
 
 namespace kickwell {
 
-/// A message means that something went wrong: what is measured then is not what should be.
+/// Ends the program at any message: something went wrong, and the figure would mean nothing.
 class SilentDesktop : public Desktop {
  public:
   void Inform(const std::string& /*text*/) override { std::abort(); }

@@ -16,6 +16,7 @@ constexpr const char* Scorers = ".sco";
 constexpr const char* Results = ".lrs";
 
 constexpr std::size_t StandingsLines = 8, ScorerLines = 3;  ///< Of a row.
+constexpr std::size_t BlockSize = 200;  ///< Bytes that a block of the results log rarely exceeds.
 
 bool IsLeague(ChampionshipKind kind) {
   return kind == ChampionshipKind::League;
@@ -79,12 +80,6 @@ FileResult ChangeAfterFinishing(const ProgramFolder& folder, const std::vector<C
   return finished.Ok() ? ChangeFiles(folder, changes) : finished;
 }
 
-/// Adds the complete records of `lines`; what an incomplete one at the end holds is left out.
-void AddRecords(EncodedText& text, const TextLines& lines, std::size_t recordLines) {
-  const std::size_t complete = lines.size() / recordLines * recordLines;
-  for (std::size_t i = 0; i < complete; ++i) text.Add(lines[i]);
-}
-
 }  // namespace
 
 std::string MainFileName(const ChampionshipId& id) {
@@ -124,9 +119,9 @@ Loaded<std::optional<Bracket>> ReadBracket(const ProgramFolder& folder, const Ch
   const auto [lines, result] = ReadFile(folder, id, MainExtension(id.Kind));
   if (!lines) return {std::nullopt, result};
   LineReader reader(*lines);
-  reader.View();  // The number of fixtures.
+  reader.Skip(1);  // The number of fixtures.
   Bracket bracket{reader.Text(), reader.Number(), {}};
-  for (int i = 0; i < bracket.TeamCount && reader.RecordsLeft(1) > 0; ++i) reader.View();
+  for (int i = 0; i < bracket.TeamCount && reader.RecordsLeft(1) > 0; ++i) reader.Skip(1);
   bracket.Fixtures = TakeFixtures(reader, reader.RecordsLeft(FixtureLines(id.Kind)), id.Kind);
   return {std::move(bracket)};
 }
@@ -144,7 +139,7 @@ ChangedFile ChangedChampionship(const Championship& championship) {
     for (const std::string* line : {&fixture.Status, &fixture.Home, &fixture.Away}) text.Add(*line);
     if (!IsLeague(id.Kind)) text.Add(fixture.Winner);
   }
-  return {FileIn(id, MainExtension(id.Kind)), text.Bytes()};
+  return {FileIn(id, MainExtension(id.Kind)), std::move(text).Bytes()};
 }
 
 FileResult WriteChampionship(const ProgramFolder& folder, const Championship& championship) {
@@ -186,7 +181,7 @@ ChangedFile ChangedStandings(const ChampionshipId& league, const std::vector<Sta
     text.Add(row.Team);
     for (const auto figure : StandingsRow::Figures()) text.Add(row.*figure);
   }
-  return {FileIn(league, Standings), text.Bytes()};
+  return {FileIn(league, Standings), std::move(text).Bytes()};
 }
 
 FileResult AppendStandings(const ProgramFolder& folder, const ChampionshipId& league,
@@ -195,8 +190,10 @@ FileResult AppendStandings(const ProgramFolder& folder, const ChampionshipId& le
   if (!finished.Ok()) return finished;
   const auto [lines, result] = ReadFile(folder, league, Standings);
   if (!lines) return result;
+  LineReader reader(*lines);
+  reader.Skip(reader.RecordsLeft(StandingsLines) * StandingsLines);
   EncodedText text;
-  AddRecords(text, *lines, StandingsLines);
+  text.AddLines(reader.Passed());  // What an incomplete row at the end holds is left out.
   text.Add(team);
   for (std::size_t i = 0; i < StandingsRow::Figures().size(); ++i) text.Add(0);
   return WriteFile(folder, league, Standings, text);
@@ -220,19 +217,21 @@ FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const
   const auto [lines, result] = ReadFile(folder, id, Scorers);
   if (!result.Ok()) return result;
   LineReader reader(lines.value_or(TextLines()));
-  EncodedText text;
+  EncodedText text(lines ? lines->Text().size() : 0);
   bool known = false;
   while (reader.RecordsLeft(ScorerLines) > 0) {
-    const std::string_view player = reader.View(), team = reader.View(), goals = reader.View();
-    text.Add(player);
-    text.Add(team);
+    const std::string_view player = reader.View();
+    reader.Skip(1);  // The team.
     if (player != scored.Player) {
-      text.Add(goals);
+      reader.Skip(1);
       continue;
     }
-    text.Add(Raised(ToNumber(goals), scored.Goals));
+    text.AddLines(reader.Passed());
+    text.Add(Raised(reader.Number(), scored.Goals));
+    reader.Passed();
     known = true;
   }
+  text.AddLines(reader.Passed());
   if (!known) {
     text.Add(scored.Player);
     text.Add(scored.Team);
@@ -250,13 +249,13 @@ Loaded<Lines> ReadResults(const ProgramFolder& folder, const ChampionshipId& id)
 Loaded<ChangedFile> ChangedResults(const ProgramFolder& folder, const ChampionshipId& id,
                                    const std::array<std::string, 5>& block) {
   const auto [lines, result] = ReadFile(folder, id, Results);
-  EncodedText text;
+  EncodedText text(lines ? lines->Text().size() + BlockSize : 0);
   if (lines && !lines->empty()) {
-    AddRecords(text, *lines, 1);
+    text.AddLines(lines->Text());
     text.Add("");
   }
   for (const std::string& line : block) text.Add(line);
-  return {{FileIn(id, Results), text.Bytes()}, result};
+  return {{FileIn(id, Results), std::move(text).Bytes()}, result};
 }
 
 }  // namespace kickwell

@@ -14,15 +14,27 @@ namespace kickwell {
 /// Takes the lines of a file one by one.
 class LineReader {
  public:
-  explicit LineReader(TextLines lines) : lines_(std::move(lines)) {}
+  explicit LineReader(TextLines lines)
+      : lines_(std::move(lines)), rest_(lines_.Text()), left_(lines_.size()) {}
 
   /// The next line; empty after the last.
-  std::string_view View() { return place_ < lines_.size() ? lines_[place_++] : std::string_view(); }
+  std::string_view View() {
+    if (left_ == 0) return {};
+    --left_;
+    const std::size_t end = rest_.find('\n');
+    const std::string_view line = rest_.substr(0, end - 1);
+    rest_.remove_prefix(end + 1);
+    return line;
+  }
   std::string Text() { return std::string(View()); }
   int Number() { return ToNumber(View()); }  ///< 0 when the line is no number.
 
+  void Skip(std::size_t lines) {
+    for (std::size_t i = 0; i < lines; ++i) View();
+  }
+
   /// How many complete records of `lines` lines are left.
-  std::size_t RecordsLeft(std::size_t lines) const { return (lines_.size() - place_) / lines; }
+  std::size_t RecordsLeft(std::size_t lines) const { return left_ / lines; }
 
   /// The next line as a count of the records of `lines` lines behind it, at most as many as are left.
   std::size_t Count(std::size_t lines) {
@@ -30,9 +42,18 @@ class LineReader {
     return std::min(static_cast<std::size_t>(count), RecordsLeft(lines));
   }
 
+  /// The lines taken since the last call, with CR LF after each of them.
+  std::string_view Passed() {
+    const std::string_view text = lines_.Text();
+    const std::size_t from = std::exchange(passed_, text.size() - rest_.size());
+    return text.substr(from, passed_ - from);
+  }
+
  private:
   TextLines lines_;
-  std::size_t place_ = 0;
+  std::string_view rest_;   ///< What has not been taken.
+  std::size_t left_;        ///< How many lines that is.
+  std::size_t passed_ = 0;  ///< Where Passed goes on.
 };
 
 }  // namespace kickwell

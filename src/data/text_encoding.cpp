@@ -7,8 +7,8 @@ namespace kickwell {
 namespace {
 
 constexpr char32_t Replacement = 0xFFFD;
-constexpr std::string_view Mark = "\xFF\xFE";  ///< Of UTF-16 little-endian.
-constexpr std::string_view LineEnd("\r\0\n\0", 4);
+constexpr std::string_view LineEnd("\r\0\n\0", 4);  ///< In UTF-16 little-endian.
+constexpr std::string_view Mark = "\xFF\xFE";       ///< Of UTF-16 little-endian.
 
 bool IsHighSurrogate(char32_t c) {
   return c >= 0xD800 && c <= 0xDBFF;
@@ -17,9 +17,8 @@ bool IsLowSurrogate(char32_t c) {
   return c >= 0xDC00 && c <= 0xDFFF;
 }
 
-/// Writes UTF-8 to `out` and gives the place behind it.
-char* WriteUtf8(char* out, char32_t c) {
-  const auto byte = [&out](char32_t value) { *out++ = static_cast<char>(value); };
+void AppendUtf8(std::string& text, char32_t c) {
+  const auto byte = [&text](char32_t value) { text += static_cast<char>(value); };
   if (c < 0x80) {
     byte(c);
   } else if (c < 0x800) {
@@ -35,7 +34,6 @@ char* WriteUtf8(char* out, char32_t c) {
     byte(0x80 | (c >> 6 & 0x3F));
     byte(0x80 | (c & 0x3F));
   }
-  return out;
 }
 
 /// The code point that starts at `place`, which moves behind it; a bad byte is passed over alone.
@@ -66,56 +64,59 @@ Encoding GuessEncoding(std::string_view bytes) {
   return zeros[0] > zeros[1] ? Encoding::Utf16Big : Encoding::Utf16Little;
 }
 
-constexpr std::size_t LongestOfUnit = 3;  ///< UTF-8 bytes that a UTF-16 unit or a bad byte can become.
+/// Nearly all text is ASCII. Compilers turn the loops over a block of it into vector instructions.
+constexpr std::size_t Block = 64;
 
-/// Copies the ASCII characters that `units`, UTF-16 in either byte order, begins with to `out`, in whole
-/// blocks that a processor copies at once; `low` is the place of a unit's low byte. Returns how many there
-/// were.
-std::size_t CopyAscii(std::string_view units, std::size_t low, char* out) {
-  constexpr std::size_t Block = 16;
-  std::size_t copied = 0;
-  while (units.size() - 2 * copied >= 2 * Block) {
-    const char* const block = units.data() + 2 * copied;
-    int others = 0;
-    for (std::size_t i = 0; i < Block; ++i) {
-      out[copied + i] = block[2 * i + low];
-      others |= (block[2 * i + low] & 0x80) | block[2 * i + 1 - low];
-    }
-    if (others != 0) break;
-    copied += Block;
-  }
-  return copied;
+/// Where the low and the high byte of a UTF-16 unit lie.
+struct ByteOrder {
+  std::size_t Low, High;
+};
+
+template <ByteOrder Order>
+char32_t UnitAt(std::string_view bytes, std::size_t place) {
+  const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[place + i]); };
+  return static_cast<char32_t>(at(Order.Low) | at(Order.High) << 8);
 }
 
-std::string DecodeUtf16(std::string_view bytes, bool bigEndian) {
-  const std::size_t low = bigEndian ? 1 : 0;
-  std::string text(bytes.size() / 2 * LongestOfUnit, '\0');
-  char* out = text.data();
-  const auto unit = [&](std::size_t i) {
-    const auto byte = [&](std::size_t place) { return static_cast<unsigned char>(bytes[place]); };
-    return static_cast<char32_t>(byte(i + 1 - low) << 8 | byte(i + low));
-  };
-  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    const std::size_t run = CopyAscii(bytes.substr(i), low, out);
-    out += run;
-    i += 2 * run;
-    if (i + 1 >= bytes.size()) break;
-    char32_t c = unit(i);
-    if (IsHighSurrogate(c) && i + 3 < bytes.size() && IsLowSurrogate(unit(i + 2))) {
-      c = 0x10000 + ((c - 0xD800) << 10) + (unit(i + 2) - 0xDC00);
-      i += 2;
-    }
-    out = WriteUtf8(out, c);
+/// Narrows `count` UTF-16 units. Returns whether all of them were ASCII.
+template <ByteOrder Order>
+bool NarrowAscii(const char* units, std::size_t count, char* ascii) {
+  char others = 0;
+  for (std::size_t i = 0; i < count; ++i) {
+    ascii[i] = units[2 * i + Order.Low];
+    others = static_cast<char>(others | (ascii[i] & '\x80') | units[2 * i + Order.High]);
   }
-  text.resize(static_cast<std::size_t>(out - text.data()));
+  return others == 0;
+}
+
+template <ByteOrder Order>
+std::string DecodeUtf16(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size() / 2);
+  char ascii[Block];
+  for (std::size_t i = 0; i + 1 < bytes.size();) {
+    const std::size_t count = std::min(Block, (bytes.size() - i) / 2), end = i + 2 * count;
+    if (NarrowAscii<Order>(bytes.data() + i, count, ascii)) {
+      text.append(ascii, count);
+      i = end;
+    }
+    while (i < end) {
+      char32_t c = UnitAt<Order>(bytes, i);
+      i += 2;
+      if (IsHighSurrogate(c) && i + 1 < bytes.size() && IsLowSurrogate(UnitAt<Order>(bytes, i))) {
+        c = 0x10000 + ((c - 0xD800) << 10) + (UnitAt<Order>(bytes, i) - 0xDC00);
+        i += 2;
+      }
+      AppendUtf8(text, c);
+    }
+  }
   return text;
 }
 
 std::string DecodeUtf8(std::string_view bytes) {
-  std::string text(bytes.size() * LongestOfUnit, '\0');
-  char* out = text.data();
-  for (std::size_t place = 0; place < bytes.size();) out = WriteUtf8(out, NextCodePoint(bytes, place));
-  text.resize(static_cast<std::size_t>(out - text.data()));
+  std::string text;
+  text.reserve(bytes.size());
+  for (std::size_t place = 0; place < bytes.size();) AppendUtf8(text, NextCodePoint(bytes, place));
   return text;
 }
 
@@ -132,53 +133,109 @@ std::string ToUtf8(std::string_view bytes) {
   } else {
     encoding = GuessEncoding(bytes);
   }
-  if (encoding != Encoding::Utf8) return DecodeUtf16(bytes, encoding == Encoding::Utf16Big);
+  if (encoding == Encoding::Utf16Little) return DecodeUtf16<ByteOrder{0, 1}>(bytes);
+  if (encoding == Encoding::Utf16Big) return DecodeUtf16<ByteOrder{1, 0}>(bytes);
   return DecodeUtf8(bytes);
+}
+
+/// Widens `count` characters to UTF-16 units. Returns whether all of them were ASCII.
+bool WidenAscii(const char* ascii, std::size_t count, char* units) {
+  char others = 0;
+  for (std::size_t i = 0; i < count; ++i) {
+    units[2 * i] = ascii[i];
+    units[2 * i + 1] = '\0';
+    others = static_cast<char>(others | (ascii[i] & '\x80'));
+  }
+  return others == 0;
+}
+
+void AppendUnit(std::string& bytes, char32_t unit) {
+  bytes += static_cast<char>(unit & 0xFF);
+  bytes += static_cast<char>(unit >> 8);
+}
+
+void AppendUtf16(std::string& bytes, std::string_view text) {
+  char units[2 * Block];
+  for (std::size_t place = 0; place < text.size();) {
+    const std::size_t count = std::min(Block, text.size() - place), end = place + count;
+    if (WidenAscii(text.data() + place, count, units)) {
+      bytes.append(units, 2 * count);
+      place = end;
+    }
+    while (place < end) {
+      const char32_t c = NextCodePoint(text, place);
+      if (c >= 0x10000) {
+        AppendUnit(bytes, 0xD800 + ((c - 0x10000) >> 10));
+        AppendUnit(bytes, 0xDC00 + ((c - 0x10000) & 0x3FF));
+      } else {
+        AppendUnit(bytes, c);
+      }
+    }
+  }
+}
+
+struct LineFeeds {
+  std::size_t Count = 0;
+  bool Bare = false;  ///< Whether any of them has no CR before it.
+};
+
+LineFeeds FindLineFeeds(std::string_view text) {
+  LineFeeds found{0, text.starts_with('\n')};
+  found.Count = found.Bare ? 1 : 0;
+  for (std::size_t place = 1; place < text.size(); place += Block) {
+    const std::size_t end = std::min(place + Block, text.size());
+    unsigned char count = 0, bare = 0;
+    for (std::size_t i = place; i < end; ++i) {
+      const bool feed = text[i] == '\n', afterOther = text[i - 1] != '\r';
+      count = static_cast<unsigned char>(count + feed);
+      bare = static_cast<unsigned char>(bare | (feed & afterOther));
+    }
+    found.Count += count;
+    found.Bare |= bare != 0;
+  }
+  return found;
+}
+
+/// `text` with CR LF in the place of each LF.
+std::string WithCrLf(std::string_view text) {
+  std::string ended;
+  for (const char c : text) {
+    if (c == '\n' && !ended.ends_with('\r')) ended += '\r';
+    ended += c;
+  }
+  return ended;
 }
 
 }  // namespace
 
-TextLines::TextLines(std::string text) : text_(std::make_shared<const std::string>(std::move(text))) {
-  std::string_view rest = *text_;
-  lines_.reserve(static_cast<std::size_t>(std::ranges::count(rest, '\n')) + 1);
-  while (!rest.empty()) {
-    const std::size_t end = rest.find('\n');
-    std::string_view line = rest.substr(0, end);
-    rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    lines_.push_back(line);
-  }
+TextLines::TextLines(std::string text) {
+  if (!text.empty() && !text.ends_with('\n')) text += '\n';
+  const LineFeeds feeds = FindLineFeeds(text);
+  size_ = feeds.Count;
+  text_ = std::make_shared<const std::string>(feeds.Bare ? WithCrLf(text) : std::move(text));
 }
 
 TextLines Decode(std::string_view bytes) {
   return TextLines(ToUtf8(bytes));
 }
 
-EncodedText::EncodedText(std::size_t expectedBytes) {
-  bytes_.reserve(expectedBytes);
+EncodedText::EncodedText(std::size_t expected) {
+  bytes_.reserve(Mark.size() + 2 * expected);
   bytes_ = Mark;
 }
 
 void EncodedText::Add(std::string_view line) {
-  const std::size_t before = bytes_.size();
-  bytes_.resize(before + 2 * line.size() + LineEnd.size());  // A byte of UTF-8 is one unit at the most.
-  char* out = bytes_.data() + before;
-  const auto unit = [&out](char32_t value) {
-    *out++ = static_cast<char>(value & 0xFF);
-    *out++ = static_cast<char>(value >> 8);
-  };
-  for (std::size_t place = 0; place < line.size();) {
-    const char32_t c = NextCodePoint(line, place);
-    if (c >= 0x10000) {
-      unit(0xD800 + ((c - 0x10000) >> 10));
-      unit(0xDC00 + ((c - 0x10000) & 0x3FF));
-    } else {
-      unit(c == '\n' ? ' ' : c);
-    }
+  const std::size_t lineBreak = line.find('\n');
+  AppendUtf16(bytes_, line.substr(0, lineBreak));
+  if (lineBreak != std::string_view::npos) {
+    AppendUtf16(bytes_, " ");
+    return Add(line.substr(lineBreak + 1));
   }
-  unit('\r');
-  unit('\n');
-  bytes_.resize(static_cast<std::size_t>(out - bytes_.data()));
+  bytes_ += LineEnd;
+}
+
+void EncodedText::AddLines(std::string_view lines) {
+  AppendUtf16(bytes_, lines);
 }
 
 void EncodedText::Add(int number) {

@@ -4,20 +4,19 @@
 #include <cstdlib>
 #include <string>
 
-#include "support/folders.h"
-
-/// The linker leads the program's fsync here: flushing files that live for a moment would take most of the
-/// time.
-extern "C" [[gnu::used]] inline int __wrap_fsync(int /*descriptor*/) {  // NOLINT: the linker gives the name.
-  return 0;
-}
+#include "data/program_folder.h"
+#include "support/memory_files.h"
 
 namespace kickwell {
 
-inline const TestFolder& FuzzFolder() {
-  static const TestFolder folder;
-  return folder;
-}
+struct FuzzFolder {
+  void Write(const std::string& file, const std::string& bytes) { Files.Put(Folder.Root / file, bytes); }
+  std::string Bytes(const std::string& file) const { return Files.Bytes(Folder.Root / file); }
+  bool Has(const std::string& file) const { return Files.Has(Folder.Root / file); }
+
+  MemoryFiles Files;
+  ProgramFolder Folder{"/kickwell", Files};
+};
 
 inline void Expect(bool holds) {
   if (!holds) std::abort();

@@ -6,17 +6,15 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace kickwell;
-  const TestFolder& folder = FuzzFolder();
+  FuzzFolder files;
   const char* const kept[] = {"Teams/Fuzz", "stadiums.sim", "Kickwell"};
   const char* const changing[] = {"Leagues/Fuzz.leg", "Tournies/Fuzz.trn", "~kickwell-1-2.tmp"};
-  for (const char* file : kept) WriteBytes(folder / file, "kept");
-  for (const char* file : changing) WriteBytes(folder / file, "old");
-  const std::filesystem::path journal = folder / std::string(JournalName), aside = folder / "unfinished.bad";
-  std::filesystem::remove(aside);
-  WriteBytes(journal, {reinterpret_cast<const char*>(data), size});
-  const bool followed = FinishChanges(folder.Folder).Ok();
-  Expect(!FileExists(journal) && followed != FileExists(aside));
-  for (const char* file : kept) Expect(ReadBytes(folder / file) == "kept");
-  for (const char* file : changing) Expect(followed || ReadBytes(folder / file) == "old");
+  for (const char* file : kept) files.Write(file, "kept");
+  for (const char* file : changing) files.Write(file, "old");
+  files.Write(std::string(JournalName), {reinterpret_cast<const char*>(data), size});
+  const bool followed = FinishChanges(files.Folder).Ok();
+  Expect(!files.Has(std::string(JournalName)) && followed != files.Has("unfinished.bad"));
+  for (const char* file : kept) Expect(files.Bytes(file) == "kept");
+  for (const char* file : changing) Expect(followed || files.Bytes(file) == "old");
   return 0;
 }

@@ -90,11 +90,12 @@ void FileRecording::StoreLeagueResult(const MatchSession& session) {
   ReadChampionshipOnce(*id);
   changes_.push_back(Value(ChangedResults(folder_, *id, block)));
   FileChanges(session, *id);
-  TellFailure(desktop_, failure_.Ok() ? ChangeFiles(folder_, changes_) : failure_);
+  const bool allWasRead = failure_.Ok();
+  TellFailure(desktop_, allWasRead ? ChangeFiles(folder_, changes_) : failure_);
   championship_.reset();
   changes_.clear();
   failure_ = {};
-  selectAgain_(MainFileName(*id));
+  if (allWasRead) selectAgain_(MainFileName(*id));  // Else nothing has changed, and the user has been told.
 }
 
 void FileRecording::FileChanges(const MatchSession& session, const ChampionshipId& id) {

@@ -33,6 +33,7 @@ std::string TeamName(int number) {
 
 std::vector<std::string> TeamNames(int count) {
   std::vector<std::string> names;
+  names.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) names.push_back(TeamName(i));
   return names;
 }

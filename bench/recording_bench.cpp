@@ -97,7 +97,7 @@ void AddRecordingFigures(Figures& figures) {
   const std::string name = "A match with a goal recorded", floor = name + " (floor)";
   Figures::Register(name, RecordMatch);
   Figures::Register(floor, ReadAndWriteLeague);
-  figures.AtMost(name, 3, floor);
+  figures.AtMost(name, 4, floor);
 }
 
 }  // namespace kickwell

@@ -225,12 +225,12 @@ EncodedText::EncodedText(std::size_t expected) {
 }
 
 void EncodedText::Add(std::string_view line) {
-  const std::size_t lineBreak = line.find('\n');
-  AppendUtf16(bytes_, line.substr(0, lineBreak));
-  if (lineBreak != std::string_view::npos) {
+  for (std::size_t end = line.find('\n'); end != std::string_view::npos; end = line.find('\n')) {
+    AppendUtf16(bytes_, line.substr(0, end));
     AppendUtf16(bytes_, " ");
-    return Add(line.substr(lineBreak + 1));
+    line.remove_prefix(end + 1);
   }
+  AppendUtf16(bytes_, line);
   bytes_ += LineEnd;
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <memory>
 
 #include "championship/championship_play.h"
 #include "data/championship_store.h"
@@ -91,38 +92,30 @@ const Change Changes[] = {
     {"deleted cup", [](const auto& folder) { return DeleteChampionship(folder, KnockOut); }},
 };
 
-class NothingLostTest : public testing::Test {
- protected:
-  static Files After(const Change& change) {
-    Season season;
-    EXPECT_TRUE(change.Make(season.Folder).Ok()) << change.Name;
-    return season.Files.All();
-  }
+Files After(const Change& change) {
+  Season season;
+  EXPECT_TRUE(change.Make(season.Folder).Ok()) << change.Name;
+  return season.Files.All();
+}
 
-  /// Makes the change until it stops at an operation; false when it was over before.
-  static bool StopsAt(int operation, Season& season, const Change& change) {
-    season.Files.StopAt = operation;
-    try {
-      EXPECT_TRUE(change.Make(season.Folder).Ok()) << change.Name;
-    } catch (const MemoryFiles::Stopped&) {
-      return true;
-    }
-    return false;
+/// The season in which the change was stopped at an operation; none when the change was over before.
+std::unique_ptr<Season> StoppedAt(int operation, const Change& change) {
+  auto season = std::make_unique<Season>();
+  season->Files.StopAt = operation;
+  try {
+    EXPECT_TRUE(change.Make(season->Folder).Ok()) << change.Name;
+  } catch (const MemoryFiles::Stopped&) {
+    return season;
   }
+  return nullptr;
+}
 
-  /// Starts the program in the folder; false when it stops at an operation.
-  static bool Starts(Season& season, int stopAt = 0) {
-    season.Files.StopAt = stopAt;
-    try {
-      EXPECT_TRUE(CleanUp(season.Folder).Ok());
-    } catch (const MemoryFiles::Stopped&) {
-      return false;
-    }
-    return true;
-  }
+void Start(Season& season) {
+  season.Files.Restart();
+  EXPECT_TRUE(CleanUp(season.Folder).Ok());
+}
 
-  const Files before_ = Season().Files.All();
-};
+const Files Before = Season().Files.All();
 
 /// Which of `count` changes of folders survive a power cut: none, all, each alone, and all but one.
 std::vector<std::set<std::size_t>> Survivors(std::size_t count) {
@@ -137,22 +130,19 @@ std::vector<std::set<std::size_t>> Survivors(std::size_t count) {
   return survivors;
 }
 
-TEST_F(NothingLostTest, APowerCutLeavesTheFilesBeforeOrAfterTheChange) {
+TEST(NothingLost, APowerCutLeavesTheFilesBeforeOrAfterTheChange) {
   for (const Change& change : Changes) {
     const Files after = After(change);
-    ASSERT_NE(after, before_) << change.Name;
+    ASSERT_NE(after, Before) << change.Name;
     int unchanged = 0, changed = 0;
-    for (int operation = 1;; ++operation) {
-      Season stopped;
-      if (!StopsAt(operation, stopped, change)) break;
-      for (const auto& survivors : Survivors(stopped.Files.Unflushed())) {
-        Season season;
-        StopsAt(operation, season, change);
-        season.Files.CutPower(survivors);
-        Starts(season);
-        unchanged += season.Files.All() == before_ ? 1 : 0;
-        changed += season.Files.All() == after ? 1 : 0;
-        EXPECT_TRUE(season.Files.All() == before_ || season.Files.All() == after)
+    for (int operation = 1; const auto stopped = StoppedAt(operation, change); ++operation) {
+      for (const auto& survivors : Survivors(stopped->Files.Unflushed())) {
+        const auto season = StoppedAt(operation, change);
+        season->Files.CutPower(survivors);
+        Start(*season);
+        unchanged += season->Files.All() == Before ? 1 : 0;
+        changed += season->Files.All() == after ? 1 : 0;
+        EXPECT_TRUE(season->Files.All() == Before || season->Files.All() == after)
             << change.Name << " cut off at operation " << operation;
       }
     }
@@ -161,46 +151,36 @@ TEST_F(NothingLostTest, APowerCutLeavesTheFilesBeforeOrAfterTheChange) {
   }
 }
 
-TEST_F(NothingLostTest, WhatIsSavedSurvivesAPowerCutRightAfterIt) {
+TEST(NothingLost, WhatIsSavedSurvivesAPowerCutRightAfterIt) {
   for (const Change& change : Changes) {
     Season season;
     EXPECT_TRUE(change.Make(season.Folder).Ok());
     season.Files.CutPower({});
-    Starts(season);
+    Start(season);
     EXPECT_EQ(season.Files.All(), After(change)) << change.Name;
   }
 }
 
-TEST_F(NothingLostTest, AStartThatStopsOrFailsCanBeRepeated) {
+TEST(NothingLost, AStartThatStopsOrFailsCanBeRepeated) {
   for (const Change& change : {LeagueMatch, ReplacedLeague}) {
     const Files after = After(change);
     int journals = 0;
-    for (int operation = 1;; ++operation) {
-      Season stopped;
-      if (!StopsAt(operation, stopped, change)) break;
-      if (!stopped.HasJournal()) continue;
+    for (int operation = 1; const auto stopped = StoppedAt(operation, change); ++operation) {
+      if (!stopped->HasJournal()) continue;
       ++journals;
-      bool finished = false;
-      for (int again = 1; !finished; ++again) {
-        Season season;
-        StopsAt(operation, season, change);
-        season.Files.Restart();
-        finished = Starts(season, again);
-        season.Files.Restart();
-        Starts(season);
-        EXPECT_EQ(season.Files.All(), after)
-            << change.Name << " " << operation << ", start stopped at " << again;
-
-        for (const int failures : {1, 2}) {
-          Season failing;
-          StopsAt(operation, failing, change);
-          failing.Files.Restart();
-          failing.Files.FailAt = again;
-          failing.Files.FailCount = failures;
-          const FileResult failed = CleanUp(failing.Folder);
-          failing.Files.Restart();
-          Starts(failing);
-          EXPECT_EQ(failing.Files.All(), after) << change.Name << " " << operation << ": " << failed.Failure;
+      Start(*stopped);
+      for (int again = 1; again <= stopped->Files.Operations; ++again) {
+        for (const int failures : {0, 1, 2}) {  // With none, this start stops.
+          const auto season = StoppedAt(operation, change);
+          season->Files.Restart();
+          (failures == 0 ? season->Files.StopAt : season->Files.FailAt) = again;
+          season->Files.FailCount = failures;
+          try {
+            (void)CleanUp(season->Folder);
+          } catch (const MemoryFiles::Stopped&) {
+          }
+          Start(*season);
+          EXPECT_EQ(season->Files.All(), after) << change.Name << " " << operation << ", start " << again;
         }
       }
     }
@@ -208,7 +188,7 @@ TEST_F(NothingLostTest, AStartThatStopsOrFailsCanBeRepeated) {
   }
 }
 
-TEST_F(NothingLostTest, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
+TEST(NothingLost, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
   for (const Change& change : Changes) {
     const Files after = After(change);
     Season counting;
@@ -222,9 +202,8 @@ TEST_F(NothingLostTest, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
         const FileResult result = change.Make(season.Folder);
         const bool unfinished = season.HasJournal();
         EXPECT_TRUE(failures > 1 || unfinished || !HasTemporary(season));
-        season.Files.Restart();
-        Starts(season);
-        EXPECT_TRUE(season.Files.All() == after || (season.Files.All() == before_ && !unfinished));
+        Start(season);
+        EXPECT_TRUE(season.Files.All() == after || (season.Files.All() == Before && !unfinished));
         EXPECT_TRUE(!result.Ok() || season.Files.All() == after);
         EXPECT_TRUE(season.Files.All() == after || change.Make(season.Folder).Ok());
         EXPECT_EQ(season.Files.All(), after);
@@ -233,7 +212,7 @@ TEST_F(NothingLostTest, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
   }
 }
 
-TEST_F(NothingLostTest, AnEndedChangeIsNotMadeAgain) {
+TEST(NothingLost, AnEndedChangeIsNotMadeAgain) {
   const auto play = [](Season& season) {
     EXPECT_TRUE(ReplacedLeague.Make(season.Folder).Ok());  // Deletes the scorers;
     EXPECT_TRUE(RecordGoal(season.Folder).Ok());           // the next goal must not be deleted, too.
@@ -244,12 +223,12 @@ TEST_F(NothingLostTest, AnEndedChangeIsNotMadeAgain) {
     Season season;
     play(season);
     season.Files.CutPower(survivors);
-    Starts(season);
+    Start(season);
     EXPECT_EQ(season.Files.All(), played.Files.All());
   }
 }
 
-TEST_F(NothingLostTest, NothingBuildsOnAnUnfinishedChange) {
+TEST(NothingLost, NothingBuildsOnAnUnfinishedChange) {
   Season season;
   season.Write("~kickwell-7-1.tmp", AsWritten("new\n"));
   season.Write("Leagues/Cup.rec/in the way", "");

@@ -135,31 +135,11 @@ TEST_F(PosixFileSystemTest, RefusesToSaveOnAnotherDisk) {
       "The file " + other.string() + " can't be saved: Its folder is on another disk than the program.");
 }
 
-/// Asks for permissions as a user without rights of its own, for as long as it lives. To the administrator
-/// all is permitted.
-class OrdinaryUser {
- public:
-  OrdinaryUser() {
-    if (administrator_) {
-      EXPECT_EQ(::setreuid(65534, static_cast<uid_t>(-1)), 0);
-    }
-  }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-  ~OrdinaryUser() {
-    if (administrator_) {
-      EXPECT_EQ(::setreuid(0, static_cast<uid_t>(-1)), 0);
-    }
-  }
-
- private:
-  const bool administrator_ = ::getuid() == 0;
-};
-
 TEST_F(PosixFileSystemTest, ReplacesNoFileThatIsProtected) {
   folder_.Write("file", "old");
   fs::permissions(folder_.Folder.Root, fs::perms(0777));
-  const OrdinaryUser user;
+  const bool administrator = ::getuid() == 0;  // Who is refused nothing: become someone else for a while.
+  ASSERT_EQ(::setreuid(administrator ? 65534 : static_cast<uid_t>(-1), static_cast<uid_t>(-1)), 0);
   for (const int refused : {0444, 0222}) {
     fs::permissions(folder_ / "file", fs::perms(refused));
     EXPECT_FALSE(Save("file", "new").Ok());
@@ -170,6 +150,7 @@ TEST_F(PosixFileSystemTest, ReplacesNoFileThatIsProtected) {
   fs::permissions(folder_.Folder.Root, fs::perms(0555));
   EXPECT_FALSE(Save("file", "newer").Ok());
   fs::permissions(folder_.Folder.Root, fs::perms(0777));
+  ASSERT_EQ(::setreuid(administrator ? 0 : static_cast<uid_t>(-1), static_cast<uid_t>(-1)), 0);
 }
 
 }  // namespace

@@ -78,7 +78,7 @@ TEST(TextEncoding, LinesOutliveWhatTheyWereCopiedFrom) {
     TextLines lines = Decode("short");
     copy = std::move(lines);
   }
-  EXPECT_EQ(copy[0], "short");
+  EXPECT_EQ(*copy.begin(), "short");
 }
 
 }  // namespace

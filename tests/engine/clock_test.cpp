@@ -14,7 +14,7 @@ using enum MatchPeriod;
 class ClockTest : public ScreenTest {
  protected:
   void Open(bool extraTime, bool shootOut) {
-    match_ = std::make_unique<Match>(ProgramFolder{}, desktop_, random_, recording_,
+    match_ = std::make_unique<Match>(folder_.Folder, desktop_, random_, recording_,
                                      MakeFullSetup(extraTime, shootOut));
     desktop_.Taken();
     random_.Minutes = 0;

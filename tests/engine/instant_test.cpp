@@ -25,7 +25,7 @@ class InstantTest : public ScreenTest {
     draws_.Expect(5, 1);
     draws_.Expect(5, 2);  // Shots beside the goals.
     draws_.Expect(5, 0);
-    Match match({}, desktop_, draws_, recording_, setup);
+    Match match(folder_.Folder, desktop_, draws_, recording_, setup);
     match.instant_Click();
     match.instant_Click();  // Played once only: no draws are left.
     return match.Session();

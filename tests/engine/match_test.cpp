@@ -112,7 +112,7 @@ TEST_F(MatchTest, PagesAreWrittenToTheLetter) {
        "<b><u>&lt;Top> Results:</u></b><br><br>\nA 1 vs &lt;B> 0<br>\n<br>\nMatch 2:<br>\n"},
   };
   for (const auto& [page, title, body] : pages) {
-    EXPECT_TRUE(WritePage(folder_ / "page.htm", page).Ok());
+    EXPECT_TRUE(WritePage(folder_.Files, folder_ / "page.htm", page).Ok());
     EXPECT_EQ(Bytes("page.htm"),
               AsWritten("<html><head>\n<title>Kickwell " + title +
                         "</title>\n</head><body bgcolor=#ECE9D8>\n"
@@ -132,7 +132,7 @@ TEST_F(MatchTest, SavingAsksForANameAndTellsAFailure) {
   desktop_.SaveName = (folder_ / "page").string();
   match.ComSave_Click();
   EXPECT_EQ(desktop_.ProposedName, "Rovers_United_Commentary");
-  EXPECT_EQ(ReadLines(folder_ / "page.htm"), CommentaryPage(match.Session()));
+  EXPECT_EQ(Bytes("page.htm"), Encode(CommentaryPage(match.Session())));
   desktop_.SaveName = (folder_ / "page.htm/page.htm").string();
   match.ComSave_Click();
   EXPECT_TRUE(desktop_.Told().ends_with("can't be saved: Not a directory."));

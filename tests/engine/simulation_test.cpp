@@ -47,7 +47,7 @@ class SimulationTest : public ScreenTest {
 
   /// Plays the first minute with the draws laid ready; `inPause` runs in each goal pause.
   void Play(const std::function<void(Match&)>& inPause = [](Match&) {}) {
-    Match match({}, desktop_, draws_, recording_, MakeFullSetup());
+    Match match(folder_.Folder, desktop_, draws_, recording_, MakeFullSetup());
     match.halftime_Click();
     desktop_.Taken();
     screen_.WhilePaused = [&] {

@@ -100,7 +100,8 @@ TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
   QtDesktop desktop(folder_.Folder);
   Run(desktop);
 
-  const TextLines page = Decode(Bytes("page.htm"));
+  const TextLines lines = Decode(Bytes("page.htm"));
+  const Lines page(lines.begin(), lines.end());
   ASSERT_GE(page.size(), 14U);
   EXPECT_EQ(page[6], "Venue: Bowl, Oss<br>");
   EXPECT_EQ(page[9], "PENALTY SHOOT OUT!<br>");
@@ -210,7 +211,8 @@ TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
   ExpectTexts({{"team(6)", "City"}, {"team(7)", ""}});
   user_.Click("Command3");
   Run(desktop_);
-  EXPECT_EQ(ReadResults(folder_.Folder, {ChampionshipKind::KnockOut, "Cup"}).Value[7], "Borough 0(0) vs Dynamo 0(0)");
+  EXPECT_EQ(ReadResults(folder_.Folder, {ChampionshipKind::KnockOut, "Cup"}).Value[7],
+            "Borough 0(0) vs Dynamo 0(0)");
   const Texts told = desktop_.Taken();
   EXPECT_EQ(told[0], "i: Read the file 'Help.htm' in your Kickwell folder for help.");
   EXPECT_EQ(told[1], "i: Read the file 'History.txt' in your Kickwell folder for history.");

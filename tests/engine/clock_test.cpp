@@ -42,6 +42,25 @@ class ClockTest : public ScreenTest {
     EXPECT_EQ(s.Side1.Team, side1);
   }
 
+  /// Plays all periods that there are. Side 2 scores in that second, or nobody.
+  void PlayToTheEnd(bool extraTime, bool shootOut, int second = 0) {
+    random_.ScoreIn(second, 2);
+    Open(extraTime, shootOut);
+    for (const int minutes : {45, 45, 15, 15, 1}) Play(minutes);
+  }
+
+  void ExpectEnd(MatchPeriod period, int minutes, const Texts& summary) const {
+    SCOPED_TRACE(summary[0]);
+    const MatchSession& s = Session();
+    EXPECT_EQ(s.Period, period);
+    EXPECT_EQ(random_.Minutes, minutes);
+    EXPECT_EQ(s.Summary.Entries, summary);
+    EXPECT_FALSE(s.Controls.halftimeEnabled || s.Controls.Timer1Enabled);
+    EXPECT_EQ(s.Controls.Label3, "");
+    EXPECT_EQ(s.Controls.Label2, Lamp::Black);
+    EXPECT_EQ(s.BallSide, 0);
+  }
+
   std::unique_ptr<Match> match_;
 };
 
@@ -90,68 +109,29 @@ TEST_F(ClockTest, APeriodBeingPlayedRunsAndItsTicksAreDroppedUnderAQuestion) {
 }
 
 TEST_F(ClockTest, AMatchEndsWhenItIsDecided) {
-  struct Case {
-    bool ExtraTime, ShootOut;
-    int Second, Side;  ///< Which side scores in which second; none with 0.
-    int Minutes;       ///< So many are played.
-    MatchPeriod Period;
-    Texts Summary;
-  };
-  const Case cases[] = {
-      {false, false, 0, 0, 90, SecondHalf, {"", "Result:", "The match was tied at 0-0"}},
-      {true, false, 0, 0, 120, ExtraTimeSecondHalf, {"", "Result:", "The match was tied at 0-0"}},
-      {false,
-       false,
-       5400,
-       2,
-       90,
-       SecondHalf,
-       {"90:00 >> R5 (Rovers)", "", "Result:", "Rovers beats United 1-0"}},
-      {true,
-       true,
-       5400,
-       2,
-       90,
-       SecondHalf,
-       {"90:00 >> R5 (Rovers)", "", "Result:", "Rovers beats United 1-0"}},
-      // Golden goals: not a second more is played, but the minute's other draws are made.
-      {true,
-       true,
-       5401,
-       2,
-       91,
-       ExtraTimeFirstHalf,
-       {"90:01 >> U5 (United)", "GOLDEN GOAL!", "", "Result:", "United beats Rovers 1-0"}},
-      {true,
-       true,
-       6300,
-       2,
-       105,
-       ExtraTimeFirstHalf,
-       {"105:00 >> U5 (United)", "GOLDEN GOAL!", "", "Result:", "United beats Rovers 1-0"}},
-      {true,
-       false,
-       7200,
-       2,
-       120,
-       ExtraTimeSecondHalf,
-       {"120:00 >> R5 (Rovers)", "GOLDEN GOAL!", "", "Result:", "Rovers beats United 1-0"}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(testing::PrintToString(c.Summary));
-    random_.ScoreIn(c.Second, c.Side);
-    Open(c.ExtraTime, c.ShootOut);
-    for (const int minutes : {45, 45, 15, 15, 1}) Play(minutes);
-    EXPECT_EQ(Session().Summary.Entries, c.Summary);
-    EXPECT_EQ(Session().Period, c.Period);
-    EXPECT_FALSE(Session().Controls.halftimeEnabled || Session().Controls.Timer1Enabled);
-    EXPECT_EQ(Session().Controls.Label3, "");
-    EXPECT_EQ(Session().Controls.Label2, Lamp::Black);
-    EXPECT_EQ(Session().BallX, CentreSpotX);
-    EXPECT_EQ(Session().BallSide, 0);
-    EXPECT_EQ(random_.Minutes, c.Minutes);
-    EXPECT_TRUE(c.Second == 0 || c.Summary[0].starts_with(Session().ClockText)) << Session().ClockText;
+  const Texts tied = {"", "Result:", "The match was tied at 0-0"};
+  const Texts won = {"90:00 >> R5 (Rovers)", "", "Result:", "Rovers beats United 1-0"};
+  PlayToTheEnd(false, false);
+  ExpectEnd(SecondHalf, 90, tied);
+  PlayToTheEnd(true, false);
+  ExpectEnd(ExtraTimeSecondHalf, 120, tied);
+  for (const bool extraTime : {false, true}) {
+    PlayToTheEnd(extraTime, extraTime, 90 * SecondsPerMinute);
+    ExpectEnd(SecondHalf, 90, won);
   }
+}
+
+TEST_F(ClockTest, AGoldenGoalEndsTheMatchInItsSecond) {
+  const Texts end = {"GOLDEN GOAL!", "", "Result:"};
+  PlayToTheEnd(true, true, 90 * SecondsPerMinute + 1);
+  ExpectEnd(ExtraTimeFirstHalf, 91,
+            {"90:01 >> U5 (United)", end[0], end[1], end[2], "United beats Rovers 1-0"});
+  PlayToTheEnd(true, true, 105 * SecondsPerMinute);
+  ExpectEnd(ExtraTimeFirstHalf, 105,
+            {"105:00 >> U5 (United)", end[0], end[1], end[2], "United beats Rovers 1-0"});
+  PlayToTheEnd(true, false, 120 * SecondsPerMinute);
+  ExpectEnd(ExtraTimeSecondHalf, 120,
+            {"120:00 >> R5 (Rovers)", end[0], end[1], end[2], "Rovers beats United 1-0"});
   const Texts& lines = Session().Commentary.Entries;
   EXPECT_EQ((Texts{lines.end() - 3, lines.end()}),
             (Texts{"Referee blows the final whistle", "The match ends with a Golden Goal",

@@ -38,13 +38,13 @@ std::vector<std::string> TeamNames(int count) {
   return names;
 }
 
-void WriteLeague(const ProgramFolder& folder, const Championship& league, int scorers, int logLines) {
+void WriteLeague(const ProgramFolder& folder, const Championship& league, LeagueLength length) {
   Require(WriteChampionship(folder, league));
   const auto standings = ReadStandings(folder, league.Id, league.Teams);
   Require(ChangeFiles(folder, {ChangedStandings(league.Id, standings.Value)}));
 
   EncodedText tallies;
-  for (int i = 0; i < scorers; ++i) {
+  for (int i = 0; i < length.Scorers; ++i) {
     tallies.Add("Player " + std::to_string(i));
     tallies.Add(TeamName(i % 32));
     tallies.Add(i % 40 + 1);
@@ -56,7 +56,8 @@ void WriteLeague(const ProgramFolder& folder, const Championship& league, int sc
                        "Winner: Team 12",
                        ""};
   EncodedText log;
-  for (std::size_t i = 0; i < static_cast<std::size_t>(logLines); ++i) log.Add(block[i % block.size()]);
+  for (std::size_t i = 0; i < static_cast<std::size_t>(length.LogLines); ++i)
+    log.Add(block[i % block.size()]);
   const std::filesystem::path file = folder.Leagues() / league.Id.Name;
   Require(ReplaceFile(folder.Files(), file.string() + ".sco", tallies.Bytes(), folder.Root));
   Require(ReplaceFile(folder.Files(), file.string() + ".lrs", log.Bytes(), folder.Root));

@@ -36,6 +36,9 @@ std::string TeamName(int number);
 std::vector<std::string> TeamNames(int count);
 
 /// Writes a league with all companions, in the middle of play.
-void WriteLeague(const ProgramFolder& folder, const Championship& league, int scorers, int logLines);
+struct LeagueLength {
+  int Scorers, LogLines;
+};
+void WriteLeague(const ProgramFolder& folder, const Championship& league, LeagueLength length);
 
 }  // namespace kickwell

@@ -29,7 +29,7 @@ class FullLeague {
   FullLeague() {
     const Championship league = NearlyPlayedLeague();
     const Fixture& last = league.Fixtures.back();
-    WriteLeague(Folder(), league, 5000, 5951);
+    WriteLeague(Folder(), league, {.Scorers = 5000, .LogLines = 5951});
     std::filesystem::copy(Folder().Leagues(), Folder().Root / "Fresh");
     Session.Setup.Mode = MatchMode::League;
     Session.Setup.ChampionshipName = league.Id.Name;

@@ -59,7 +59,7 @@ void WriteChampionships(const ProgramFolder& folder) {
     league.Fixtures.push_back(
         {i % 2 == 0 ? Played : NotPlayed, TeamName(i % MostTeamsOfLeague), TeamName(99 - i % 50), {}});
   }
-  WriteLeague(folder, league, 5000, 15001);
+  WriteLeague(folder, league, {.Scorers = 5000, .LogLines = 15001});
 
   SeededRandom random(1);
   Championship knockOut;

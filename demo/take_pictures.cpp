@@ -194,13 +194,15 @@ class Session {
   }
 
   /// Opens a screen of the menu, takes its picture and leaves by the button.
-  void TakeScreen(Qt::Key menu, Qt::Key item, const QString& screen, const QString& name,
-                  const QString& close, const User::Step& before = nullptr) {
+  struct Screen {
+    QString Window, Picture, Close;  ///< Its name, its picture's, and that of the button which closes it.
+  };
+  void TakeScreen(Qt::Key menu, Qt::Key item, const Screen& screen, const User::Step& before = nullptr) {
     Choose(menu, item);
-    user_.In(screen, [=, this](QWidget& window) {
+    user_.In(screen.Window, [=, this](QWidget& window) {
       if (before) before(window);
-      pictures_.Take(window, name);
-      User::Click(window, close);
+      pictures_.Take(window, screen.Picture);
+      User::Click(window, screen.Close);
     });
   }
 
@@ -217,21 +219,21 @@ class Session {
       pictures_.Take(window, "play-settings");
       User::Click(window, "Command2");
     });
-    TakeScreen(Qt::Key_S, Qt::Key_L, "Table", "table", "Command1");
-    TakeScreen(Qt::Key_S, Qt::Key_T, "TopScorers", "top-scorers", "Command3");
-    TakeScreen(Qt::Key_S, Qt::Key_M, "LegResults", "results", "Command1");
+    TakeScreen(Qt::Key_S, Qt::Key_L, {"Table", "table", "Command1"});
+    TakeScreen(Qt::Key_S, Qt::Key_T, {"TopScorers", "top-scorers", "Command3"});
+    TakeScreen(Qt::Key_S, Qt::Key_M, {"LegResults", "results", "Command1"});
     Finish();
   }
 
   void PlayKnockOut() {
     Play("KnockSettings", Qt::Key_K, "Lucky Socks Cup.trn", 10);  // The first round and two of the second.
     user_.In("KnockSettings", [](QWidget& window) { User::Click(window, "Command2"); });
-    TakeScreen(Qt::Key_S, Qt::Key_K, "KnockCharts", "knock-out", "Command3");
+    TakeScreen(Qt::Key_S, Qt::Key_K, {"KnockCharts", "knock-out", "Command3"});
     Finish();
   }
 
   void Edit() {
-    TakeScreen(Qt::Key_E, Qt::Key_T, "TeamEditor", "team-editor", "Command4", [](QWidget& window) {
+    TakeScreen(Qt::Key_E, Qt::Key_T, {"TeamEditor", "team-editor", "Command4"}, [](QWidget& window) {
       PickText(window, "Combo3", "Kestrel Vale");
       window.findChild<QListWidget*>("List1")->setCurrentRow(10);
       Type(window, "Text2", "Cedric Thistledown");
@@ -239,7 +241,7 @@ class Session {
       PickText(window, "Combo1", "MF");
       PickText(window, "Combo2", "C");
     });
-    TakeScreen(Qt::Key_E, Qt::Key_S, "StadEditor", "stadium-editor", "Command3", [](QWidget& window) {
+    TakeScreen(Qt::Key_E, Qt::Key_S, {"StadEditor", "stadium-editor", "Command3"}, [](QWidget& window) {
       Type(window, "Text1", "Teacup Park");
       Type(window, "Text2", "Kestrel");
       Type(window, "Text3", "12500");

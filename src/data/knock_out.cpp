@@ -83,6 +83,7 @@ std::vector<ChartMatch> ChartMatches(int teams) {
   if (!IsKnockOutSize(teams)) return {};
   // The slots are numbered as the tree is walked: both entrants of a match, then its winner.
   std::vector<int> entrants;
+  entrants.reserve(static_cast<std::size_t>(teams));
   for (int team = 0; team < teams; ++team) {
     entrants.push_back(2 * team - std::popcount(static_cast<unsigned>(team)));
   }

@@ -7,7 +7,7 @@
 
 namespace kickwell {
 
-QLabel* MakeText(const QString& objectName, const QString& text, Qt::Alignment alignment) {
+QLabel* MakeText(QAnyStringView objectName, const QString& text, Qt::Alignment alignment) {
   auto* const label = new TextLabel(text);
   label->setObjectName(objectName);
   label->setAlignment(alignment | Qt::AlignVCenter);

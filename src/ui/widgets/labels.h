@@ -7,7 +7,7 @@
 namespace kickwell {
 
 /// A label for a figure or for a text from the user's files.
-QLabel* MakeText(const QString& objectName, const QString& text, Qt::Alignment alignment = Qt::AlignLeft);
+QLabel* MakeText(QAnyStringView objectName, const QString& text, Qt::Alignment alignment = Qt::AlignLeft);
 
 /// Gives `label` bold type of `factor` times the usual size.
 QLabel* Enlarged(QLabel* label, qreal factor);

@@ -54,7 +54,8 @@ void BracketView::NameSlots() {
     matches.append(match + ": " + name(home, match + ", home") + " against " + name(away, match + ", away"));
     name(winner, "Winner");  // Unless the slot takes part in a later match, which names it again.
   }
-  if (!charts_.Matches.empty()) matches.append("Winner: " + Shown(charts_.Text(charts_.Matches.back().Winner)));
+  if (!charts_.Matches.empty())
+    matches.append("Winner: " + Shown(charts_.Text(charts_.Matches.back().Winner)));
   setAccessibleDescription(matches.join("; "));
 }
 

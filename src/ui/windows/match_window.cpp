@@ -166,7 +166,7 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   auto* const grid = new QGridLayout(box);
   grid->setHorizontalSpacing(14);
   int row = 0;
-  const auto fact = [&](const QString& heading, const QString& name, const QString& text) {
+  const auto fact = [&](const QString& heading, QAnyStringView name, const QString& text) {
     QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), 1.1);
     grid->addWidget(MakeCaption(heading), row, 0);
     grid->addWidget(figure, row++, 1, Qt::AlignVCenter);

@@ -51,7 +51,7 @@ void ScreenWindow::Act(const std::function<void()>& action) {
   }
 }
 
-QPushButton* ScreenWindow::Button(const QString& name, const QString& caption, std::function<void()> action) {
+QPushButton* ScreenWindow::Button(QAnyStringView name, const QString& caption, std::function<void()> action) {
   auto* const button = new QPushButton(caption);
   button->setObjectName(name);
   button->setAutoDefault(false);
@@ -63,7 +63,7 @@ QPushButton* ScreenWindow::Button(const QString& name, const QString& caption, s
   return button;
 }
 
-QPushButton* ScreenWindow::ArrowButton(const QString& name, QStyle::StandardPixmap arrow, const QString& tip,
+QPushButton* ScreenWindow::ArrowButton(QAnyStringView name, QStyle::StandardPixmap arrow, const QString& tip,
                                        std::function<void()> action) {
   QPushButton* const button = Button(name, {}, std::move(action));
   button->setIcon(style()->standardIcon(arrow));

@@ -26,10 +26,10 @@ class ScreenWindow : public QDialog {
 
   /// A button that runs `action`. It is no auto-default button, so it never takes Enter from a text box.
   /// Screen readers announce its caption without arrows of "<" and ">".
-  QPushButton* Button(const QString& name, const QString& caption, std::function<void()> action);
+  QPushButton* Button(QAnyStringView name, const QString& caption, std::function<void()> action);
 
   /// The same with an arrow instead of a caption; `tip` says what it does.
-  QPushButton* ArrowButton(const QString& name, QStyle::StandardPixmap arrow, const QString& tip,
+  QPushButton* ArrowButton(QAnyStringView name, QStyle::StandardPixmap arrow, const QString& tip,
                            std::function<void()> action);
 
   /// Runs `action` with the entry that the user picks.

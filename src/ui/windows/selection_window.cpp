@@ -22,7 +22,7 @@ namespace {
 constexpr int UsualName = 14;  ///< Two choosers stand side by side.
 
 /// Adds a figure and its caption, side by side in the grid.
-QLabel* AddFigure(QGridLayout* grid, int row, int column, const QString& caption, const QString& name,
+QLabel* AddFigure(QGridLayout* grid, int row, int column, const QString& caption, QAnyStringView name,
                   const QString& text) {
   QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), 1);
   grid->addWidget(MakeFigureCaption(caption, figure), row, column);

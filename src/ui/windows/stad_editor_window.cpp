@@ -27,7 +27,7 @@ const char* const Adding =
     "field "
     "will only accept numerical values.";
 
-QLabel* Instruction(const QString& name, const QString& text) {
+QLabel* Instruction(QAnyStringView name, const QString& text) {
   QLabel* const label = MakeCaption(text);
   label->setObjectName(name);
   label->setWordWrap(true);

@@ -185,6 +185,7 @@ TEST_F(ScreensTest, AreToldAndWalked) {
   std::set<QString> screens;
   std::vector<QStringList> statistics;
   std::string row, state;
+  QString championship;
   LookAround([&](QWidget& window) {
     SCOPED_TRACE(window.objectName().toStdString());
     screens.insert(window.objectName());
@@ -193,12 +194,14 @@ TEST_F(ScreensTest, AreToldAndWalked) {
       statistics.push_back(Statistics(*bar));
     else
       ExpectTabOrder(window);
+    if (window.objectName() == "Opening") championship = User::TextOf(window, "league");
     if (window.objectName() == "Table")
       row = window.findChild<QWidget*>("Marker(1)")->accessibleName().toStdString();
     if (const auto* const pitch = window.findChild<QWidget*>("Picture2"))
       state = pitch->accessibleDescription().toStdString();
   });
   EXPECT_EQ(screens.size(), 13U);
+  EXPECT_EQ(championship.toStdString(), NoChampionship);  // A friendly was chosen last.
   const QStringList ofLeague{"&Top Scorers", "&League Table", "&Match Results"};
   const QStringList ofKnockOut{"&Top Scorers", "&Match Results", "&Knock Out Table"};
   EXPECT_EQ(statistics, (std::vector<QStringList>{{}, ofLeague, ofKnockOut, {}}));

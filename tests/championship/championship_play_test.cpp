@@ -60,6 +60,10 @@ TEST_F(ChampionshipPlayTest, ARangeGoesOnIntoTheNextRound) {
   ChampionshipPlay play = Open(KnockOut);
   EXPECT_EQ(Play(play, 1, 3), (Texts{"Match 1: A v C", "Match 2: B v D"}));  // Neither was recorded.
   EXPECT_EQ(desktop_.Taken(), Texts{"i: Match 3 can't be played before match 1 has been played"});
+  Write("Tournies/Cup.trn", cup + first + "NP\nB\nD\nWinner 2\nNP\nA\nWinner 2\nWinner 3\n");
+  play.Load("Cup.trn");
+  EXPECT_EQ(Play(play, 3, 3), Texts{});
+  EXPECT_EQ(desktop_.Taken(), Texts{"i: Match 3 can't be played before match 2 has been played"});
 
   WhilePlayed = [&] {
     Write("Tournies/Cup.trn", cup + "P\nA\nC\nC (By Toss)\nP\nB\nD\nD\nNP\nC (By Toss)\nD\nWinner 3\n");

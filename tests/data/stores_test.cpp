@@ -109,6 +109,12 @@ TEST_F(StoresTest, StandingsHaveARowForEveryTeam) {
   EXPECT_EQ(ReadStandings(folder_, Top, {"A", "B"}).Value, complete);
 }
 
+TEST_F(StoresTest, ANewTeamsStandingsStandBehindTheCompleteRows) {
+  at_.Write("Leagues/Top.rec", "A\n1\n1\n0\n0\n2\n1\n3\nB\n1");
+  EXPECT_TRUE(AppendStandings(folder_, Top, "C").Ok());
+  ExpectFile("Leagues/Top.rec", "A\n1\n1\n0\n0\n2\n1\n3\nC\n0\n0\n0\n0\n0\n0\n0\n");
+}
+
 TEST_F(StoresTest, ScorersAreTheCompleteOnes) {
   EXPECT_TRUE(ReadScorers(folder_, Top).Value.empty());
   at_.Write("Leagues/Top.sco", "Ann\nA\nno\nBo\nB");

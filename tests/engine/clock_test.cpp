@@ -79,6 +79,7 @@ TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
   match_->halftime_Click();
   EXPECT_EQ(Session().Side1.Team, "United");  // The teams stay where they are.
   EXPECT_EQ(Session().Controls.Label3, "");
+  EXPECT_FALSE(Session().Controls.halftimeVisible);
   EXPECT_TRUE(Session().Controls.kickEnabled);
   EXPECT_FALSE(Session().Controls.nextshotEnabled);
   EXPECT_TRUE(Session().Controls.PensVisible);

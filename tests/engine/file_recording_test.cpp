@@ -44,9 +44,9 @@ TEST_F(FileRecordingTest, GoalsAddUpByThePlayersName) {
   Score(MatchMode::League, "Bo", "United");
   Score(MatchMode::League, "Ann", "United");  // A namesake: one tally, the first team stays.
   ExpectFile("Leagues/Cup.sco", "Ann\nRovers\n2\nBo\nUnited\n1\n");
-  Write("Tournies/Cup.sco", "Cy\nRovers\n2147483647\n");
-  Score(MatchMode::KnockOut, "Cy", "Rovers");
-  ExpectFile("Tournies/Cup.sco", "Cy\nRovers\n2147483647\n");  // The largest tally stays.
+  Write("Tournies/Cup.sco", "Cy\nRovers\n2147483647\nCy\nUnited\n1\n");
+  Score(MatchMode::KnockOut, "Cy", "Rovers");  // Every tally of that name; the largest stays.
+  ExpectFile("Tournies/Cup.sco", "Cy\nRovers\n2147483647\nCy\nUnited\n2\n");
 }
 
 TEST_F(FileRecordingTest, ALeagueMatchUpdatesStandingsResultsAndItsFixture) {
@@ -79,6 +79,14 @@ TEST_F(FileRecordingTest, AKnockOutWinnerGoesWhereHisMatchIsWaitedFor) {
                                      "NP\nUnited (By Toss)\nCity\nWinner 3\n");
   EXPECT_FALSE(Exists("Tournies/Cup.rec"));
   EXPECT_EQ(selectedAgain_, (Texts{"Cup.trn", "Cup.trn"}));
+}
+
+TEST_F(FileRecordingTest, ATeamReallyCalledByTossIsAnotherTeam) {
+  const std::string cup = "1\nCup\n2\nRovers (By Toss)\nUnited\nNP\nRovers (By Toss)\nUnited\nWinner 1\n";
+  Write("Teams/Rovers (By Toss)", "50\n");
+  Write("Tournies/Cup.trn", AsWritten(cup));
+  Play(MatchMode::KnockOut, 1, 0);
+  ExpectFile("Tournies/Cup.trn", cup);
 }
 
 TEST_F(FileRecordingTest, AShootOutIsToldInTheResults) {

@@ -104,7 +104,7 @@ TEST_F(StoresTest, StandingsHaveARowForEveryTeam) {
   const std::vector<StandingsRow> zeros = {{"A"}, {"B"}};
   EXPECT_EQ(ReadStandings(folder_, Top, {"A", "B"}).Value, zeros);
   at_.Write("Leagues/Top.rec",
-            "A\nx\n1\n0\n0\n2\n1\n3\nB\n1");  // A figure is no number; B's row is cut short.
+            "A\n1x\n1\n0\n0\n2\n1\n3\nB\n1");  // A figure is no number; B's row is cut short.
   const std::vector<StandingsRow> complete = {{"A", 0, 1, 0, 0, 2, 1, 3}, {"B"}};
   EXPECT_EQ(ReadStandings(folder_, Top, {"A", "B"}).Value, complete);
 }

@@ -36,8 +36,7 @@ class ClockTest : public ScreenTest {
     const MatchSession& s = Session();
     EXPECT_EQ(ToText(s.Period), button);
     EXPECT_EQ(s.Controls.Label3, clock);
-    EXPECT_TRUE(s.Controls.halftimeEnabled);
-    EXPECT_FALSE(s.Controls.Timer1Enabled);
+    EXPECT_TRUE(s.Controls.halftimeEnabled && !s.Controls.Timer1Enabled);
     EXPECT_EQ(s.BallSide, 0);
     EXPECT_EQ(s.BallX, CentreSpotX);
     EXPECT_EQ(s.Side1.Team, side1);
@@ -78,14 +77,19 @@ TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
   EXPECT_TRUE(s.Controls.ShootOutVisible && s.Controls.PensVisible && s.Controls.kickEnabled);
   EXPECT_FALSE(s.Controls.halftimeVisible || s.Controls.nextshotEnabled);
   EXPECT_EQ(s.Summary.Entries, Texts{"PENALTY SHOOT OUT!"});
-  EXPECT_EQ(
-      s.Commentary.Entries,
-      (Texts{"Here's the kick off", "The match is between Rovers and United",
-             "Here comes the half time whistle", "Play for the 2nd half gets underway",
-             "Referee blows the full time whistle", "The match goes into extra time",
-             "Referee starts the extra time", "Extra Time 1st half comes to an end",
-             "Extra time 2nd half gets underway", "The match remains undecided after Extra Time 2nd half",
-             "The match goes into penalty shoot out", "Players getting ready for the shoot out"}));
+  const Texts told = {"Here's the kick off",
+                      "The match is between Rovers and United",
+                      "Here comes the half time whistle",
+                      "Play for the 2nd half gets underway",
+                      "Referee blows the full time whistle",
+                      "The match goes into extra time",
+                      "Referee starts the extra time",
+                      "Extra Time 1st half comes to an end",
+                      "Extra time 2nd half gets underway",
+                      "The match remains undecided after Extra Time 2nd half",
+                      "The match goes into penalty shoot out",
+                      "Players getting ready for the shoot out"};
+  EXPECT_EQ(s.Commentary.Entries, told);
   EXPECT_EQ(desktop_.Taken(), Texts(9, "* whistle"));
 }
 
@@ -106,8 +110,8 @@ TEST_F(ClockTest, AGoldenGoalEndsTheMatchInItsSecond) {
             {"105:00 >> U5 (United)", "GOLDEN GOAL!", "", "Result:", "United beats Rovers 1-0"});
   ExpectEnd(true, false, 120 * SecondsPerMinute, ExtraTimeSecondHalf,
             {"120:00 >> R5 (Rovers)", "GOLDEN GOAL!", "", "Result:", "Rovers beats United 1-0"});
-  const Texts& lines = Session().Commentary.Entries;
-  EXPECT_EQ((Texts{lines.end() - 3, lines.end()}),
+  const Texts& told = Session().Commentary.Entries;
+  EXPECT_EQ((Texts{told.end() - 3, told.end()}),
             (Texts{"Referee blows the final whistle", "The match ends with a Golden Goal",
                    "With that, Rovers wins the match"}));
 }

@@ -77,19 +77,14 @@ TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
   EXPECT_TRUE(s.Controls.ShootOutVisible && s.Controls.PensVisible && s.Controls.kickEnabled);
   EXPECT_FALSE(s.Controls.halftimeVisible || s.Controls.nextshotEnabled);
   EXPECT_EQ(s.Summary.Entries, Texts{"PENALTY SHOOT OUT!"});
-  const Texts told = {"Here's the kick off",
-                      "The match is between Rovers and United",
-                      "Here comes the half time whistle",
-                      "Play for the 2nd half gets underway",
-                      "Referee blows the full time whistle",
-                      "The match goes into extra time",
-                      "Referee starts the extra time",
-                      "Extra Time 1st half comes to an end",
-                      "Extra time 2nd half gets underway",
-                      "The match remains undecided after Extra Time 2nd half",
-                      "The match goes into penalty shoot out",
-                      "Players getting ready for the shoot out"};
-  EXPECT_EQ(s.Commentary.Entries, told);
+  EXPECT_EQ(
+      s.Commentary.Entries,
+      (Texts{"Here's the kick off", "The match is between Rovers and United",
+             "Here comes the half time whistle", "Play for the 2nd half gets underway",
+             "Referee blows the full time whistle", "The match goes into extra time",
+             "Referee starts the extra time", "Extra Time 1st half comes to an end",
+             "Extra time 2nd half gets underway", "The match remains undecided after Extra Time 2nd half",
+             "The match goes into penalty shoot out", "Players getting ready for the shoot out"}));
   EXPECT_EQ(desktop_.Taken(), Texts(9, "* whistle"));
 }
 

@@ -10,13 +10,15 @@ using Pairings = std::vector<Pairing>;
 
 TEST(Fixtures, OfALeagueAreExchangedBetweenDrawnPlaces) {
   // The first and the last fixture change places; the other draws change nothing.
-  ScriptedRandom random("6:0 6:5 6:1x10");
+  ScriptedRandom random;
+  random.Expect({{6, 0}, {6, 5}, {6, 1, 10}});
   EXPECT_EQ(LeagueFixture({"A", "B", "C"}, random),
             (Pairings{{"C", "B"}, {"B", "A"}, {"A", "C"}, {"C", "A"}, {"B", "C"}, {"A", "B"}}));
 }
 
 TEST(Fixtures, OfAKnockOutPairTheHalvesInADrawnOrder) {
-  ScriptedRandom random("2:0 2:1 2:0x2");  // The first and the second change places.
+  ScriptedRandom random;
+  random.Expect({{2, 0}, {2, 1}, {2, 0, 2}});  // The first and the second change places.
   EXPECT_EQ(KnockOutFixture({"A", "B", "C", "D"}, random),
             (Pairings{{"B", "D"}, {"A", "C"}, {"Winner 1", "Winner 2"}}));
 }

@@ -51,7 +51,7 @@ template <typename Record>
 FileResult Recorded(const ProgramFolder& folder, MatchMode mode, Record record) {
   FakeDesktop desktop;
   FileRecording recording(folder, desktop, [](const std::string&) {});
-  MatchSession s = EndedMatch(mode, 2, 0);
+  MatchSession s = MakeSession(mode, 2, 0);
   s.LastScorer = "Ann";
   s.LastScoringTeam = "Rovers";
   record(s, recording);

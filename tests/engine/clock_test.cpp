@@ -13,11 +13,12 @@ using enum MatchPeriod;
 
 class ClockTest : public ScreenTest {
  protected:
-  void Open(bool extraTime, bool shootOut) {
+  /// Opens a match in which side 2 scores in that second, counted from 1, or nobody.
+  void Open(bool extraTime, bool shootOut, int second = 0) {
+    if (second > 0) random_.Goals = std::string(static_cast<std::size_t>(second - 1), '.') + "2";
     match_ = std::make_unique<Match>(folder_.Folder, desktop_, random_, recording_,
                                      MakeFullSetup(extraTime, shootOut));
     desktop_.Taken();
-    random_.Minutes = 0;
   }
 
   const MatchSession& Session() const { return match_->Session(); }
@@ -35,29 +36,22 @@ class ClockTest : public ScreenTest {
     const MatchSession& s = Session();
     EXPECT_EQ(ToText(s.Period), button);
     EXPECT_EQ(s.Controls.Label3, clock);
-    EXPECT_TRUE(s.Controls.halftimeEnabled);
-    EXPECT_FALSE(s.Controls.Timer1Enabled);
+    EXPECT_TRUE(s.Controls.halftimeEnabled && !s.Controls.Timer1Enabled);
     EXPECT_EQ(s.BallSide, 0);
     EXPECT_EQ(s.BallX, CentreSpotX);
     EXPECT_EQ(s.Side1.Team, side1);
   }
 
   /// Plays all periods that there are. Side 2 scores in that second, or nobody.
-  void PlayToTheEnd(bool extraTime, bool shootOut, int second = 0) {
-    random_.ScoreIn(second, 2);
-    Open(extraTime, shootOut);
-    for (const int minutes : {45, 45, 15, 15, 1}) Play(minutes);
-  }
-
-  void ExpectEnd(MatchPeriod period, int minutes, const Texts& summary) const {
+  void ExpectEnd(bool extraTime, bool shootOut, int second, MatchPeriod period, const Texts& summary) {
     SCOPED_TRACE(summary[0]);
+    Open(extraTime, shootOut, second);
+    for (const int minutes : {45, 45, 15, 15, 1}) Play(minutes);
     const MatchSession& s = Session();
     EXPECT_EQ(s.Period, period);
-    EXPECT_EQ(random_.Minutes, minutes);
     EXPECT_EQ(s.Summary.Entries, summary);
     EXPECT_FALSE(s.Controls.halftimeEnabled || s.Controls.Timer1Enabled);
     EXPECT_EQ(s.Controls.Label3, "");
-    EXPECT_EQ(s.Controls.Label2, Lamp::Black);
     EXPECT_EQ(s.BallSide, 0);
   }
 
@@ -77,15 +71,14 @@ TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
   Play(15);
   ExpectBreak("&Penalty Shoot Out", "120:00", "United");
   match_->halftime_Click();
-  EXPECT_EQ(Session().Side1.Team, "United");  // The teams stay where they are.
-  EXPECT_EQ(Session().Controls.Label3, "");
-  EXPECT_FALSE(Session().Controls.halftimeVisible);
-  EXPECT_TRUE(Session().Controls.kickEnabled);
-  EXPECT_FALSE(Session().Controls.nextshotEnabled);
-  EXPECT_TRUE(Session().Controls.PensVisible);
-  EXPECT_EQ(Session().Summary.Entries, Texts{"PENALTY SHOOT OUT!"});
+  const MatchSession& s = Session();
+  EXPECT_EQ(s.Side1.Team, "United");  // The teams stay where they are.
+  EXPECT_EQ(s.Controls.Label3, "");
+  EXPECT_TRUE(s.Controls.ShootOutVisible && s.Controls.PensVisible && s.Controls.kickEnabled);
+  EXPECT_FALSE(s.Controls.halftimeVisible || s.Controls.nextshotEnabled);
+  EXPECT_EQ(s.Summary.Entries, Texts{"PENALTY SHOOT OUT!"});
   EXPECT_EQ(
-      Session().Commentary.Entries,
+      s.Commentary.Entries,
       (Texts{"Here's the kick off", "The match is between Rovers and United",
              "Here comes the half time whistle", "Play for the 2nd half gets underway",
              "Referee blows the full time whistle", "The match goes into extra time",
@@ -95,7 +88,30 @@ TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
   EXPECT_EQ(desktop_.Taken(), Texts(9, "* whistle"));
 }
 
-TEST_F(ClockTest, APeriodBeingPlayedRunsAndItsTicksAreDroppedUnderAQuestion) {
+TEST_F(ClockTest, AMatchEndsWhenItIsDecided) {
+  const Texts tied = {"", "Result:", "The match was tied at 0-0"};
+  const Texts won = {"90:00 >> R5 (Rovers)", "", "Result:", "Rovers beats United 1-0"};
+  constexpr int LastSecond = 90 * SecondsPerMinute;
+  ExpectEnd(false, false, 0, SecondHalf, tied);
+  ExpectEnd(true, false, 0, ExtraTimeSecondHalf, tied);
+  ExpectEnd(false, false, LastSecond, SecondHalf, won);
+  ExpectEnd(true, true, LastSecond, SecondHalf, won);
+}
+
+TEST_F(ClockTest, AGoldenGoalEndsTheMatchInItsSecond) {
+  ExpectEnd(true, true, 90 * SecondsPerMinute + 1, ExtraTimeFirstHalf,
+            {"90:01 >> U5 (United)", "GOLDEN GOAL!", "", "Result:", "United beats Rovers 1-0"});
+  ExpectEnd(true, true, 105 * SecondsPerMinute, ExtraTimeFirstHalf,
+            {"105:00 >> U5 (United)", "GOLDEN GOAL!", "", "Result:", "United beats Rovers 1-0"});
+  ExpectEnd(true, false, 120 * SecondsPerMinute, ExtraTimeSecondHalf,
+            {"120:00 >> R5 (Rovers)", "GOLDEN GOAL!", "", "Result:", "Rovers beats United 1-0"});
+  const Texts& told = Session().Commentary.Entries;
+  EXPECT_EQ((Texts{told.end() - 3, told.end()}),
+            (Texts{"Referee blows the final whistle", "The match ends with a Golden Goal",
+                   "With that, Rovers wins the match"}));
+}
+
+TEST_F(ClockTest, TicksAreDroppedUnderAQuestion) {
   Open(false, false);
   Play(44);
   desktop_.Yes = false;
@@ -105,43 +121,11 @@ TEST_F(ClockTest, APeriodBeingPlayedRunsAndItsTicksAreDroppedUnderAQuestion) {
   EXPECT_EQ(desktop_.Taken(), (Texts{"* whistle", "?: Do you really want to exit?"}));
   EXPECT_EQ(Session().Controls.Label3, "44:00");
   EXPECT_TRUE(Session().Controls.Timer1Enabled);
-  EXPECT_FALSE(Session().Controls.halftimeEnabled);
   EXPECT_FALSE(match_->Closed());
 }
 
-TEST_F(ClockTest, AMatchEndsWhenItIsDecided) {
-  const Texts tied = {"", "Result:", "The match was tied at 0-0"};
-  const Texts won = {"90:00 >> R5 (Rovers)", "", "Result:", "Rovers beats United 1-0"};
-  PlayToTheEnd(false, false);
-  ExpectEnd(SecondHalf, 90, tied);
-  PlayToTheEnd(true, false);
-  ExpectEnd(ExtraTimeSecondHalf, 120, tied);
-  for (const bool extraTime : {false, true}) {
-    PlayToTheEnd(extraTime, extraTime, 90 * SecondsPerMinute);
-    ExpectEnd(SecondHalf, 90, won);
-  }
-}
-
-TEST_F(ClockTest, AGoldenGoalEndsTheMatchInItsSecond) {
-  const Texts end = {"GOLDEN GOAL!", "", "Result:"};
-  PlayToTheEnd(true, true, 90 * SecondsPerMinute + 1);
-  ExpectEnd(ExtraTimeFirstHalf, 91,
-            {"90:01 >> U5 (United)", end[0], end[1], end[2], "United beats Rovers 1-0"});
-  PlayToTheEnd(true, true, 105 * SecondsPerMinute);
-  ExpectEnd(ExtraTimeFirstHalf, 105,
-            {"105:00 >> U5 (United)", end[0], end[1], end[2], "United beats Rovers 1-0"});
-  PlayToTheEnd(true, false, 120 * SecondsPerMinute);
-  ExpectEnd(ExtraTimeSecondHalf, 120,
-            {"120:00 >> R5 (Rovers)", end[0], end[1], end[2], "Rovers beats United 1-0"});
-  const Texts& lines = Session().Commentary.Entries;
-  EXPECT_EQ((Texts{lines.end() - 3, lines.end()}),
-            (Texts{"Referee blows the final whistle", "The match ends with a Golden Goal",
-                   "With that, Rovers wins the match"}));
-}
-
 TEST_F(ClockTest, AGoalInTheLastSecondOfAHalfStaysOnTheDisplayUntilPlayGoesOn) {
-  random_.ScoreIn(45 * SecondsPerMinute, 1);
-  Open(true, true);
+  Open(true, true, 45 * SecondsPerMinute);
   Play(45);
   ExpectBreak("&Normal Time 2nd Half", "GOAL!", "Rovers");
   EXPECT_EQ(Session().Controls.Label2, Lamp::Green);
@@ -150,14 +134,16 @@ TEST_F(ClockTest, AGoalInTheLastSecondOfAHalfStaysOnTheDisplayUntilPlayGoesOn) {
 }
 
 TEST_F(ClockTest, LeavingInTheGoalPauseOfAGoldenGoalEndsNothingElse) {
-  random_.ScoreIn(90 * SecondsPerMinute + 1, 1);
-  Open(true, true);
-  screen_.WhilePaused = [this] { match_->Command1_Click(); };
+  Open(true, true, 90 * SecondsPerMinute + 1);
+  screen_.WhilePaused = [this] {
+    match_->Timer1_Timer(screen_);  // Dropped.
+    match_->Command1_Click();
+  };
   for (const int minutes : {45, 45, 1}) Play(minutes);
   EXPECT_TRUE(match_->Closed());
-  EXPECT_EQ(Session().Summary.Entries, Texts{"90:01 >> R5 (Rovers)"});
-  EXPECT_EQ(Session().Commentary.Text(), "The players are celebrating");
-  EXPECT_EQ(random_.Minutes, 90);  // Not one draw more.
+  EXPECT_EQ(Session().Summary.Entries, Texts{"90:01 >> U5 (United)"});
+  EXPECT_EQ(Session().Commentary.Text(), "It's celebration time");
+  EXPECT_EQ(Session().BallX, 0);  // Not one draw more.
 }
 
 }  // namespace

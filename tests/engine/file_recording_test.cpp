@@ -10,12 +10,12 @@ namespace {
 class FileRecordingTest : public ScreenTest {
  protected:
   void Play(MatchMode mode, int rovers, int united) {
-    MatchSession s = EndedMatch(mode, rovers, united);
+    MatchSession s = MakeSession(mode, rovers, united);
     Announcement(s, random_, file_).ShowResult();
   }
 
   void Score(MatchMode mode, const std::string& player, const std::string& team) {
-    MatchSession s = EndedMatch(mode);
+    MatchSession s = MakeSession(mode);
     s.LastScorer = player;
     s.LastScoringTeam = team;
     file_.StoreScorer(s);
@@ -33,8 +33,8 @@ class FileRecordingTest : public ScreenTest {
 
 TEST_F(FileRecordingTest, NothingOfAFriendlyIsRecorded) {
   Score(MatchMode::Friendly, "Ann", "Rovers");
-  file_.StoreResult(EndedMatch(MatchMode::Friendly));
-  file_.StoreLeagueResult(EndedMatch(MatchMode::Friendly));
+  file_.StoreResult(MakeSession(MatchMode::Friendly));
+  file_.StoreLeagueResult(MakeSession(MatchMode::Friendly));
   EXPECT_TRUE(folder_.Files.All().empty());
   EXPECT_TRUE(selectedAgain_.empty());
 }
@@ -67,7 +67,7 @@ TEST_F(FileRecordingTest, AKnockOutWinnerGoesWhereHisMatchIsWaitedFor) {
   Write("Tournies/Cup.trn",
         teams + "NP\nRovers (By Toss)\nUnited\nWinner 1\n" +  // Through by toss, without a team so called.
             "NP\nAlbion\nWinner 4\nWinner 2\nNP\nWinner 1\nCity\nWinner 3\n");
-  MatchSession s = EndedMatch(MatchMode::KnockOut);
+  MatchSession s = MakeSession(MatchMode::KnockOut);
   s.ResultText = "United (By Toss)";
   file_.StoreResult(s);  // A knock-out has no standings.
   file_.StoreLeagueResult(s);
@@ -90,7 +90,7 @@ TEST_F(FileRecordingTest, ATeamReallyCalledByTossIsAnotherTeam) {
 }
 
 TEST_F(FileRecordingTest, AShootOutIsToldInTheResults) {
-  MatchSession s = EndedMatch(MatchMode::KnockOut, 1, 1);
+  MatchSession s = MakeSession(MatchMode::KnockOut, 1, 1);
   s.Side1.Penalties = 9;
   s.Side2.Penalties = 10;
   s.DecidedByShootOut = true;

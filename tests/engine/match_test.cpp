@@ -15,19 +15,8 @@ class MatchTest : public ScreenTest {
     return Match(folder_.Folder, desktop_, draws_, recording_, setup).Session();
   }
 
-  void Crowd(int limit, int percent) { draws_.Expect(limit, percent); }
-
   MatchDraws draws_;
 };
-
-TEST_F(MatchTest, AFriendlyOpensFromItsSetUp) {
-  draws_.OpenFriendly();
-  const MatchSession s = Open(MakeSetup(MatchMode::Friendly, false, true));
-  EXPECT_EQ(s.Venue, "The Mill, Leat");
-  EXPECT_EQ(s.GoalNumber, MatchDraws::GoalNumber);
-  EXPECT_FALSE(s.ExtraTime);
-  EXPECT_TRUE(s.PenaltyShootOut);
-}
 
 TEST_F(MatchTest, StrengthNarrowsTheRangeOfTheGoalDraw) {
   for (const auto& [strength, range] : {std::pair(99, 2100), {80, 4000}, {1, 11900}, {0, 12000}, {100, 2100}})
@@ -37,54 +26,41 @@ TEST_F(MatchTest, StrengthNarrowsTheRangeOfTheGoalDraw) {
 TEST_F(MatchTest, TheWeatherLimitsTheCrowdWhichIsDrawnUntilItIsHalfFull) {
   MatchSetup setup = MakeSetup();
   setup.Capacity = 100;
-  const std::pair<std::string_view, int> limits[] = {
-      {"Clear Skies", 100}, {"Overcast", 95}, {"Rainy", 85}, {"Warm & Humid", 90}, {"Windy", 80}};
-  for (int i = 0; i < 5; ++i) {
-    setup.Weather = At(Weathers, i);
-    EXPECT_EQ(setup.Weather.Text, limits[i].first);
-    Crowd(limits[i].second, 49);
-    Crowd(limits[i].second, 57);
-    draws_.OpenWithoutStadiums();
+  const std::array<WeatherKind, 5> limits = {
+      {{"Clear Skies", 100}, {"Overcast", 95}, {"Rainy", 85}, {"Warm & Humid", 90}, {"Windy", 80}}};
+  EXPECT_EQ(Weathers, limits);
+  for (const WeatherKind& weather : limits) {
+    setup.Weather = weather;
+    draws_.Expect({{weather.AttendanceFactor, 49}, {weather.AttendanceFactor, 57}});
+    draws_.DrawGoalNumber();
     EXPECT_EQ(Open(setup).Attendance, 56);  // 0.57 x 100 lies just below 57.
   }
 }
 
 TEST_F(MatchTest, ALeagueMatchIsPlayedAtTheFirstStadiumOfTheHomeTeam) {
-  ASSERT_TRUE(SaveStadiums(folder_.Folder, {{"Neutral", "Bowl", "Oss", "60000"},
-                                            {"Rovers", "The Mill", "Leat", "4000"},
-                                            {"Rovers", "Old Mill", "Leat", "300"}})
-                  .Ok());
-  draws_.Expect(3, 2);  // For the stadium before it.
-  draws_.Expect(5, 2);  // Rainy.
-  Crowd(85, 60);
-  draws_.OpenWithoutStadiums();
-  const MatchSession s = Open(MakeSetup(MatchMode::League, true));
+  Write("stadiums.sim",
+        "3\nNeutral\nBowl\nOss\n60000\nRovers\nThe Mill\nLeat\n4000\nRovers\nOld Mill\nLeat\n300\n");
+  draws_.Expect({{3, 2}, {5, 2}, {85, 60}});  // For the stadium before it; rainy; the crowd.
+  draws_.DrawGoalNumber();
+  const MatchSession s = Open(MakeSetup(MatchMode::League));
   EXPECT_EQ(s.Venue, "The Mill, Leat");
   EXPECT_EQ(s.Attendance, 2400);
   EXPECT_FALSE(s.ExtraTime || s.PenaltyShootOut);
 }
 
 TEST_F(MatchTest, ATeamWithoutAStadiumPlaysAtTheLastOneDrawn) {
-  ASSERT_TRUE(
-      SaveStadiums(folder_.Folder, {{"Neutral", "Bowl", "Oss", "600"}, {"United", "Park", "Ley", "300"}})
-          .Ok());
-  draws_.Expect(2, 0);
-  draws_.Expect(2, 1);
-  draws_.Expect(5, 3);  // Warm & Humid.
-  Crowd(90, 50);
-  draws_.OpenWithoutStadiums();
+  Write("stadiums.sim", "2\nNeutral\nBowl\nOss\n600\nUnited\nPark\nLey\n300\n");
+  draws_.Expect({{2, 0}, {2, 1}, {5, 3}, {90, 50}});  // Two stadiums; warm and humid; the crowd.
+  draws_.DrawGoalNumber();
   const MatchSession s = Open(MakeSetup(MatchMode::KnockOut));
   EXPECT_EQ(s.Venue, "Park, Ley");
   EXPECT_TRUE(s.ExtraTime && s.PenaltyShootOut);
 }
 
-TEST_F(MatchTest, NobodyComesWithoutStadiums) {
-  draws_.OpenWithoutStadiums();
-  EXPECT_EQ(Open(MakeSetup(MatchMode::League)).Attendance, 0);
-  ASSERT_TRUE(SaveStadiums(folder_.Folder, {}).Ok());
-  draws_.Expect(5, 4);  // An empty list leaves the weather to be drawn.
-  Crowd(80, 50);
-  draws_.OpenWithoutStadiums();
+TEST_F(MatchTest, NobodyComesWhenTheListOfStadiumsIsEmpty) {
+  Write("stadiums.sim", "0\n");
+  draws_.Expect({{5, 4}, {80, 50}});  // Weather and crowd are drawn all the same.
+  draws_.DrawGoalNumber();
   EXPECT_EQ(Open(MakeSetup(MatchMode::League)).Attendance, 0);
 }
 

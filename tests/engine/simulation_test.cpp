@@ -1,7 +1,7 @@
 // The play of a full simulation, a minute draw by draw.
 #include "engine/simulation.h"
 
-#include "engine/match.h"
+#include "engine/commentary.h"
 #include "support/screen_test.h"
 
 namespace kickwell {
@@ -11,211 +11,154 @@ class SimulationTest : public ScreenTest {
  protected:
   static constexpr int Side1Ball = 0, Side2Ball = 2;  ///< Draws of who has the ball.
 
-  /// Opens a match and begins its first minute.
-  void Begin(bool commented = false) {
-    draws_.OpenFriendly();
-    draws_.Expect(4, commented ? 0 : 3);
+  SimulationTest() {
+    s.GoalNumber = MatchDraws::GoalNumber;
+    s.Side1.GoalRange = s.Side2.GoalRange = 4000;
   }
+
   void QuietSeconds(int seconds, int possession) {
     for (int i = 0; i < seconds; ++i) {
       draws_.Expect(10, possession);
       draws_.NoGoals();
     }
   }
-  void BallAt(int x, int y = 0) {
-    draws_.Expect(5091, x);
-    draws_.Expect(741, y);
+  void QuietMinute(int possession) {
+    draws_.Expect(4, 3);  // Without commentary.
+    QuietSeconds(SecondsPerMinute, possession);
   }
-  void NoFoul() { draws_.Expect(70, 36); }
-  void NoPossessionFigure() { draws_.Expect(3, 2); }
-  void EndQuietly() {
-    NoFoul();
-    NoPossessionFigure();
+  /// A minute with a goal in its first second, told with that phrase.
+  void GoalMinute(int possession, int side, int phrase) {
+    draws_.Expect({{4, 3}, {10, possession}});
+    draws_.Goal(side, 1);
+    draws_.Expect(7, phrase);
+    QuietSeconds(SecondsPerMinute - 1, possession);
   }
+  void BallAt(int x, int y = 0) { draws_.Expect({{5091, x}, {741, y}}); }
+  void EndQuietly() { draws_.Expect({{70, 36}, {3, 2}}); }  ///< No foul, and the possession figures stay.
 
-  /// A first minute of sixty quiet seconds, after which the ball comes to `x`.
-  void QuietMinute(int possession, int x) {
-    Begin();
-    QuietSeconds(60, possession);
-    BallAt(x);
-  }
-  void Shot(int outcome, int phrases, int phrase) {
-    draws_.Expect(3, outcome);
-    draws_.Expect(phrases, phrase);
+  /// Plays a minute with the draws laid ready.
+  void Play() { Simulation(s, draws_, desktop_, recording_).MainFunction(screen_); }
+
+  /// Plays a minute after which the ball comes to a place and nothing happens.
+  void PlayTo(int x, int y = 0) {
+    BallAt(x, y);
     EndQuietly();
+    Play();
   }
 
-  /// Plays the first minute with the draws laid ready.
-  void Play() {
-    Match match(folder_.Folder, desktop_, draws_, recording_, MakeFullSetup());
-    match.halftime_Click();
-    desktop_.Taken();
-    screen_.WhilePaused = [&] {
-      paused_ = match.Session();
-      match.Timer1_Timer(screen_);  // A tick that falls due now is dropped.
-    };
-    match.Timer1_Timer(screen_);
-    s_ = match.Session();
-    const Texts& lines = s_.Commentary.Entries;
-    commentary_ = {lines.begin() + 2, lines.end()};  // Without the two of the kick-off.
+  /// Plays a quiet minute that ends with a shot of the first player.
+  void PlayShot(int possession, int x, int outcome, int phrases, int phrase) {
+    s.Commentary.Entries.clear();
+    QuietMinute(possession);
+    BallAt(x);
+    draws_.PickOutfield(0);
+    draws_.Expect({{3, outcome}, {phrases, phrase}});
+    EndQuietly();
+    Play();
   }
 
+  /// Plays a quiet minute that ends with a foul of the last player of side 1; the first of side 2 takes the
+  /// free kick.
+  void PlayFoul(int phrase, int booking) {
+    QuietMinute(Side2Ball);
+    BallAt(2000);
+    draws_.Expect({{70, 35}, {6, 5}, {9, phrase}, {3, booking}, {6, 0}, {3, 2}});
+    Play();
+  }
+
+  MatchSession s = MakeSession(MatchMode::Friendly);
   MatchDraws draws_;
-  MatchSession s_, paused_;
-  Texts commentary_;
 };
 
 TEST_F(SimulationTest, ACommentaryMinuteRemarksOnTheSideWithTheBall) {
-  Begin(true);
+  draws_.Expect(4, 0);
   QuietSeconds(1, Side2Ball);
-  draws_.Expect(30, 0);  // A remark...
-  draws_.PickUnitedOutfield(3);
-  draws_.Expect(23, 19);
+  draws_.Expect({{30, 0}, {6, 3}, {23, 19}});  // A remark...
   for (int second = 1; second < SecondsPerMinute; ++second) {
     QuietSeconds(1, Side2Ball);
     draws_.Expect(30, 29);  // ...and none.
   }
-  BallAt(2000);
-  EndQuietly();
-  Play();
-  EXPECT_EQ(commentary_, (Texts{"We're into minute 1 here...", "And the scoreline is 0-0",
-                                "The pass to U4 goes through nicely"}));
+  PlayTo(2000);
+  EXPECT_EQ(s.Commentary.Entries, (Texts{"We're into minute 1 here...", "And the scoreline is 0-0",
+                                         "The pass to U4 goes through nicely"}));
 }
 
-TEST_F(SimulationTest, AGoalOfSide1IsCelebratedAndRecorded) {
-  Begin();
-  draws_.Expect(10, Side2Ball);
-  draws_.RoversScore(1);
-  draws_.Expect(7, 6);
-  QuietSeconds(59, Side2Ball);
-  BallAt(2000, 740);
-  EndQuietly();
-  Play();
-  EXPECT_EQ(paused_.Controls.Label3, "GOAL!");
-  EXPECT_EQ(paused_.Controls.Label2, Lamp::Green);
-  EXPECT_EQ(paused_.BallSide, 1);
-  EXPECT_EQ(std::pair(paused_.BallX, paused_.BallY), std::pair(5090, 390));
-  EXPECT_EQ(FactsOf(paused_.Side1), (Facts{.Goals = 1, .Shots = 1}));
-  EXPECT_EQ(commentary_,
+TEST_F(SimulationTest, AGoalIsCelebratedAndRecorded) {
+  GoalMinute(Side2Ball, 1, 6);
+  screen_.WhilePaused = [this] {
+    EXPECT_EQ(s.Controls.Label3, "GOAL!");
+    EXPECT_EQ(s.Controls.Label2, Lamp::Green);
+    EXPECT_EQ(s.BallSide, 1);
+    EXPECT_EQ(std::pair(s.BallX, s.BallY), std::pair(5090, 390));
+    EXPECT_EQ(std::pair(s.Side1.Goals, s.Side1.Shots), std::pair(1, 1));
+  };
+  PlayTo(2000, 740);
+  EXPECT_EQ(s.Commentary.Entries,
             (Texts{"Here's the accurate shot from R6", "And its a GOAL!!", "The players are celebrating"}));
-  EXPECT_EQ(s_.Summary.Entries, Texts{"00:01 >> R6 (Rovers)"});
+  EXPECT_EQ(s.Summary.Entries, Texts{"00:01 >> R6 (Rovers)"});
   EXPECT_EQ(recording_.Calls, Texts{"scorer R6 of Rovers"});
-  EXPECT_EQ(desktop_.Told(), "* goal");
-  EXPECT_EQ(s_.Controls.Label3, "01:00");  // No longer "GOAL!".
-  EXPECT_EQ(std::pair(s_.BallX, s_.BallY), std::pair(2000, 740));
+  EXPECT_EQ(desktop_.Taken(), Texts{"* goal"});
+  EXPECT_EQ(s.Controls.Label3, "01:00");  // No longer "GOAL!".
+  EXPECT_EQ(std::pair(s.BallX, s.BallY), std::pair(2000, 740));
 }
 
-TEST_F(SimulationTest, AGoalOfSide2IsCelebratedAtItsOwnSpotAndEqualDrawsScoreNone) {
-  Begin();
-  draws_.Expect(10, Side1Ball);
-  draws_.UnitedScore(2);
-  draws_.Expect(7, 0);
-  draws_.Expect(10, Side1Ball);
-  draws_.GoalDraws(MatchDraws::GoalNumber, MatchDraws::GoalNumber);
-  QuietSeconds(58, Side1Ball);
-  BallAt(2000);
-  EndQuietly();
-  Play();
-  EXPECT_EQ(paused_.BallSide, 2);
-  EXPECT_EQ(std::pair(paused_.BallX, paused_.BallY), std::pair(0, 390));
-  EXPECT_EQ(FactsOf(s_.Side2), (Facts{.Goals = 1, .Shots = 1}));
-  EXPECT_EQ(commentary_,
-            (Texts{"Great shot from a distance by U7", "And its a GOAL!!", "It's celebration time"}));
+TEST_F(SimulationTest, Side2CelebratesAtItsOwnSpotWithItsOwnWords) {
+  GoalMinute(Side1Ball, 2, 0);
+  screen_.WhilePaused = [this] { EXPECT_EQ(std::pair(s.BallSide, s.BallX), std::pair(2, 0)); };
+  PlayTo(2000);
+  EXPECT_EQ(s.Commentary.Entries,
+            (Texts{"Great shot from a distance by U6", "And its a GOAL!!", "It's celebration time"}));
 }
 
 TEST_F(SimulationTest, EachPossessionDrawGivesOneSideTheBall) {
   const std::array sides = {1, 1, 2, 2, 1, 1, 2, 2, 1, 2};
   for (int draw = 0; draw < Count(sides); ++draw) {
-    QuietMinute(draw, 2000);
-    EndQuietly();
-    Play();
-    EXPECT_EQ(s_.BallSide, At(sides, draw)) << draw;
+    QuietMinute(draw);
+    PlayTo(2000);
+    EXPECT_EQ(s.BallSide, At(sides, draw)) << draw;
   }
 }
 
-TEST_F(SimulationTest, AShotOfSide2MayBecomeItsCorner) {
-  QuietMinute(Side2Ball, 960);
-  draws_.PickUnitedOutfield(0);
-  Shot(0, 6, 5);
-  Play();
-  EXPECT_EQ(commentary_,
+TEST_F(SimulationTest, AShotBecomesACornerGoesWideOrIsSaved) {
+  PlayShot(Side2Ball, 960, 0, Count(CornerPhrases), 5);
+  EXPECT_EQ(s.Commentary.Entries,
             (Texts{"Here comes the shot...", "A slight touch by the keeper on its way out",
                    "A corner kick awarded by the referee", "U1 to take it", "He crosses it nicely"}));
-  EXPECT_EQ(FactsOf(s_.Side1), Facts{});
-  EXPECT_EQ(FactsOf(s_.Side2), (Facts{.Shots = 1, .Corners = 1}));
-}
-
-TEST_F(SimulationTest, AShotOfSide1MayGoWideOrBeSaved) {
-  QuietMinute(Side1Ball, 4080);
-  draws_.PickRoversOutfield(2);
-  Shot(1, 8, 0);
-  Play();
-  EXPECT_EQ(commentary_, (Texts{"A shot flies towards the target...", "Thundered towards the net by R3",
-                                "And its a goal kick signalled"}));
-  EXPECT_EQ(FactsOf(s_.Side1), Facts{.Shots = 1});
-  QuietMinute(Side1Ball, 5090);
-  draws_.PickRoversOutfield(0);
-  Shot(2, 5, 4);
-  Play();
-  EXPECT_EQ(commentary_, (Texts{"Here's the shot and...", "The keeper comes up with a fine save",
-                                "A nice kick taken by the keeper"}));
+  PlayShot(Side1Ball, 4080, 1, Count(WidePhrases), 0);
+  EXPECT_EQ(s.Commentary.Entries,
+            (Texts{"A shot flies towards the target...", "Thundered towards the net by R1",
+                   "And its a goal kick signalled"}));
+  PlayShot(Side1Ball, 5090, 2, Count(SavePhrases), 4);
+  EXPECT_EQ(s.Commentary.Entries, (Texts{"Here's the shot and...", "The keeper comes up with a fine save",
+                                         "A nice kick taken by the keeper"}));
+  EXPECT_EQ(std::pair(s.Side1.Shots, s.Side1.Corners), std::pair(2, 0));
+  EXPECT_EQ(std::pair(s.Side2.Shots, s.Side2.Corners), std::pair(1, 1));
 }
 
 TEST_F(SimulationTest, NobodyShootsFromOutsideHisZone) {
-  for (const auto& [possession, x] :
-       {std::pair(Side1Ball, 100), {Side1Ball, 4079}, {Side2Ball, 961}, {Side2Ball, 5090}}) {
-    QuietMinute(possession, x);
-    EndQuietly();
-    Play();
-    EXPECT_EQ(commentary_, Texts{}) << x;
+  for (const auto& [possession, x] : {std::pair(Side1Ball, 4079), {Side2Ball, 961}}) {
+    QuietMinute(possession);
+    PlayTo(x);
+    EXPECT_EQ(s.Side1.Shots + s.Side2.Shots, 0) << x;
   }
 }
 
 TEST_F(SimulationTest, TheSideWithoutTheBallFoulsAndItsPlayerMayBeBooked) {
-  QuietMinute(Side2Ball, 2000);
-  draws_.Expect(70, 35);  // A foul.
-  draws_.PickRoversOutfield(5);
-  draws_.Expect(9, 4);
-  draws_.Expect(3, 2);  // A booking.
-  draws_.PickUnitedOutfield(6);
-  NoPossessionFigure();
-  Play();
-  EXPECT_EQ(commentary_, (Texts{"A tackle by R6 from behind", "Surely the referee is going to book him",
-                                "Here's the yellow card for R6", "The referee awards a freekick",
-                                "U7 to take it", "The freekick nicely taken there"}));
-  EXPECT_EQ(FactsOf(s_.Side1), (Facts{.Bookings = 1, .Fouls = 1}));
-  EXPECT_EQ(FactsOf(s_.Side2), Facts{});
+  PlayFoul(4, 2);
+  EXPECT_EQ(s.Commentary.Entries,
+            (Texts{"A tackle by R6 from behind", "Surely the referee is going to book him",
+                   "Here's the yellow card for R6", "The referee awards a freekick", "U1 to take it",
+                   "The freekick nicely taken there"}));
+  PlayFoul(0, 1);
+  EXPECT_EQ(std::pair(s.Side1.Fouls, s.Side1.Bookings), std::pair(2, 1));
 }
 
 TEST_F(SimulationTest, APossessionFigureBelow30IsDrawnAgain) {
-  QuietMinute(Side1Ball, 2000);
-  draws_.Expect(70, 35);  // A foul, here of side 2 and without a booking.
-  draws_.PickUnitedOutfield(6);
-  draws_.Expect(9, 1);
-  draws_.Expect(3, 1);
-  draws_.PickRoversOutfield(0);
-  draws_.Expect(3, 1);  // The figures change.
-  draws_.Expect(70, 29);
-  draws_.Expect(70, 30);
+  QuietMinute(Side1Ball);
+  BallAt(2000);
+  draws_.Expect({{70, 36}, {3, 1}, {70, 29}, {70, 30}});
   Play();
-  EXPECT_EQ(FactsOf(s_.Side1), Facts{.Possession = 30});
-  EXPECT_EQ(FactsOf(s_.Side2), (Facts{.Fouls = 1, .Possession = 70}));
-}
-
-TEST_F(SimulationTest, TheTeamsChangeEndsWithAllThatIsTheirs) {
-  MatchSession s;
-  s.Side1 = {.Team = "Rovers", .Goals = 2, .GoalRange = 2100, .Outfield = {"R1"}, .Shots = 3};
-  s.Side2 = {.Team = "United", .Goals = 1, .GoalRange = 4000, .Outfield = {"U1"}, .Shots = 7};
-  s.Side1.PossessionPercent = 60;
-  s.BallSide = 1;
-  Simulation(s, random_, desktop_, recording_).SwapData();
-  EXPECT_EQ(s.Side1.Team, "United");
-  EXPECT_EQ(s.Side1.GoalRange, 4000);
-  EXPECT_EQ(s.Side1.Outfield, Texts{"U1"});
-  EXPECT_EQ(FactsOf(s.Side1), (Facts{.Goals = 1, .Shots = 7}));
-  EXPECT_EQ(FactsOf(s.Side2), (Facts{.Goals = 2, .Shots = 3, .Possession = 60}));
-  EXPECT_EQ(std::pair(s.BallX, s.BallY), std::pair(CentreSpotX, CentreSpotY));
-  EXPECT_EQ(s.BallSide, 1);  // Which label is lit does not change.
+  EXPECT_EQ(std::pair(s.Side1.PossessionPercent, s.Side2.PossessionPercent), std::pair(30, 70));
 }
 
 TEST(SeededRandomTest, DrawsEveryNumberBelowItsRangeAndNoOther) {

@@ -15,13 +15,6 @@ namespace kickwell {
 
 using Texts = std::vector<std::string>;
 
-/// The texts on one line, with "|" between them.
-inline std::string Joined(const Texts& texts) {
-  std::string line;
-  for (const std::string& text : texts) line += (&text == texts.data() ? "" : "|") + text;
-  return line;
-}
-
 /// Notes every message and sound and gives the answers that a test has laid ready.
 class FakeDesktop : public Desktop {
  public:
@@ -44,7 +37,6 @@ class FakeDesktop : public Desktop {
 
   /// The messages and sounds since the last call.
   Texts Taken() { return std::exchange(Messages, {}); }
-  std::string Told() { return Joined(Taken()); }
 
   Texts Messages;
   bool Yes = true;

@@ -20,10 +20,17 @@ namespace {
 using WindowsTest = WindowTest;
 
 TEST_F(WindowsTest, TheGoalsMakeRoomForTheShootOutAndTheFactsStandInTheirPlaces) {
-  // Nobody scores in 89 minutes; then three kicks each, side 1's all in; then the facts.
-  ScriptedRandom random("100:50 100:3 4000:7x10680 " + Times(3, "2:1 6:0 2:0 7:0") +
-                        "70:40 4:3 3:2 4:1 1:0 5:4 5:2 5:0 5:3");
-  Match match(folder_.Folder, desktop_, random, recording_, MakeSetup(MatchMode::Friendly, false, true));
+  MatchDraws draws;
+  draws.OpenFriendly();
+  draws.NoGoals(89 * SecondsPerMinute);
+  for (int pair = 0; pair < 3; ++pair) {
+    draws.InstantKick(true);
+    draws.InstantKick(false);
+  }
+  draws.Expect({{70, 40}, {4, 3}, {3, 2}, {4, 1}, {1, 0}, {5, 4}, {5, 2}, {5, 0}, {5, 3}});  // The facts.
+  MatchSetup setup = MakeSetup();
+  setup.PenaltyShootOut = true;
+  Match match(folder_.Folder, desktop_, draws, recording_, setup);
   MatchWindow window(match, {}, nullptr);
   window.show();
   const auto left = [&window] { return window.findChild<QLabel*>("Inn1")->mapTo(&window, QPoint()).x(); };
@@ -64,7 +71,7 @@ TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
   window.exec();
   EXPECT_LT(time.elapsed(), 20000);  // The pause does not hold it.
   EXPECT_TRUE(Exists("page.htm"));
-  EXPECT_EQ(desktop_.Told(), "* loaded|* whistle|* goal|?: Do you really want to exit?");
+  EXPECT_EQ(desktop_.Taken(), (Texts{"* loaded", "* whistle", "* goal", "?: Do you really want to exit?"}));
 }
 
 TEST_F(WindowsTest, AListOfLinesShowsTheNewestAndIsWalkedByKeyboardAndMouse) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdlib>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -16,10 +17,11 @@ class SilentDesktop : public Desktop {
  public:
   void Inform(const std::string& /*text*/) override { std::abort(); }
   void Warn(const std::string& /*text*/) override { std::abort(); }
-  bool Ask(const std::string& /*text*/) override { return true; }
+  bool Ask(const std::string& /*text*/, Enter /*enter*/) override { return true; }
   std::optional<std::string> AskSaveName(const std::string& /*proposedName*/) override {
     return std::nullopt;
   }
+  void OpenDocument(const std::string& /*file*/, std::function<void()> /*otherwise*/) override {}
   void LoadSounds() override {}
   void PlaySound(Sound /*sound*/) override {}
 };

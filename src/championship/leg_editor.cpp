@@ -123,8 +123,8 @@ void LegEditor::Save_Click(EditorSide& side) {
   if (!MayBeSaved(side)) return;
   const ChampionshipId id{side.Kind, side.Name};
   const bool known = ChampionshipExists(folder_, id);
-  if (!desktop_.Ask(known ? "Do you want to overwrite " + side.Name + "?"
-                          : "Are you sure you want to add " + side.Name + "?")) {
+  if (!(known ? desktop_.Ask("Do you want to overwrite " + side.Name + "?", Enter::No)
+              : desktop_.Ask("Are you sure you want to add " + side.Name + "?", Enter::Yes))) {
     return;
   }
   Championship championship{id, side.Selected.Entries, {}};
@@ -171,7 +171,7 @@ void LegEditor::Delete_Click(EditorSide& side) {
     desktop_.Inform("You can't delete any more championship");
     return;
   }
-  if (!desktop_.Ask("Are you sure you want to remove " + fileName + "?")) return;
+  if (!desktop_.Ask("Are you sure you want to remove " + fileName + "?", Enter::No)) return;
   if (!TellFailure(desktop_, DeleteChampionship(folder_, IdOfMainFile(side.Kind, fileName)))) return;
   side.Load.RemoveAt(side.Load.Picked);
   side.Load.PickFirst();

@@ -50,7 +50,7 @@ void StadEditor::Command2_Click() {
     desktop_.Warn("Please enter a capacity value from 1 to 99999.");
   } else if (std::ranges::any_of(stadiums_, isNamed)) {
     desktop_.Inform(Text1 + " already exists");
-  } else if (desktop_.Ask("Are you sure you want to add this stadium?")) {
+  } else if (desktop_.Ask("Are you sure you want to add this stadium?", Enter::Yes)) {
     std::vector<Stadium> more = stadiums_;
     more.push_back({Combo1.Text(), Text1, Text2, Text3});
     if (!Save(std::move(more))) return;
@@ -68,7 +68,7 @@ void StadEditor::Command1_Click() {
     return;
   }
   if (List1.Picked == ItemList::None ||
-      !desktop_.Ask("Are you sure you want to remove " + List1.Text() + "?"))
+      !desktop_.Ask("Are you sure you want to remove " + List1.Text() + "?", Enter::No))
     return;
   std::vector<Stadium> fewer = stadiums_;
   fewer.erase(fewer.begin() + List1.Picked);

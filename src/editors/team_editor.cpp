@@ -87,7 +87,7 @@ void TeamEditor::Command7_Click() {
     desktop_.Warn(FileNameRefusal(name));
     return;
   }
-  if (!desktop_.Ask("Are you sure you want to add " + name + "?")) return;
+  if (!desktop_.Ask("Are you sure you want to add " + name + "?", Enter::Yes)) return;
   if (!TellFailure(desktop_, SaveTeam(folder_, {name, Text5, {}}))) return;
   Combo3.Add(name);
   if (league_ != NoChampionship)
@@ -108,7 +108,7 @@ void TeamEditor::Command8_Click() {
     desktop_.Inform(Text2 + " already exists");
     return;
   }
-  if (!desktop_.Ask("Are you sure you want to add " + Text2 + "?")) return;
+  if (!desktop_.Ask("Are you sure you want to add " + Text2 + "?", Enter::Yes)) return;
   const std::string line = Combo1.Text();
   Team more = team_;
   more.Players.push_back({Text2, Text4, line == "GK" ? line : line + Combo2.Text()});
@@ -123,7 +123,8 @@ void TeamEditor::Command6_Click() {
     desktop_.Warn("You can't delete any more players.");
     return;
   }
-  if (Selected() == nullptr || !desktop_.Ask("Are you sure you want to delete " + Selected()->Name + "?"))
+  if (Selected() == nullptr ||
+      !desktop_.Ask("Are you sure you want to delete " + Selected()->Name + "?", Enter::No))
     return;
   Team fewer = team_;
   fewer.Players.erase(fewer.Players.begin() + List1.Picked);
@@ -146,7 +147,7 @@ void TeamEditor::Command5_Click() {
     return;
   }
   const std::string name = Combo3.Text();
-  if (name.empty() || !desktop_.Ask("Are you sure you want to delete " + name + "?")) return;
+  if (name.empty() || !desktop_.Ask("Are you sure you want to delete " + name + "?", Enter::No)) return;
   if (!TellFailure(desktop_, DeleteTeam(folder_, name))) return;
   Combo3.RemoveAt(Combo3.Picked);
   team_ = {};  // Gone for good, even if no other team can be loaded.

@@ -147,7 +147,7 @@ void Match::ComSave_Click() {
 
 void Match::Command1_Click() {
   const Waiting question(waiting_);
-  if (desktop_.Ask("Do you really want to exit?")) session_.UserLeft = true;
+  if (desktop_.Ask("Do you really want to exit?", Enter::Yes)) session_.UserLeft = true;
 }
 
 }  // namespace kickwell

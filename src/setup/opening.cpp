@@ -5,15 +5,6 @@
 #include "base/program.h"
 
 namespace kickwell {
-namespace {
-
-std::string Pointer(const char* file, const char* purpose) {
-  return std::string("Read the file '") + file + "' in your " + std::string(ProgramTitle) + " folder for " +
-         purpose + ".";
-}
-
-}  // namespace
-
 Opening::Opening(Desktop& desktop, OpeningScreens screens)
     : desktop_(desktop), screens_(std::move(screens)) {}
 
@@ -46,12 +37,19 @@ void Opening::LegLoad_Click() {
   OpenScreen(screens_.LegSettings);
 }
 
+void Opening::Read(const std::string& file, const std::string& purpose) {
+  desktop_.OpenDocument(file, [this, file, purpose] {
+    desktop_.Inform("Read the file '" + file + "' in your " + std::string(ProgramTitle) + " folder for " +
+                    purpose + ".");
+  });
+}
+
 void Opening::ReadMenu_Click() {
-  desktop_.Inform(Pointer("Help.htm", "help"));
+  Read("Help.htm", "help");
 }
 
 void Opening::HistMenu_Click() {
-  desktop_.Inform(Pointer("History.txt", "history"));
+  Read("History.txt", "history");
 }
 
 }  // namespace kickwell

@@ -50,6 +50,7 @@ class Opening {
  private:
   void Choose(MatchMode mode);
   void OpenScreen(const OpeningScreens::Open& screen) const;
+  void Read(const std::string& file, const std::string& purpose);
 
   Desktop& desktop_;
   OpeningScreens screens_;

@@ -146,7 +146,7 @@ TEST_F(LegEditorTest, ALeagueIsSavedAndOverwritten) {
   desktop_.Yes = false;
   editor.Save_Click(league);
   EXPECT_TRUE(Exists("Leagues/Top.rec"));
-  EXPECT_EQ(desktop_.Taken().back(), "?: Do you want to overwrite Top?");
+  EXPECT_EQ(desktop_.Taken().back(), "? (No): Do you want to overwrite Top?");
   desktop_.Yes = true;
   editor.Save_Click(league);
   EXPECT_EQ(Bytes("Leagues/Top.leg"), AsWritten("Top\n2\nT100\nT101\n2\nNP\nT101\nT100\nNP\nT100\nT101\n"));
@@ -203,7 +203,7 @@ TEST_F(LegEditorTest, TheLoadedChampionshipIsDeletedUnlessItIsTheLast) {
   league.Name = "";
   editor.Delete_Click(league);
   EXPECT_EQ(desktop_.Taken(),
-            (Texts{"?: Are you sure you want to remove B.leg?", "?: Are you sure you want to remove B.leg?",
+            (Texts{"? (No): Are you sure you want to remove B.leg?", "? (No): Are you sure you want to remove B.leg?",
                    "i: You can't delete any more championship", "i: Please load a championship to delete"}));
 }
 

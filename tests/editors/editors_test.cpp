@@ -84,7 +84,7 @@ TEST_F(EditorsTest, TeamsAreAddedToTheStandingsAndDeletedDownToTwo) {
   EXPECT_FALSE(Exists("settings.cfg"));
   editor.Command5_Click();
   EXPECT_EQ(desktop_.Taken(),
-            (Texts{"?: Are you sure you want to delete C?", "?: Are you sure you want to delete C?",
+            (Texts{"? (No): Are you sure you want to delete C?", "? (No): Are you sure you want to delete C?",
                    "!: You can't delete any more team."}));
 }
 
@@ -116,7 +116,7 @@ TEST_F(EditorsTest, PlayersAreDeletedDownToElevenOrFromFewerToNone) {
   EXPECT_EQ(OpenTeams().List1.PlaceOf("A1"), ItemList::None);
   editor.Command6_Click();
   EXPECT_EQ(desktop_.Taken(),
-            (Texts{"?: Are you sure you want to delete A1?", "?: Are you sure you want to delete A1?",
+            (Texts{"? (No): Are you sure you want to delete A1?", "? (No): Are you sure you want to delete A1?",
                    "!: You can't delete any more players."}));
   ASSERT_TRUE(SaveTeam(folder_.Folder, {"A", "75", {{"X", "1", "GK"}}}).Ok());
   TeamEditor few = OpenTeams();
@@ -145,7 +145,7 @@ TEST_F(EditorsTest, StadiumsAreAddedAndRemovedDownToOne) {
   EXPECT_EQ(editor.List1.Text(), "Mill");
   editor.Command1_Click();
   EXPECT_EQ(desktop_.Taken(),
-            (Texts{"?: Are you sure you want to remove Bowl?", "?: Are you sure you want to remove Bowl?",
+            (Texts{"? (No): Are you sure you want to remove Bowl?", "? (No): Are you sure you want to remove Bowl?",
                    "!: You can't delete any more stadium."}));
 }
 

@@ -20,8 +20,8 @@ class FakeDesktop : public Desktop {
  public:
   void Inform(const std::string& text) override { Messages.push_back("i: " + text); }
   void Warn(const std::string& text) override { Messages.push_back("!: " + text); }
-  bool Ask(const std::string& text) override {
-    Messages.push_back("?: " + text);
+  bool Ask(const std::string& text, Enter enter) override {
+    Messages.push_back((enter == Enter::Yes ? "?: " : "? (No): ") + text);
     WhileAsked();
     return Yes;
   }
@@ -30,6 +30,7 @@ class FakeDesktop : public Desktop {
     WhileAsked();
     return SaveName;
   }
+  void OpenDocument(const std::string& /*file*/, std::function<void()> otherwise) override { otherwise(); }
   void LoadSounds() override { Messages.emplace_back("* loaded"); }
   void PlaySound(Sound sound) override {
     Messages.emplace_back(sound == Sound::Whistle ? "* whistle" : sound == Sound::Goal ? "* goal" : "* boo");

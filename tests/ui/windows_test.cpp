@@ -3,12 +3,16 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QTimer>
+#include <QWheelEvent>
+#include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
 
 #include "championship/ranking.h"
 #include "support/screen_test.h"
+#include "ui/qt_desktop.h"
 #include "ui/text.h"
 #include "ui/widgets/appearance.h"
+#include "ui/widgets/choosers.h"
 #include "ui/widgets/line_list.h"
 #include "ui/windows/match_window.h"
 #include "ui/windows/ranking_window.h"
@@ -72,6 +76,30 @@ TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
   EXPECT_LT(time.elapsed(), 20000);  // The pause does not hold it.
   EXPECT_TRUE(Exists("page.htm"));
   EXPECT_EQ(desktop_.Taken(), (Texts{"* loaded", "* whistle", "* goal", "?: Do you really want to exit?"}));
+}
+
+TEST_F(WindowsTest, AClosedChooserIgnoresTheWheelAndFindsWhatIsTyped) {
+  QComboBox* const chooser = MakeCombo("Teams");
+  const std::unique_ptr<QWidget> owner(chooser);
+  chooser->addItems({"Dale", "New Ashford", "New Burton"});
+  chooser->show();
+  QWheelEvent notch({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(chooser, &notch);
+  EXPECT_FALSE(notch.isAccepted());  // The page takes it.
+  EXPECT_EQ(chooser->currentText(), "Dale");
+  QSignalSpy picks(chooser, &QComboBox::activated);
+  QTest::keyClicks(chooser, "New B");
+  EXPECT_EQ(chooser->currentText(), "New Burton");
+  EXPECT_EQ(picks.last().first().toInt(), 2);
+}
+
+TEST_F(WindowsTest, EnterAnswersAQuestionWithWhatLosesNothing) {
+  QtDesktop desktop(folder_.Folder);
+  User user;
+  user.In("MessageBox").Press(Qt::Key_Return);
+  EXPECT_TRUE(desktop.Ask("Add?", Enter::Yes));
+  user.In("MessageBox").Press(Qt::Key_Return);
+  EXPECT_FALSE(desktop.Ask("Delete?", Enter::No));
 }
 
 TEST_F(WindowsTest, AListOfLinesShowsTheNewestAndIsWalkedByKeyboardAndMouse) {

@@ -1,7 +1,12 @@
 #include "ui/widgets/choosers.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QWheelEvent>
 
 #include "ui/text.h"
 
@@ -15,13 +20,45 @@ QStringList Texts(const ItemList& chooser) {
   return texts;
 }
 
+/// Where it is closed, the wheel scrolls the page, and a blank is part of the name that the user types.
+class Chooser final : public QComboBox {
+ protected:
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool typing = typed_.isValid() && typed_.elapsed() < QApplication::keyboardInputInterval();
+    if (event->text().trimmed().isEmpty()) {
+      if (typing && event->key() == Qt::Key_Space) return Search(event->text());
+    } else {
+      typed_.start();
+    }
+    QComboBox::keyPressEvent(event);
+  }
+
+ private:
+  /// Goes on with what was typed, as the letters before did.
+  void Search(const QString& text) {
+    typed_.start();
+    const int before = currentIndex();
+    view()->keyboardSearch(text);
+    const int found = view()->currentIndex().row();
+    if (found == before) return;
+    setCurrentIndex(found);
+    emit activated(found);
+  }
+
+  QElapsedTimer typed_;  ///< Since the last character.
+};
+
 }  // namespace
 
 QComboBox* MakeCombo(const QString& objectName) {
-  constexpr int UsualName = 22;
-  auto* const combo = new QComboBox;
+  constexpr int UsualName = 22, MostRows = 20;
+  auto* const combo = new Chooser;
   combo->setObjectName(objectName);
-  combo->setMaxVisibleItems(20);
+  combo->setMaxVisibleItems(MostRows);
+  // Some styles would cover the whole screen with the entries, as with a menu.
+  combo->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
   combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   combo->setMinimumContentsLength(UsualName);
   return combo;

@@ -9,7 +9,8 @@
 
 namespace kickwell {
 
-/// A drop-down list to pick from, not to type in. Its width does not depend on its entries.
+/// A drop-down list to pick from. Its width does not depend on its entries. Typing finds an entry; the mouse
+/// wheel changes nothing while the list is closed.
 QComboBox* MakeCombo(const QString& objectName);
 
 /// Names `combo` to screen readers where its caption says too little. Some screen readers announce the picked

@@ -96,7 +96,7 @@ void OpeningWindow::BuildMenus() {
                     wired(screens.KnockCharts));
 
   QMenu* const help = menuBar()->addMenu("&Help");
-  add(help, "ReadMenu", "&Contents", &Opening::ReadMenu_Click);
+  add(help, "ReadMenu", "&Contents", &Opening::ReadMenu_Click)->setShortcut(QKeySequence::HelpContents);
   add(help, "HistMenu", "&History", &Opening::HistMenu_Click);
 }
 

@@ -152,7 +152,9 @@ void ExpectTabOrder(QWidget& window) {
   const QWidget* const page = window.findChild<QScrollArea*>()->widget();  // It scrolls with the focus.
   const auto place = [&window, page] {
     const QWidget* const widget = window.focusWidget();
-    return QRect(widget->mapTo(page, QPoint()), widget->size());
+    const QPoint below(0, page->height());
+    const bool scrolls = page->isAncestorOf(widget);
+    return QRect(scrolls ? widget->mapTo(page, QPoint()) : widget->mapTo(&window, below), widget->size());
   };
   int backward = 0;
   while (stops.insert(window.focusWidget()->objectName().toStdString()).second) {

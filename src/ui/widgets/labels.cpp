@@ -3,6 +3,7 @@
 #include <QFontInfo>
 
 #include "ui/widgets/accessible.h"
+#include "ui/widgets/scale.h"
 #include "ui/widgets/text_label.h"
 
 namespace kickwell {
@@ -24,7 +25,7 @@ QLabel* Enlarged(QLabel* label, qreal factor) {
 
 QLabel* MakeHeading(const QString& objectName) {
   QLabel* const heading = MakeText(objectName, {}, Qt::AlignHCenter);
-  return Enlarged(heading, 1.5);
+  return Enlarged(heading, HeadingType);
 }
 
 QLabel* MakeCaption(const QString& text) {
@@ -41,6 +42,14 @@ QLabel* MakeCaption(const QString& text, QWidget* buddy) {
   QString name = text;
   if (buddy != nullptr) buddy->setAccessibleName(name.remove('&').remove(':'));
   return caption;
+}
+
+QVBoxLayout* Captioned(const QString& text, QWidget* control) {
+  auto* const group = new QVBoxLayout;
+  group->setSpacing(InGroup);
+  group->addWidget(MakeCaption(text, control));
+  group->addWidget(control);
+  return group;
 }
 
 QLabel* MakeFigureCaption(const QString& text, QLabel* figure) {

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QString>
+#include <QVBoxLayout>
 
 namespace kickwell {
 
@@ -20,6 +21,9 @@ QLabel* MakeCaption(const QString& text);
 
 /// A bold caption that names `buddy` to screen readers.
 QLabel* MakeCaption(const QString& text, QWidget* buddy);
+
+/// A bold caption above `control`, which it names to screen readers.
+QVBoxLayout* Captioned(const QString& text, QWidget* control);
 
 /// A caption for `figure`, which screen readers announce with it.
 QLabel* MakeFigureCaption(const QString& text, QLabel* figure);

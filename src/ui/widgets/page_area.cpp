@@ -1,6 +1,5 @@
 #include "ui/widgets/page_area.h"
 
-#include <QApplication>
 #include <QEvent>
 #include <QLayout>
 #include <QScreen>
@@ -21,14 +20,19 @@ PageArea::PageArea(QWidget* page) {
   setFocusPolicy(Qt::NoFocus);
   setWidgetResizable(true);
   setWidget(page);
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
-    const bool within = now != nullptr && widget()->isAncestorOf(now);
-    if (within && old != nullptr && widget()->isAncestorOf(old)) ensureWidgetVisible(now);
-  });
+}
+
+void PageArea::LeaveRoomFor(QWidget* below) {
+  below_ = below;
+  below_->installEventFilter(this);
+}
+
+void PageArea::ScrollTo(QWidget* widget) {
+  if (this->widget()->isAncestorOf(widget)) ensureWidgetVisible(widget);
 }
 
 QSize PageArea::OnScreen(const QSize& wanted) const {
-  const QSize room = RoomOnScreen(this);
+  const QSize room = RoomOnScreen(this) - QSize(0, below_ == nullptr ? 0 : below_->sizeHint().height());
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   // A scroll bar for one direction takes its room from the other.
   const QSize bars(wanted.height() > room.height() ? bar : 0, wanted.width() > room.width() ? bar : 0);
@@ -48,7 +52,8 @@ QSize PageArea::minimumSizeHint() const {
 }
 
 bool PageArea::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+  const bool measured = watched == widget() || watched == below_;
+  if (measured && event->type() == QEvent::LayoutRequest) updateGeometry();
   return QScrollArea::eventFilter(watched, event);
 }
 

@@ -6,10 +6,16 @@
 namespace kickwell {
 
 /// Shows all of `page` if the screen has room for it. Where it has not, on a small screen or with large type,
-/// the page scrolls: it opens at its top and follows the focus.
+/// the page scrolls, and opens at its top.
 class PageArea final : public QScrollArea {
  public:
   explicit PageArea(QWidget* page);
+
+  /// The window grows no larger than leaves room on the screen for `below`, which stands under the page.
+  void LeaveRoomFor(QWidget* below);
+
+  /// Scrolls to `widget` if it is on the page.
+  void ScrollTo(QWidget* widget);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -19,6 +25,8 @@ class PageArea final : public QScrollArea {
 
  private:
   QSize OnScreen(const QSize& wanted) const;
+
+  QWidget* below_ = nullptr;
 };
 
 /// How large a window can be on the screen of `widget`, without its frame.

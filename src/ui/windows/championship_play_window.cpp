@@ -2,11 +2,11 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "ui/widgets/appearance.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
+#include "ui/widgets/scale.h"
 
 namespace kickwell {
 
@@ -22,6 +22,7 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   const bool league = kind == ChampionshipKind::League;
   for (QComboBox* const number : {from_, to_}) number->setMinimumContentsLength(6);
   auto* const range = new QHBoxLayout;
+  range->setSpacing(InGroup);
   range->addWidget(from_);
   QLabel* const to = MakeCaption("To", to_);
   range->addWidget(to);
@@ -31,29 +32,18 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   QPushButton* const command1 = Button("Command1", "&Continue >>", [this] { play_.Command1_Click(); });
   command1->setDefault(true);
   QPushButton* const command2 = Button("Command2", "Close", [this] { play_.Command2_Click(); });
-  auto* const buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(command1);
-  buttons->addWidget(command2);
-
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(24, 20, 24, 20);
-  layout->setSpacing(4);
-  const auto add = [layout](QWidget* caption, auto&& content) {
-    layout->addWidget(caption);
-    content();
-    layout->addSpacing(12);
-  };
-  add(MakeCaption(league ? "Load League:" : "Load Knock Out:", championships_),
-      [&] { layout->addWidget(championships_); });
-  add(MakeCaption(league ? "League Fixtures:" : "Knock Out Fixtures:", fixtures_),
-      [&] { layout->addWidget(fixtures_, 1); });
-  add(MakeCaption("Play Matches:", from_), [&] { layout->addLayout(range); });
+  auto* const matches = new QVBoxLayout;
+  matches->setSpacing(InGroup);
+  matches->addWidget(MakeCaption("Play Matches:", from_));
+  matches->addLayout(range);
   Name(from_, "Play Matches from");
   Name(to_, "Play Matches to");
   to->setAccessibleName("Play Matches to");
-  add(MakeCaption("Match Simulation Type:", simulationType_), [&] { layout->addWidget(simulationType_); });
-  layout->addLayout(buttons);
+  Page()->addLayout(Captioned(league ? "Load League:" : "Load Knock Out:", championships_));
+  Page()->addLayout(Captioned(league ? "League Fixtures:" : "Knock Out Fixtures:", fixtures_), 1);
+  Page()->addLayout(matches);
+  Page()->addLayout(Captioned("Match Simulation Type:", simulationType_));
+  SetButtons({.Right = {command1, command2}});
 
   OnPick(championships_, [this](int entry) { play_.Championships_Click(entry); });
   OnPick(from_, [this](int entry) { play_.From_Click(entry); });

@@ -1,10 +1,8 @@
 #include "ui/windows/knock_charts_window.h"
 
 #include <QFontInfo>
-#include <QHBoxLayout>
 #include <QPainter>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 #include "base/at.h"
 #include "ui/text.h"
@@ -112,12 +110,9 @@ KnockChartsWindow::KnockChartsWindow(KnockCharts& charts, QWidget* parent)
   label1->setText(Shown(charts.Label1));
   QPushButton* const command3 = Button("Command3", "Close", [this] { charts_.Command3_Click(); });
   command3->setDefault(true);
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(20, 16, 20, 16);
-  layout->setSpacing(12);
-  layout->addWidget(label1);
-  layout->addWidget(new BracketView(charts), 1);
-  layout->addWidget(command3, 0, Qt::AlignRight);
+  Page()->addWidget(label1);
+  Page()->addWidget(new BracketView(charts), 1);
+  SetButtons({.Right = {command3}});
   command3->setFocus();
   OpenAt(980, 640);
 }

@@ -4,11 +4,11 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <utility>
 
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
+#include "ui/widgets/scale.h"
 #include "ui/widgets/text_box.h"
 
 namespace kickwell {
@@ -39,14 +39,11 @@ LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
   kind->addStretch();
   OnPick(kind_, [this](int entry) { editor_.Kind_Click(entry); });
 
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(20, 16, 20, 16);
-  layout->setSpacing(12);
-  layout->addLayout(kind);
-  layout->addWidget(BuildSide(league_, editor.League), 1);
-  layout->addWidget(BuildSide(knockOut_, editor.KnockOut), 1);
-  layout->addWidget(Button("Exit", "E&xit Kickwell Championship Editor", [this] { editor_.Exit_Click(); }), 0,
-                    Qt::AlignRight);
+  Page()->addLayout(kind);
+  Page()->addWidget(BuildSide(league_, editor.League), 1);
+  Page()->addWidget(BuildSide(knockOut_, editor.KnockOut), 1);
+  SetButtons(
+      {.Right = {Button("Exit", "E&xit Kickwell Championship Editor", [this] { editor_.Exit_Click(); })}});
   Refresh();
   OpenAt(900, 640);
 }
@@ -63,17 +60,18 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   widgets.Name = MakeTextBox(prefix + "Name", LongestName, side.Name);
   widgets.Name->setMinimumWidth(widgets.Name->fontMetrics().horizontalAdvance(QString(LongestName, 'M')));
 
-  QLabel* const heading = Enlarged(MakeCaption(IsLeague(side) ? "League Details" : "Tournie Details"), 1.3);
+  QLabel* const heading =
+      Enlarged(MakeCaption(IsLeague(side) ? "League Details" : "Tournie Details"), HeadingType);
   auto* const name = new QHBoxLayout;
   name->addWidget(MakeCaption("Championship"));
-  name->addSpacing(12);
+  name->addSpacing(BetweenColumns);
   name->addWidget(MakeCaption(IsLeague(side) ? "League:" : "Knock Out:", widgets.Name));
   widgets.Name->setAccessibleName(IsLeague(side) ? "Championship League" : "Championship Knock Out");
   name->addWidget(widgets.Name);
   name->addStretch();
 
   auto* const columns = new QHBoxLayout;
-  columns->setSpacing(24);
+  columns->setSpacing(BetweenColumns);
   columns->addLayout(BuildTeams(widgets, side, prefix), 1);
   columns->addLayout(BuildFixtures(widgets, side, prefix), 1);
   auto* const layout = new QVBoxLayout(widgets.Page);

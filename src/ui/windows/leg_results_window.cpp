@@ -1,8 +1,5 @@
 #include "ui/windows/leg_results_window.h"
 
-#include <QHBoxLayout>
-#include <QVBoxLayout>
-
 #include "ui/text.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
@@ -19,17 +16,9 @@ LegResultsWindow::LegResultsWindow(LegResults& results, QWidget* parent)
   QPushButton* const command1 = Button("Command1", "Close", [this] { results_.Command1_Click(); });
   command1->setDefault(true);
 
-  auto* const buttons = new QHBoxLayout;
-  buttons->addWidget(command2_);
-  buttons->addStretch();
-  buttons->addWidget(command1);
-
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(20, 16, 20, 16);
-  layout->setSpacing(12);
-  layout->addWidget(label1_);
-  layout->addWidget(list1_, 1);
-  layout->addLayout(buttons);
+  Page()->addWidget(label1_);
+  Page()->addWidget(list1_, 1);
+  SetButtons({.Left = {command2_}, .Right = {command1}});
 
   Refresh();
   OpenAt(560, 560);

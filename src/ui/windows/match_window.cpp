@@ -6,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QLinearGradient>
 #include <QPainter>
-#include <QVBoxLayout>
 #include <algorithm>
 
 #include "base/at.h"
@@ -14,6 +13,7 @@
 #include "ui/widgets/accessible.h"
 #include "ui/widgets/appearance.h"
 #include "ui/widgets/labels.h"
+#include "ui/widgets/scale.h"
 
 namespace kickwell {
 namespace {
@@ -82,20 +82,17 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
 
   scoreBoard_ = BuildScoreBoard();
   auto* const field = new QHBoxLayout;
-  field->setSpacing(12);
+  field->setSpacing(BetweenColumns);
   field->addWidget(BuildFacts(side1_, 1));
   field->addWidget(picture2_, 1);
   field->addWidget(BuildShootOut(), 1);
   field->addWidget(BuildFacts(side2_, 2));
 
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(16, 16, 16, 16);
-  layout->setSpacing(12);
-  layout->addWidget(scoreBoard_);
-  layout->addLayout(place);
-  layout->addLayout(field, 3);
-  layout->addLayout(BuildLists(), 2);
-  layout->addLayout(BuildButtons());
+  Page()->addWidget(scoreBoard_);
+  Page()->addLayout(place);
+  Page()->addLayout(field, 3);
+  Page()->addLayout(BuildLists(), 2);
+  AddButtons();
 
   timer1_.setObjectName("Timer1");
   timer1_.setTimerType(Qt::PreciseTimer);
@@ -117,10 +114,10 @@ QWidget* MatchWindow::BuildScoreBoard() {
   label2_->setObjectName("Label2");
   label2_->setAutoFillBackground(true);
   SetFigureCaption(label3_, "Match Timer");
-  Enlarged(label3_, 1.9);
+  Enlarged(label3_, BoardType);
   label3_->setMinimumWidth(label3_->fontMetrics().horizontalAdvance("000:00") + 24);
   auto* const lamp = new QHBoxLayout(label2_);  // The clock's text is on the lamp.
-  lamp->setContentsMargins(6, 2, 6, 2);
+  lamp->setContentsMargins(InGroup, 2, InGroup, 2);
   lamp->addWidget(label3_);
   label2_->setMinimumSize(label3_->minimumWidth() + 12, label3_->fontMetrics().height() + 6);
   auto* const clock = new QVBoxLayout;
@@ -129,8 +126,8 @@ QWidget* MatchWindow::BuildScoreBoard() {
   clock->addWidget(label2_);
 
   auto* const layout = new QHBoxLayout(board);
-  layout->setContentsMargins(18, 10, 18, 12);
-  layout->setSpacing(14);
+  layout->setContentsMargins(PageMargin, BetweenGroups, PageMargin, BetweenGroups);
+  layout->setSpacing(BetweenColumns);
   layout->addWidget(side1_.Team, 1);
   layout->addWidget(side1_.Score);
   layout->addLayout(clock);
@@ -141,9 +138,10 @@ QWidget* MatchWindow::BuildScoreBoard() {
 
 void MatchWindow::BuildScore(SideWidgets& side, int number) {
   const QString n = QString::number(number);
-  side.Team = Enlarged(MakeText("t" + n, "Team" + n, number == 1 ? Qt::AlignRight : Qt::AlignLeft), 1.7);
-  side.Goals = Enlarged(MakeText("Inn" + n, "0", Qt::AlignRight), 2.6);
-  side.Penalties = Enlarged(MakeText("Pen" + n, "(0)"), 1.5);
+  side.Team =
+      Enlarged(MakeText("t" + n, "Team" + n, number == 1 ? Qt::AlignRight : Qt::AlignLeft), BoardType);
+  side.Goals = Enlarged(MakeText("Inn" + n, "0", Qt::AlignRight), ScoreType);
+  side.Penalties = Enlarged(MakeText("Pen" + n, "(0)"), HeadingType);
   side.Goals->setMinimumWidth(side.Goals->fontMetrics().horizontalAdvance("00"));
   side.Score = new QWidget;
   // The goals make room for the penalties by moving left. Nothing else moves, so the room is there from the
@@ -164,10 +162,10 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   auto* const box = new QFrame;
   box->setFrameShape(QFrame::StyledPanel);
   auto* const grid = new QGridLayout(box);
-  grid->setHorizontalSpacing(14);
+  grid->setHorizontalSpacing(BetweenColumns);
   int row = 0;
   const auto fact = [&](const QString& heading, QAnyStringView name, const QString& text) {
-    QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), 1.1);
+    QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), FigureType);
     grid->addWidget(MakeCaption(heading), row, 0);
     grid->addWidget(figure, row++, 1, Qt::AlignVCenter);
     return figure;
@@ -189,7 +187,7 @@ QWidget* MatchWindow::BuildShootOut() {
   picture1_->setObjectName("Picture1");
   QLabel* const label8 = MakeCaption("PENALTY SHOOT OUT:");
   label8->setObjectName("Label8");
-  Enlarged(label8, 1.1);
+  Enlarged(label8, FigureType);
   side1_.Takers = MakeText("Label4", "Team 1", Qt::AlignRight);
   side2_.Takers = MakeText("Label7", "Team 2", Qt::AlignRight);
   auto* const rows = new QGridLayout;
@@ -209,7 +207,7 @@ QWidget* MatchWindow::BuildShootOut() {
   rows->setColumnStretch(2 + KickCount / 2, 1);
   auto* const layout = new QVBoxLayout(shootOut_);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(6);
+  layout->setSpacing(InGroup);
   layout->addWidget(label8, 0, Qt::AlignHCenter);
   layout->addWidget(picture1_, 1);
   layout->addLayout(rows);
@@ -226,13 +224,13 @@ QLayout* MatchWindow::BuildLists() {
     return button;
   };
   auto* const options = new QHBoxLayout;
-  options->setSpacing(18);
+  options->setSpacing(BetweenColumns);
   options->addWidget(option(1, "&Match Summary"));
   options->addWidget(option(0, "&Commentary"));
   options->addStretch();
 
   auto* const layout = new QVBoxLayout;
-  layout->setSpacing(6);
+  layout->setSpacing(InGroup);
   layout->addLayout(options);
   summary_->setAccessibleName("Match Summary");
   commentary_->setAccessibleName("Commentary");
@@ -243,16 +241,11 @@ QLayout* MatchWindow::BuildLists() {
   return layout;
 }
 
-QLayout* MatchWindow::BuildButtons() {
-  auto* const buttons = new QHBoxLayout;
-  for (QPushButton* const button : {halftime_, instant_, kick_, nextshot_}) buttons->addWidget(button);
-  buttons->addStretch();
-  buttons->addWidget(comSave_);
-  buttons->addWidget(command1_);
+void MatchWindow::AddButtons() {
+  SetButtons({.Left = {halftime_, instant_, kick_, nextshot_}, .Right = {comSave_, command1_}});
   // Without a text box to take Enter from, the button with the focus may show that Enter presses it.
   for (QPushButton* const button : {halftime_, instant_, kick_, nextshot_, comSave_})
     button->setAutoDefault(true);
-  return buttons;
 }
 
 void MatchWindow::PauseFunction() {

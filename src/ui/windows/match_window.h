@@ -47,7 +47,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   QWidget* BuildFacts(SideWidgets& side, int number);
   QWidget* BuildShootOut();
   QLayout* BuildLists();
-  QLayout* BuildButtons();
+  void AddButtons();
   void ShowSide(const SideWidgets& widgets, const Side& side, bool hasBall) const;
   void ShowClock(const MatchControls& controls);
   void ShowShootOut(const MatchControls& controls);

@@ -10,6 +10,7 @@
 #include "ui/widgets/accessible.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/page_area.h"
+#include "ui/widgets/scale.h"
 
 namespace kickwell {
 namespace {
@@ -103,15 +104,15 @@ void OpeningWindow::BuildMenus() {
 QWidget* OpeningWindow::BuildTitle() {
   auto* const grass = new Grass;
   auto* const layout = new QVBoxLayout(grass);
-  layout->setContentsMargins(24, 24, 24, 24);
+  layout->setContentsMargins(PageMargin, PageMargin, PageMargin, PageMargin);
   layout->addStretch(2);
-  AddText(layout, "Label1", "Kickwell v4.0", 3.2, true);
+  AddText(layout, "Label1", "Kickwell v4.0", TitleType, true);
   layout->addStretch(1);
   AddText(layout, "Label4", "League/Tournament", 1, false);
-  league_ = AddText(layout, "league", {}, 1.5, true);
+  league_ = AddText(layout, "league", {}, HeadingType, true);
   SetFigureCaption(league_, "League/Tournament");
   layout->addStretch(2);
-  AddText(layout, "Label2", "Programming and Design", 0.9, false);
+  AddText(layout, "Label2", "Programming and Design", SmallType, false);
   AddText(layout, "Label3", ToQt(Credits), 1, true);
   mode_ = MakeText("mode", {});
   mode_->setParent(grass);

@@ -1,10 +1,8 @@
 #include "ui/windows/ranking_window.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QShortcut>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
@@ -12,10 +10,13 @@
 #include "ui/text.h"
 #include "ui/widgets/accessible.h"
 #include "ui/widgets/labels.h"
+#include "ui/widgets/scale.h"
 #include "ui/widgets/text_label.h"
 
 namespace kickwell {
 namespace {
+
+constexpr QMargins CellMargins(BetweenColumns / 2, InGroup / 2, BetweenColumns / 2, InGroup / 2);
 
 /// Lies over the labels of a row: takes the mouse for them, and the focus that screen readers follow.
 class Marker final : public QWidget {
@@ -40,17 +41,9 @@ RankingWindow::RankingWindow(Ranking& ranking, const RankingScreen& screen, QWid
       prevpage_(Button("prevpage", "<< &Back", [this] { ranking_.prevpage_Click(); })) {
   QPushButton* const close = Button(screen.CloseName, "Close", [this] { ranking_.Close_Click(); });
   close->setDefault(true);
-  auto* const buttons = new QHBoxLayout;
-  buttons->addWidget(prevpage_);
-  buttons->addWidget(nextpage_);
-  buttons->addStretch();
-  buttons->addWidget(close);
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(20, 16, 20, 16);
-  layout->setSpacing(12);
-  layout->addWidget(label1_);
-  layout->addWidget(BuildRows(), 1);
-  layout->addLayout(buttons);
+  Page()->addWidget(label1_);
+  Page()->addWidget(BuildRows(), 1);
+  SetButtons({.Left = {prevpage_, nextpage_}, .Right = {close}});
 
   nextpage_->setFocus();
   for (const auto& [key, step] : {std::pair(Qt::Key_Up, -1), std::pair(Qt::Key_Down, 1)}) {
@@ -81,7 +74,7 @@ QWidget* RankingWindow::BuildRows() {
   for (int r = 1; r <= Paging::Rows; ++r) {
     auto* const marker = new Marker;
     marker->setObjectName(ArrayName("Marker", r));
-    marker->setMinimumHeight(fontMetrics().height() + 6);
+    marker->setMinimumHeight(fontMetrics().height() + InGroup);
     marker->installEventFilter(this);
     At(markers_, r - 1) = marker;
     grid->addWidget(marker, r, 0, 1, static_cast<int>(columns_.size()));  // Over the labels of its row.
@@ -96,13 +89,13 @@ RankingWindow::Labels RankingWindow::BuildColumn(QGridLayout* grid, int place, c
   header->setObjectName(ArrayName(column.Name, 0));
   header->setAccessibleName(column.Announced);
   header->setAlignment(alignment | Qt::AlignVCenter);
-  header->setContentsMargins(8, 2, 8, 6);
+  header->setContentsMargins(CellMargins + QMargins(0, 0, 0, InGroup / 2));
   grid->addWidget(header, 0, place);
   grid->setColumnStretch(place, column.Figure ? 0 : 1);
   Labels labels{};
   for (int r = 1; r <= Paging::Rows; ++r) {
     QLabel* const label = MakeText(ArrayName(column.Name, r), {}, alignment);
-    label->setContentsMargins(8, 3, 8, 3);
+    label->setContentsMargins(CellMargins);
     SetFigureCaption(label, column.Announced);
     grid->addWidget(label, r, place);
     At(labels, r - 1) = label;

@@ -1,23 +1,30 @@
 #include "ui/windows/screen_window.h"
 
 #include <QKeyEvent>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
-#include "ui/widgets/page_area.h"
+#include "ui/widgets/scale.h"
 
 namespace kickwell {
 
 ScreenWindow::ScreenWindow(const char* name, const QString& caption, QWidget* parent)
-    : QDialog(parent), page_(new QWidget) {
+    : QDialog(parent),
+      page_(new QVBoxLayout(new QWidget)),
+      buttons_(new ButtonRow),
+      area_(new PageArea(page_->parentWidget())) {
+  area_->LeaveRoomFor(buttons_);
   setObjectName(QLatin1String(name));
   setWindowTitle(caption);
   setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
   setSizeGripEnabled(true);
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(new PageArea(page_));
+  layout->setSpacing(0);
+  layout->addWidget(area_, 1);
+  layout->addWidget(buttons_);
+  page_->setContentsMargins(PageMargin, PageMargin, PageMargin, 0);
+  page_->setSpacing(BetweenGroups);
 }
 
 void ScreenWindow::OpenAt(int width, int height) {
@@ -38,6 +45,12 @@ void ScreenWindow::keyPressEvent(QKeyEvent* event) {
   } else {
     QDialog::keyPressEvent(event);
   }
+}
+
+bool ScreenWindow::focusNextPrevChild(bool next) {
+  const bool moved = QDialog::focusNextPrevChild(next);
+  if (moved && focusWidget() != nullptr) area_->ScrollTo(focusWidget());
+  return moved;
 }
 
 void ScreenWindow::Act(const std::function<void()>& action) {

@@ -5,7 +5,11 @@
 #include <QDialog>
 #include <QPushButton>
 #include <QStyle>
+#include <QVBoxLayout>
 #include <functional>
+
+#include "ui/widgets/button_row.h"
+#include "ui/widgets/page_area.h"
 
 namespace kickwell {
 
@@ -20,6 +24,7 @@ class ScreenWindow : public QDialog {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;  ///< Enter presses the button that has the focus.
+  bool focusNextPrevChild(bool next) override;    ///< Tab scrolls to what it reaches.
 
   /// Runs an action of the user, then shows the state or closes the window.
   void Act(const std::function<void()>& action);
@@ -35,8 +40,12 @@ class ScreenWindow : public QDialog {
   /// Runs `action` with the entry that the user picks.
   void OnPick(QComboBox* combo, std::function<void(int)> action);
 
-  /// The widget to lay the screen out on.
-  QWidget* Page() const { return page_; }
+  /// The column to lay the screen out in. It scrolls where the screen is too small for it.
+  QVBoxLayout* Page() const { return page_; }
+
+  /// Sets the buttons below the page, which never scroll out of sight. Tab reaches them last if the page is
+  /// laid out before.
+  void SetButtons(const WindowButtons& buttons) { buttons_->Add(buttons); }
 
   /// Sets the size to open at: `width` by `height` pixels where type is of the usual size, more with larger
   /// type, but never more than fits on the desktop.
@@ -47,7 +56,9 @@ class ScreenWindow : public QDialog {
   virtual void Leave() = 0;           ///< The action of the button that leaves the screen.
 
  private:
-  QWidget* page_;
+  QVBoxLayout* page_;
+  ButtonRow* buttons_;
+  PageArea* area_;
 };
 
 }  // namespace kickwell

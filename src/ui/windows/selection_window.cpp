@@ -15,6 +15,7 @@
 #include "ui/widgets/accessible.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
+#include "ui/widgets/scale.h"
 
 namespace kickwell {
 namespace {
@@ -42,7 +43,7 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
       command1_(Button("Command1", "&Continue >>", [this] { selection_.Command1_Click(); })) {
   const MatchSetup& setup = selection.Setup();
   auto* const sides = new QHBoxLayout;
-  sides->setSpacing(16);
+  sides->setSpacing(BetweenColumns);
   sides->addWidget(BuildSide(side1_, 1, Shown(setup.Team1Name), &Selection::Combo1_Click), 1);
   sides->addWidget(BuildSide(side2_, 2, Shown(setup.Team2Name), &Selection::Combo2_Click), 1);
 
@@ -50,20 +51,11 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   num->setVisible(false);
   command1_->setDefault(true);
   QPushButton* const command2 = Button("Command2", "Cancel", [this] { selection_.Command2_Click(); });
-  auto* const buttons = new QHBoxLayout;
-  buttons->addWidget(num);
-  buttons->addStretch();
-  buttons->addWidget(command1_);
-  buttons->addWidget(command2);
+  Page()->addLayout(sides);
+  Page()->addStretch();
+  SetButtons({.Left = {num}, .Right = {command1_, command2}});
 
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(20, 16, 20, 16);
-  layout->setSpacing(16);
-  layout->addLayout(sides);
-  layout->addStretch();
-  layout->addLayout(buttons);
-
-  Page()->installEventFilter(this);
+  Page()->parentWidget()->installEventFilter(this);
   Refresh();
   selection_.Changed = [this] { Refresh(); };
   OpenAt(860, 0);
@@ -72,11 +64,11 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
 QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& team, Pick pick) {
   const QString number = QString::number(side);
   auto* const box = new QWidget;
-  QLabel* const name = Enlarged(MakeText("Team" + number, team, Qt::AlignHCenter), 1.4);
+  QLabel* const name = Enlarged(MakeText("Team" + number, team, Qt::AlignHCenter), HeadingType);
 
   auto* const grid = new QGridLayout;
-  grid->setVerticalSpacing(4);
-  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(InGroup);
+  grid->setHorizontalSpacing(BetweenColumns / 2);
   grid->setColumnStretch(0, 1);
   column.Squad = new QStringListModel(this);
   const QByteArray combo = ("Combo" + number).toLatin1();
@@ -105,7 +97,7 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
 
   auto* const layout = new QVBoxLayout(box);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(10);
+  layout->setSpacing(BetweenGroups);
   layout->addWidget(name);
   layout->addLayout(grid);
   layout->addWidget(BuildFigures(column, side, team));
@@ -115,9 +107,9 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
 QWidget* SelectionWindow::BuildFigures(Column& column, int side, const QString& team) {
   const QString number = QString::number(side);
   auto* const figures = new QGridLayout;
-  figures->setHorizontalSpacing(10);
-  figures->setVerticalSpacing(6);
-  figures->setColumnMinimumWidth(2, 24);
+  figures->setHorizontalSpacing(BetweenColumns / 2);
+  figures->setVerticalSpacing(InGroup);
+  figures->setColumnMinimumWidth(2, BetweenColumns);
   figures->setColumnStretch(1, 1);
   figures->setColumnStretch(4, 1);
   column.Formation = AddFigure(figures, 0, 0, "Formation:", "Formation" + number, "0-0-0");
@@ -138,7 +130,8 @@ QWidget* SelectionWindow::BuildFigures(Column& column, int side, const QString& 
 
 bool SelectionWindow::eventFilter(QObject* watched, QEvent* event) {
   // The screen is drawn first, then the squads are loaded.
-  if (watched == Page() && event->type() == QEvent::Paint && !std::exchange(timer1Started_, true))
+  if (watched == Page()->parentWidget() && event->type() == QEvent::Paint &&
+      !std::exchange(timer1Started_, true))
     QTimer::singleShot(0, this, [this] { Act([this] { selection_.Timer1_Timer(); }); });
   return ScreenWindow::eventFilter(watched, event);
 }

@@ -1,29 +1,16 @@
 #include "ui/windows/settings_window.h"
 
 #include <QGridLayout>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "ui/text.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
+#include "ui/widgets/scale.h"
 #include "ui/widgets/text_label.h"
 
 namespace kickwell {
-namespace {
-
-/// A caption above its control.
-QVBoxLayout* Captioned(const QString& caption, QComboBox* combo) {
-  auto* const box = new QVBoxLayout;
-  box->setSpacing(4);
-  box->addWidget(MakeCaption(caption, combo));
-  box->addWidget(combo);
-  return box;
-}
-
-}  // namespace
-
 SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
     : ScreenWindow("Settings", "Kickwell Settings", parent),
       settings_(settings),
@@ -37,14 +24,10 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   QPushButton* const command1 = Button("Command1", "&Continue >>", [this] { settings_.Command1_Click(); });
   command1->setDefault(true);
   QPushButton* const command2 = Button("Command2", "Close", [this] { settings_.Command2_Click(); });
-  auto* const buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(command1);
-  buttons->addWidget(command2);
 
   auto* const grid = new QGridLayout;
-  grid->setHorizontalSpacing(24);
-  grid->setVerticalSpacing(18);
+  grid->setHorizontalSpacing(BetweenColumns);
+  grid->setVerticalSpacing(BetweenGroups);
   grid->addLayout(Captioned("Select Your Team:", combo1_), 0, 0);
   grid->addLayout(Captioned("Select Your Opposition:", combo2_), 0, 1);
   grid->addLayout(Captioned("Match Venue (Stadium/Ground):", combo3_), 1, 0);
@@ -54,12 +37,9 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(1, 1);
 
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(24, 20, 24, 20);
-  layout->setSpacing(24);
-  layout->addLayout(grid);
-  layout->addStretch();
-  layout->addLayout(buttons);
+  Page()->addLayout(grid);
+  Page()->addStretch();
+  SetButtons({.Right = {command1, command2}});
 
   OnPick(combo1_, [this](int entry) { settings_.Combo1_Click(entry); });
   OnPick(combo2_, [this](int entry) { settings_.Combo2_Click(entry); });
@@ -74,7 +54,7 @@ QLayout* SettingsWindow::BuildDeciders() {
   check1_->setObjectName("Check1");
   check2_->setObjectName("Check2");
   auto* const deciders = new QVBoxLayout;
-  deciders->setSpacing(4);
+  deciders->setSpacing(InGroup);
   deciders->addWidget(MakeCaption("Match Result Decider:", check1_));
   deciders->addWidget(check1_);
   deciders->addWidget(check2_);

@@ -3,12 +3,12 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 #include "base/at.h"
 #include "ui/text.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
+#include "ui/widgets/scale.h"
 #include "ui/widgets/section.h"
 #include "ui/widgets/text_box.h"
 #include "ui/widgets/text_label.h"
@@ -54,20 +54,17 @@ StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
   texts->addWidget(Instruction("Label9", Removing));
   texts->addWidget(Instruction("Label10", Adding));
   auto* const right = new QVBoxLayout;
-  right->setSpacing(10);
+  right->setSpacing(BetweenGroups);
   right->addWidget(BuildAddition());
   right->addWidget(instructions);
   right->addStretch();
   auto* const columns = new QHBoxLayout;
-  columns->setSpacing(20);
+  columns->setSpacing(BetweenColumns);
   columns->addWidget(BuildRemoval(), 1);
   columns->addLayout(right, 1);
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(20, 16, 20, 16);
-  layout->setSpacing(12);
-  layout->addLayout(columns, 1);
-  layout->addWidget(Button("Command3", "E&xit Kickwell Stadium Editor", [this] { editor_.Command3_Click(); }),
-                    0, Qt::AlignRight);
+  Page()->addLayout(columns, 1);
+  SetButtons(
+      {.Right = {Button("Command3", "E&xit Kickwell Stadium Editor", [this] { editor_.Command3_Click(); })}});
   Refresh();
   OpenAt(760, 460);
 }

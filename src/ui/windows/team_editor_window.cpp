@@ -3,11 +3,11 @@
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 #include "ui/text.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
+#include "ui/widgets/scale.h"
 #include "ui/widgets/section.h"
 #include "ui/widgets/text_box.h"
 
@@ -44,16 +44,12 @@ TeamEditorWindow::TeamEditorWindow(TeamEditor& editor, QWidget* parent)
   connect(list1_, &QListWidget::itemSelectionChanged, this,
           [this] { Act([this] { editor_.List1_Click(SelectedRow(list1_)); }); });
   auto* const columns = new QHBoxLayout;
-  columns->setSpacing(20);
+  columns->setSpacing(BetweenColumns);
   columns->addLayout(BuildSquad(), 1);
   columns->addLayout(BuildChanges(), 1);
-  auto* const layout = new QVBoxLayout(Page());
-  layout->setContentsMargins(20, 16, 20, 16);
-  layout->setSpacing(12);
-  layout->addLayout(columns, 1);
-  layout->addWidget(
-      Button("Command4", "E&xit Kickwell Team/Player Editor", [this] { editor_.Command4_Click(); }), 0,
-      Qt::AlignRight);
+  Page()->addLayout(columns, 1);
+  SetButtons({.Right = {Button("Command4", "E&xit Kickwell Team/Player Editor",
+                               [this] { editor_.Command4_Click(); })}});
   Refresh();
   OpenAt(820, 620);
 }
@@ -86,7 +82,7 @@ QLayout* TeamEditorWindow::BuildSquad() {
   Section remove("Remove Players");
   remove.Form->addRow(Button("Command6", "Delete &Player", [this] { editor_.Command6_Click(); }));
   auto* const layout = new QVBoxLayout;
-  layout->setSpacing(10);
+  layout->setSpacing(BetweenGroups);
   layout->addLayout(team);
   layout->addLayout(squad, 1);
   layout->addLayout(player);
@@ -106,7 +102,7 @@ QLayout* TeamEditorWindow::BuildChanges() {
   teams.Add("Skill (1 - 99):", text5_);
   teams.AddButton(Button("Command7", "Add &Team", [this] { editor_.Command7_Click(); }));
   auto* const layout = new QVBoxLayout;
-  layout->setSpacing(10);
+  layout->setSpacing(BetweenGroups);
   layout->addWidget(players.Box);
   layout->addWidget(teams.Box);
   layout->addWidget(BuildTeamRemoval());

@@ -102,14 +102,20 @@ TEST_F(WindowsTest, EnterAnswersAQuestionWithWhatLosesNothing) {
   EXPECT_FALSE(desktop.Ask("Delete?", Enter::No));
 }
 
-TEST_F(WindowsTest, AListOfLinesShowsTheNewestAndIsWalkedByKeyboardAndMouse) {
-  LineList list("Lines");
+/// Shows a list that has no room for all of its lines.
+ItemList ShowHundredLines(LineList& list) {
   list.resize(200, 100);
   list.show();
   ItemList lines;
   for (int i = 0; i < 100; ++i) lines.Add(std::to_string(i));
   lines.PickLast();
   list.ShowLines(lines);
+  return lines;
+}
+
+TEST_F(WindowsTest, AListOfLinesShowsTheNewestAndIsWalkedByKeyboardAndMouse) {
+  LineList list("Lines");
+  ShowHundredLines(list);
   const auto expectCurrent = [&list](int row) {
     EXPECT_EQ(list.currentRow(), row);
     EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.currentItem()))) << row;
@@ -119,6 +125,23 @@ TEST_F(WindowsTest, AListOfLinesShowsTheNewestAndIsWalkedByKeyboardAndMouse) {
   expectCurrent(0);
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(3)).center());
   expectCurrent(3);
+}
+
+TEST_F(WindowsTest, AListOfLinesMovesOnlyWhenALineIsNew) {
+  LineList list("Lines");
+  ItemList lines = ShowHundredLines(list);
+  const auto inView = [&list](int row) {
+    return list.viewport()->rect().contains(list.visualItemRect(list.item(row)));
+  };
+  list.scrollToTop();  // To read what has been.
+  list.ShowLines(lines);
+  EXPECT_TRUE(inView(0));
+  lines.Add("Referee starts the extra time");  // Nothing picks it.
+  list.ShowLines(lines);
+  EXPECT_TRUE(inView(100));
+  EXPECT_EQ(list.currentRow(), 99);
+  list.resize(200, 60);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return inView(100); }));
 }
 
 TEST_F(WindowsTest, ARankingIsTurnedByKeyboardAndItsBarFollows) {

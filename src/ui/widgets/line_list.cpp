@@ -4,11 +4,18 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "base/at.h"
 #include "ui/text.h"
+#include "ui/widgets/appearance.h"
 
 namespace kickwell {
+namespace {
+
+constexpr QMargins HintMargins(12, 6, 12, 6);
+
+}  // namespace
 
 LineList::LineList(const QString& objectName) {
   setObjectName(objectName);
@@ -16,8 +23,16 @@ LineList::LineList(const QString& objectName) {
 }
 
 void LineList::ShowLines(const ItemList& lines) {
+  if (count() == lines.Count() && picked_ == lines.Picked) return;
   for (int i = count(); i < lines.Count(); ++i) addItem(Shown(At(lines.Entries, i)));
-  if (currentRow() != lines.Picked) setCurrentRow(lines.Picked);
+  if (std::exchange(picked_, lines.Picked) != lines.Picked) setCurrentRow(lines.Picked);
+  scrollTo(IndexOf(count() - 1), EnsureVisible);
+  setAccessibleDescription({});
+}
+
+void LineList::SetHint(const QString& hint) {
+  hint_ = hint;
+  if (count() == 0) setAccessibleDescription(hint);
 }
 
 int LineList::WholeLines() const {
@@ -65,10 +80,13 @@ void LineList::doItemsLayout() {
 }
 
 void LineList::updateGeometries() {
+  const bool atEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
   if (count() > 0) lineSize_ = sizeHintForIndex(IndexOf(0)).expandedTo({0, 1});
   verticalScrollBar()->setSingleStep(1);
   verticalScrollBar()->setPageStep(WholeLines());
   verticalScrollBar()->setRange(0, count() - WholeLines());
+  if (atEnd)
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());  // Also in a list of another size.
   horizontalScrollBar()->setSingleStep(lineSize_.height());
   horizontalScrollBar()->setPageStep(viewport()->width());
   horizontalScrollBar()->setRange(0, lineSize_.width() - viewport()->width());
@@ -114,7 +132,15 @@ QRegion LineList::visualRegionForSelection(const QItemSelection& selection) cons
   return region & viewport()->rect();
 }
 
+void LineList::PaintHint() {
+  QPainter painter(viewport());
+  painter.setPen(FaintText(palette()));
+  const QRect room = viewport()->rect().marginsRemoved(HintMargins);
+  painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, hint_);
+}
+
 void LineList::paintEvent(QPaintEvent* event) {
+  if (count() == 0) PaintHint();
   QPainter painter(viewport());
   QStyleOptionViewItem option;
   initViewItemOption(&option);

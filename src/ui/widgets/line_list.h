@@ -14,8 +14,12 @@ class LineList final : public QListWidget {
  public:
   explicit LineList(const QString& objectName);
 
-  /// Shows `lines`, which have only grown since the last call, and scrolls to the picked one.
+  /// Shows `lines`, which have only grown since the last call. Scrolls to the newest if there is a new one;
+  /// otherwise the user's place stays.
   void ShowLines(const ItemList& lines);
+
+  /// Says in faint text what the list is for, as long as it has no lines.
+  void SetHint(const QString& hint);
 
   QRect visualRect(const QModelIndex& index) const override;
   QModelIndex indexAt(const QPoint& point) const override;
@@ -36,7 +40,11 @@ class LineList final : public QListWidget {
   QModelIndex IndexOf(int row) const { return model()->index(row, modelColumn()); }
   int WholeLines() const;  ///< How many lines have room in the list; at least 1.
 
+  void PaintHint();
+
   QSize lineSize_{0, 1};  ///< The first line's, which stands for all.
+  int picked_ = ItemList::None;
+  QString hint_;
 };
 
 }  // namespace kickwell

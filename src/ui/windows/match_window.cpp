@@ -234,6 +234,10 @@ QLayout* MatchWindow::BuildLists() {
   layout->addLayout(options);
   summary_->setAccessibleName("Match Summary");
   commentary_->setAccessibleName("Commentary");
+  commentary_->SetHint("The story of the match appears here.");
+  summary_->SetHint(match_.Session().Controls.Option1Enabled
+                        ? "Goals appear here. Select Commentary for the whole story."
+                        : "Goals and the result appear here.");
   for (LineList* const list : {summary_, commentary_}) {
     list->setMinimumHeight(5 * list->fontMetrics().height() + 8);
     layout->addWidget(list);

@@ -1,5 +1,6 @@
 #include "championship/championship_play.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "data/championship_store.h"
@@ -36,6 +37,16 @@ void ChampionshipPlay::Form_Load() {
 
 void ChampionshipPlay::Championships_Click(int entry) {
   Load(At(Championships.Entries, entry));
+}
+
+void ChampionshipPlay::Fixtures_Click(int first, int last) {
+  From.Pick(first);
+  To.Pick(last);
+}
+
+int ChampionshipPlay::FirstUnplayed() const {
+  const auto unplayed = std::ranges::find(fixtures_, NotPlayed, &Fixture::Status);
+  return unplayed == fixtures_.end() ? ItemList::None : static_cast<int>(unplayed - fixtures_.begin());
 }
 
 void ChampionshipPlay::Load(const std::string& fileName) {

@@ -26,6 +26,7 @@ class ChampionshipPlay {
   void Championships_Click(int entry);
   void From_Click(int entry) { From.Picked = entry; }
   void To_Click(int entry) { To.Picked = entry; }
+  void Fixtures_Click(int first, int last);  ///< Makes these places of the fixture list (from 0) the range.
   void SimulationType_Click(int entry) { SimulationType.Picked = entry; }
 
   /// Reads the championship's fixtures and offers them all. A file that is missing or can't be read changes
@@ -37,6 +38,9 @@ class ChampionshipPlay {
   /// those that can't be played.
   void Command1_Click();
   void Command2_Click() { Closed = true; }
+
+  /// The place of the first fixture that is still to be played, or ItemList::None.
+  int FirstUnplayed() const;
 
   /// Whether the fixture at `place` of the list (from 0) has been played.
   bool IsPlayed(int place) const { return At(fixtures_, place).Status != NotPlayed; }

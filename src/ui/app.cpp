@@ -45,6 +45,14 @@ void App::Start() {
   TellFailure(desktop_, finished);
 }
 
+void App::ComeToFront() {
+  for (QWidget* const window : {static_cast<QWidget*>(window_.get()), Owner()}) {
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+    window->raise();
+    window->activateWindow();
+  }
+}
+
 QWidget* App::Owner() const {
   QWidget* const screen = QApplication::activeModalWidget();
   return screen != nullptr ? screen : window_.get();

@@ -24,6 +24,7 @@ class App {
   ~App();
 
   void Start();  ///< Shows the main menu; the program ends when it is closed.
+  void ComeToFront();
 
  private:
   QWidget* Owner() const;  ///< The window in use, over which the next one opens.

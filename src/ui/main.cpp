@@ -3,6 +3,7 @@
 
 #include "data/posix_file_system.h"
 #include "ui/app.h"
+#include "ui/one_program.h"
 #include "ui/qt_desktop.h"
 
 namespace {
@@ -25,10 +26,13 @@ int main(int /*argc*/, char** argv) {
   const QApplication application(noArguments, argv);
   kickwell::PosixFileSystem files;
   const kickwell::ProgramFolder folder(QCoreApplication::applicationDirPath().toStdString(), files);
+  kickwell::OneProgram program(folder);
+  if (!program.MayRun()) return 0;
   SetIcon();
   kickwell::QtDesktop desktop(folder);
   kickwell::SeededRandom random;
   kickwell::App app(folder, desktop, random);
+  program.Wanted = [&app] { app.ComeToFront(); };
   app.Start();
   return QApplication::exec();
 }

@@ -6,14 +6,18 @@
 #include <QWheelEvent>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
+#include <chrono>
+#include <future>
 
 #include "championship/ranking.h"
 #include "support/screen_test.h"
+#include "ui/one_program.h"
 #include "ui/qt_desktop.h"
 #include "ui/text.h"
 #include "ui/widgets/appearance.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/line_list.h"
+#include "ui/windows/championship_play_window.h"
 #include "ui/windows/match_window.h"
 #include "ui/windows/ranking_window.h"
 #include "user.h"
@@ -21,6 +25,7 @@
 namespace kickwell {
 namespace {
 
+using namespace std::chrono_literals;
 using WindowsTest = WindowTest;
 
 TEST_F(WindowsTest, TheGoalsMakeRoomForTheShootOutAndTheFactsStandInTheirPlaces) {
@@ -91,6 +96,39 @@ TEST_F(WindowsTest, AClosedChooserIgnoresTheWheelAndFindsWhatIsTyped) {
   QTest::keyClicks(chooser, "New B");
   EXPECT_EQ(chooser->currentText(), "New Burton");
   EXPECT_EQ(picks.last().first().toInt(), 2);
+}
+
+TEST_F(WindowsTest, TheFixtureListSetsTheRangeAndPlaysIt) {
+  Write("Leagues/Top.leg", "Top\n2\nA\nB\n4\nP\nA\nB\nNP\nB\nA\nNP\nA\nB\nNP\nB\nA\n");
+  std::vector<int> played;
+  ChampionshipPlay play(
+      ChampionshipKind::League, folder_.Folder, desktop_, [](auto&) {},
+      [&played](const MatchSetup& setup) { played.push_back(setup.MatchNumber); });
+  ChampionshipPlayWindow window(play, ChampionshipKind::League, nullptr);
+  window.show();
+  auto* const fixtures = window.findChild<QListWidget*>("Fixtures");
+  EXPECT_EQ(fixtures->currentRow(), 1);  // The next one to play.
+  const auto range = [&window] { return User::TextOf(window, "From") + " to " + User::TextOf(window, "To"); };
+  EXPECT_EQ(range(), "1 to 2");
+  const auto on = [fixtures](int row) { return fixtures->visualItemRect(fixtures->item(row)).center(); };
+  QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, {}, on(2));
+  EXPECT_EQ(range(), "3 to 3");
+  QTest::keyClick(fixtures, Qt::Key_Down, Qt::ShiftModifier);
+  EXPECT_EQ(range(), "3 to 4");
+  QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, {}, on(1));
+  QTest::mouseDClick(fixtures->viewport(), Qt::LeftButton, {}, on(1));
+  EXPECT_EQ(played, std::vector{2});
+}
+
+TEST_F(WindowsTest, ASecondStartCallsTheFirstProgramAndEnds) {
+  OneProgram first(folder_.Folder);
+  bool wanted = false;
+  first.Wanted = [&wanted] { wanted = true; };
+  auto second = std::async([this] { return OneProgram(folder_.Folder).MayRun(); });
+  EXPECT_TRUE(QTest::qWaitFor([&] { return second.wait_for(0s) == std::future_status::ready; }));
+  EXPECT_TRUE(first.MayRun());
+  EXPECT_FALSE(second.get());
+  EXPECT_TRUE(wanted);
 }
 
 TEST_F(WindowsTest, EnterAnswersAQuestionWithWhatLosesNothing) {

@@ -87,7 +87,7 @@ void ShowChooser(QComboBox* combo, const ItemList& chooser) {
   combo->setCurrentIndex(chooser.Picked);
 }
 
-void ShowList(QListWidget* list, const ItemList& chooser) {
+void ShowEntries(QListWidget* list, const ItemList& chooser) {
   const QSignalBlocker quiet(list);
   const QStringList entries = Texts(chooser);
   bool same = list->count() == entries.size();
@@ -96,6 +96,11 @@ void ShowList(QListWidget* list, const ItemList& chooser) {
     list->clear();
     list->addItems(entries);
   }
+}
+
+void ShowList(QListWidget* list, const ItemList& chooser) {
+  const QSignalBlocker quiet(list);
+  ShowEntries(list, chooser);
   list->setCurrentRow(chooser.Picked);
 }
 

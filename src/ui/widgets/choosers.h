@@ -23,6 +23,9 @@ QListWidget* MakeList(const QString& objectName);
 /// Makes `combo` show `chooser`. Only a user's own pick emits `activated`.
 void ShowChooser(QComboBox* combo, const ItemList& chooser);
 
+/// Makes `list` show the entries of `chooser`, whatever is picked in either.
+void ShowEntries(QListWidget* list, const ItemList& chooser);
+
 /// Makes `list` show `chooser`, without the signals of a user's pick.
 void ShowList(QListWidget* list, const ItemList& chooser);
 

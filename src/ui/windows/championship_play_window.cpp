@@ -2,6 +2,8 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QSignalBlocker>
+#include <algorithm>
 
 #include "ui/widgets/appearance.h"
 #include "ui/widgets/choosers.h"
@@ -48,15 +50,55 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   OnPick(championships_, [this](int entry) { play_.Championships_Click(entry); });
   OnPick(from_, [this](int entry) { play_.From_Click(entry); });
   OnPick(to_, [this](int entry) { play_.To_Click(entry); });
+  fixtures_->setSelectionMode(QAbstractItemView::ContiguousSelection);
+  connect(fixtures_, &QListWidget::itemSelectionChanged, this, [this] { Act([this] { PickRange(); }); });
+  connect(fixtures_, &QListWidget::itemDoubleClicked, this,
+          [this] { Act([this] { play_.Command1_Click(); }); });
   OnPick(simulationType_, [this](int entry) { play_.SimulationType_Click(entry); });
-  play_.Changed = [this] { Refresh(); };
+  play_.Changed = [this] {
+    Refresh();
+    ShowNext();
+  };
   Refresh();
-  OpenAt(460, 560);
+  OpenAt(560, 720);
+  ShowNext();
+}
+
+/// The first and the last selected row; ItemList::None without any.
+std::pair<int, int> ChampionshipPlayWindow::SelectedRange() const {
+  const QModelIndexList picked = fixtures_->selectionModel()->selectedIndexes();
+  if (picked.isEmpty()) return {ItemList::None, ItemList::None};
+  const auto [first, last] = std::ranges::minmax(picked, {}, &QModelIndex::row);
+  return {first.row(), last.row()};
+}
+
+void ChampionshipPlayWindow::PickRange() {
+  const auto [first, last] = SelectedRange();
+  if (first != ItemList::None) play_.Fixtures_Click(first, last);
+}
+
+/// Selects the fixtures of the range without the signals of a user's pick.
+void ChampionshipPlayWindow::ShowRange() {
+  if (SelectedRange() == std::pair(play_.From.Picked, play_.To.Picked)) return;
+  const QSignalBlocker quiet(fixtures_);
+  fixtures_->clearSelection();
+  for (int place = std::max(play_.From.Picked, 0); place <= play_.To.Picked; ++place)
+    fixtures_->item(place)->setSelected(true);
+}
+
+/// Scrolls to the first fixture that is still to be played, below the last results.
+void ChampionshipPlayWindow::ShowNext() {
+  constexpr int Before = 2;
+  const int next = play_.FirstUnplayed();
+  if (next == ItemList::None) return fixtures_->scrollToBottom();
+  fixtures_->selectionModel()->setCurrentIndex(fixtures_->model()->index(next, 0),
+                                               QItemSelectionModel::NoUpdate);
+  fixtures_->scrollToItem(fixtures_->item(std::max(next - Before, 0)), QAbstractItemView::PositionAtTop);
 }
 
 void ChampionshipPlayWindow::Refresh() {
   ShowChooser(championships_, play_.Championships);
-  ShowList(fixtures_, play_.FixtureList);
+  ShowEntries(fixtures_, play_.FixtureList);
   for (int i = 0; i < fixtures_->count(); ++i) {
     const bool played = play_.IsPlayed(i);
     fixtures_->item(i)->setForeground(played ? FaintText(palette()) : palette().color(QPalette::Text));
@@ -64,6 +106,7 @@ void ChampionshipPlayWindow::Refresh() {
     fixtures_->item(i)->setData(Qt::AccessibleTextRole,
                                 fixtures_->item(i)->text() + (played ? ", Played" : QString()));
   }
+  ShowRange();
   ShowChooser(from_, play_.From);
   ShowChooser(to_, play_.To);
   ShowChooser(simulationType_, play_.SimulationType);

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QListWidget>
+#include <utility>
 
 #include "championship/championship_play.h"
 #include "ui/windows/screen_window.h"
@@ -19,6 +20,11 @@ class ChampionshipPlayWindow final : public ScreenWindow {
   void Leave() override { play_.Command2_Click(); }
 
  private:
+  std::pair<int, int> SelectedRange() const;
+  void PickRange();
+  void ShowRange();
+  void ShowNext();
+
   ChampionshipPlay& play_;
   QComboBox *championships_, *from_, *to_, *simulationType_;
   QListWidget* fixtures_;

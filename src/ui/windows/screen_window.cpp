@@ -7,6 +7,14 @@
 #include "ui/widgets/scale.h"
 
 namespace kickwell {
+namespace {
+
+/// The property under which the main window keeps the place of a screen's window.
+QByteArray PlaceOf(const QWidget& window) {
+  return "place of " + window.objectName().toLatin1();
+}
+
+}  // namespace
 
 ScreenWindow::ScreenWindow(const char* name, const QString& caption, QWidget* parent)
     : QDialog(parent),
@@ -31,6 +39,25 @@ void ScreenWindow::OpenAt(int width, int height) {
   constexpr int UsualType = 15;  // The height of a line.
   const qreal type = std::max(1.0, qreal(fontMetrics().height()) / UsualType);
   resize((QSizeF(width, height) * type).toSize().expandedTo(sizeHint()).boundedTo(RoomOnScreen(this)));
+  restoreGeometry(MainWindow()->property(PlaceOf(*this)).toByteArray());  // Does nothing if there is none.
+}
+
+/// The window that lives as long as the program. It keeps the places of the others.
+QWidget* ScreenWindow::MainWindow() {
+  QWidget* window = this;
+  while (window->parentWidget() != nullptr) window = window->parentWidget();
+  return window;
+}
+
+void ScreenWindow::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  // The desktop has placed the window by the time it gets the focus; later changes are its user's.
+  if (event->type() == QEvent::ActivationChange && opened_.isNull()) opened_ = geometry();
+}
+
+void ScreenWindow::done(int result) {
+  if (!opened_.isNull() && geometry() != opened_) MainWindow()->setProperty(PlaceOf(*this), saveGeometry());
+  QDialog::done(result);
 }
 
 void ScreenWindow::reject() {

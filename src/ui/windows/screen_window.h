@@ -15,14 +15,17 @@ namespace kickwell {
 
 /// The window of a screen. It runs the user's actions, after each of which it shows the whole state again or
 /// closes, as the screen's logic says. Escape and the window's frame leave the screen as its own button does.
+/// A window that its user has moved or resized opens in that place again, for as long as the program runs.
 class ScreenWindow : public QDialog {
  public:
   /// `name` becomes the window's object name, `caption` its title.
   ScreenWindow(const char* name, const QString& caption, QWidget* parent);
 
   void reject() override;
+  void done(int result) override;
 
  protected:
+  void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  ///< Enter presses the button that has the focus.
   bool focusNextPrevChild(bool next) override;    ///< Tab scrolls to what it reaches.
 
@@ -56,9 +59,12 @@ class ScreenWindow : public QDialog {
   virtual void Leave() = 0;           ///< The action of the button that leaves the screen.
 
  private:
+  QWidget* MainWindow();
+
   QVBoxLayout* page_;
   ButtonRow* buttons_;
   PageArea* area_;
+  QRect opened_;  ///< Where the desktop has placed the window.
 };
 
 }  // namespace kickwell

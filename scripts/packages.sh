@@ -4,6 +4,7 @@ RUN_PACKAGES="cmake ninja-build g++ qt6-base-dev qt6-multimedia-dev qt6-wayland 
 DISPLAY_PACKAGES="xvfb xauth openbox x11-utils"
 TEST_PACKAGES="$RUN_PACKAGES libgtest-dev libbenchmark-dev clang git"
 LINT_PACKAGES="$TEST_PACKAGES clang-format-14 clang-tidy-14"
+INSTALL_TEST_PACKAGES="appstream desktop-file-utils"
 COVERAGE_PACKAGES="$TEST_PACKAGES gcovr"
 
 # need PACKAGE...: installs missing packages, or lists them and exits.

@@ -72,8 +72,9 @@ std::optional<std::string> QtDesktop::AskSaveName(const std::string& proposedNam
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   dialog.selectFile(ForFileName(ToQt(proposedName)));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  saveFolder_ = dialog.directory().absolutePath();
-  return dialog.selectedFiles().constFirst().toStdString();
+  const QString file = dialog.selectedFiles().constFirst();
+  saveFolder_ = QFileInfo(file).absolutePath();
+  return file.toStdString();
 }
 
 void QtDesktop::OpenDocument(const std::string& file, std::function<void()> otherwise) {

@@ -1,5 +1,7 @@
 // What windows do beyond showing their logic: places, focus, keys, the timer and the pause.
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTimer>
@@ -149,6 +151,25 @@ ItemList ShowHundredLines(LineList& list) {
   lines.PickLast();
   list.ShowLines(lines);
   return lines;
+}
+
+TEST_F(WindowsTest, TheSaveDialogRemembersItsFolderAndProposesWhatAFileCanBeCalled) {
+  QtDesktop desktop(folder_.Folder);
+  const std::string page = (folder_.Folder.Teams() / "page").string();
+  AddTeams({"Albion"});
+  User user;
+  user.In("SaveDialog").Do([&page](QWidget& dialog) {
+    auto* const name = dialog.findChild<QLineEdit*>();
+    EXPECT_EQ(name->text(), "What- FC_B-C_Summary");
+    name->setText(QString::fromStdString(page));
+    QTest::keyClick(name, Qt::Key_Return);
+  });
+  EXPECT_EQ(desktop.AskSaveName("What? FC_B/C_Summary"), page);
+  user.In("SaveDialog").Do([](QWidget& dialog) {
+    EXPECT_EQ(static_cast<QFileDialog&>(dialog).directory().dirName(), "Teams");
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+  });
+  EXPECT_EQ(desktop.AskSaveName("page"), std::nullopt);
 }
 
 TEST_F(WindowsTest, AListOfLinesShowsTheNewestAndIsWalkedByKeyboardAndMouse) {

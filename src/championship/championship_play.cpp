@@ -31,7 +31,10 @@ ChampionshipPlay::ChampionshipPlay(ChampionshipKind kind, ProgramFolder folder, 
 
 void ChampionshipPlay::Form_Load() {
   Championships.Entries = ListChampionships(folder_, kind_);
-  if (Championships.Count() > 0) Championships_Click(0);
+  for (int entry = 0; entry < Championships.Count() && Championships.Picked == ItemList::None; ++entry) {
+    if (!TellFailure(desktop_, FinishChanges(folder_))) break;  // None can be loaded.
+    Championships_Click(entry);
+  }
   SimulationType = {{SimulationTexts.begin(), SimulationTexts.end()}, 0};
 }
 

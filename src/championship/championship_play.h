@@ -19,7 +19,7 @@ class ChampionshipPlay {
   using OpenSelection = std::function<void(const MatchSetup&)>;  ///< Returns when the selection has closed.
   using SetChampionship = std::function<void(const std::string&)>;  ///< Tells the menu what is being played.
 
-  /// Opens with the first championship of the kind.
+  /// Opens with the first championship of the kind that can be played.
   ChampionshipPlay(ChampionshipKind kind, ProgramFolder folder, Desktop& desktop,
                    SetChampionship setChampionship, OpenSelection openSelection);
 

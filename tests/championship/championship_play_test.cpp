@@ -85,18 +85,19 @@ TEST_F(ChampionshipPlayTest, ARangeGoesOnIntoTheNextRound) {
 
 TEST_F(ChampionshipPlayTest, OnlyAChampionshipUnderItsOwnNameIsPlayed) {
   Open(League).Command1_Click();  // There is none.
+  Write("Leagues/Another.leg", "Other\n2\nA\nB\n1\nNP\nA\nB\n");
   Write("Leagues/Cut.leg", "Cut\n2\nA\nB\n5\nNP\nA\nB\nNP\nA");
   Write("Leagues/Empty.leg", "Empty\n0\n0\n");
-  Write("Leagues/Wrong.leg", "Other\n2\nA\nB\n1\nNP\nA\nB\n");
   ChampionshipPlay play = Open(League);
-  EXPECT_EQ(play.FixtureList.Count(), 1);  // All that the file holds.
-  play.Championships_Click(2);
+  EXPECT_EQ(play.Championships.Text(), "Cut.leg");  // The first that can be played.
+  EXPECT_EQ(play.FixtureList.Count(), 1);           // All that the file holds.
+  play.Championships_Click(0);
   EXPECT_EQ(play.Championships.Text(), "Cut.leg");
   EXPECT_EQ(current_, "Cut");
-  play.Championships_Click(1);
+  play.Championships_Click(2);
   play.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(), (Texts{"i: Please make all the settings properly",
-                                     "i: Wrong.leg holds the championship Other. Rename the file to play it.",
+  const std::string refusal = "i: Another.leg holds the championship Other. Rename the file to play it.";
+  EXPECT_EQ(desktop_.Taken(), (Texts{"i: Please make all the settings properly", refusal, refusal,
                                      "i: Please make all the settings properly"}));
 }
 

@@ -16,7 +16,7 @@ constexpr const char* Files[] = {"whistle.wav", "goal.wav", "boo.wav"};  ///< In
 
 void Sounds::Load(const ProgramFolder& folder) {
   silent_ = QMediaDevices::defaultAudioOutput().isNull();
-  if (silent_ || effects_.front() != nullptr) return;
+  if (silent_) return;
   for (std::size_t i = 0; i < effects_.size(); ++i) {
     effects_[i] = std::make_unique<QSoundEffect>();
     effects_[i]->setSource(QUrl::fromLocalFile(ToQt((folder.Sounds() / Files[i]).string())));

@@ -14,7 +14,7 @@ namespace kickwell {
 /// wait.
 class Sounds {
  public:
-  void Load(const ProgramFolder& folder);  ///< Reads each file once, however often it is called.
+  void Load(const ProgramFolder& folder);  ///< Reads the files as they are now.
 
   /// Plays a sound from its beginning; the desktop's beep where its file is missing or damaged.
   void Play(Sound sound);

@@ -133,6 +133,7 @@ struct MatchSession {
   bool UserLeft = false;  ///< The screen closes.
 
   bool IsLevel() const { return Side1.Goals == Side2.Goals; }
+  bool IsOver() const { return !ResultText.empty(); }  ///< The result has been announced.
   bool GoldenGoalFell() const { return IsExtraTime(Period) && !IsLevel(); }
   void KeepFinalGoals() {
     Side1.FinalGoals = Side1.Goals;

@@ -11,6 +11,14 @@ QColor FaintText(const QPalette& palette) {
                           mix(text.blueF(), ground.blueF()));
 }
 
+void SetColours(QWidget* widget, const QColor& ground, const QColor& text) {
+  QPalette palette = widget->palette();
+  if (palette.color(QPalette::Window) == ground && palette.color(QPalette::WindowText) == text) return;
+  palette.setColor(QPalette::Window, ground);
+  palette.setColor(QPalette::WindowText, text);
+  widget->setPalette(palette);
+}
+
 int Twips(const QWidget* widget, int twips) {
   return twips * widget->logicalDpiX() / 1440;
 }

@@ -7,18 +7,21 @@
 
 namespace kickwell {
 
-/// The mark of one kick in the shoot-out: a small round lamp.
+/// The mark of one kick in the shoot-out: a dot, then a green ball for a goal or a red cross for a miss. A
+/// ring marks the kick on view.
 class KickMark final : public QWidget {
  public:
   KickMark();
 
-  void SetMarker(const KickMarker& marker, const QString& kick);  ///< `kick` says whose and which it is.
+  /// `kick` says whose and which it is.
+  void SetMarker(const KickMarker& marker, const QString& kick, bool onView);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   Lamp colour_ = Lamp::Black;
+  bool onView_ = false;
 };
 
 /// The colours of the lamps: black, pure green, pure red.

@@ -2,6 +2,7 @@
 
 #include <QFontInfo>
 
+#include "ui/text.h"
 #include "ui/widgets/accessible.h"
 #include "ui/widgets/scale.h"
 #include "ui/widgets/text_label.h"
@@ -26,6 +27,16 @@ QLabel* Enlarged(QLabel* label, qreal factor) {
 QLabel* MakeHeading(const QString& objectName) {
   QLabel* const heading = MakeText(objectName, {}, Qt::AlignHCenter);
   return Enlarged(heading, HeadingType);
+}
+
+QLabel* MakeFixtureLine(const MatchSetup& setup) {
+  auto* const line =
+      new TextLabel(QStringLiteral("%1, match %2").arg(Shown(setup.ChampionshipName)).arg(setup.MatchNumber));
+  line->setObjectName("fixture");
+  line->setAlignment(Qt::AlignCenter);
+  line->SetFaint(true);
+  line->setVisible(setup.Mode != MatchMode::Friendly);
+  return line;
 }
 
 QLabel* MakeCaption(const QString& text) {

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVBoxLayout>
 
+#include "engine/match_setup.h"
+
 namespace kickwell {
 
 /// A label for a figure or for a text from the user's files.
@@ -15,6 +17,9 @@ QLabel* Enlarged(QLabel* label, qreal factor);
 
 /// A large heading for a text from the user's files.
 QLabel* MakeHeading(const QString& objectName);
+
+/// Says in faint text which match of which championship `setup` is. Hidden for a friendly.
+QLabel* MakeFixtureLine(const MatchSetup& setup);
 
 /// A fixed caption. It is never cut short.
 QLabel* MakeCaption(const QString& text);

@@ -8,6 +8,8 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "ui/widgets/appearance.h"
+
 namespace kickwell {
 namespace {
 
@@ -32,6 +34,11 @@ TextLabel::TextLabel(const QString& text) : QLabel(text) {
   setTextFormat(Qt::PlainText);
 }
 
+void TextLabel::SetFaint(bool faint) {
+  faint_ = faint;
+  update();
+}
+
 QSize TextLabel::HintUpTo(int characters) const {
   const QString some = text().left(characters);
   const QMargins margins = contentsMargins();
@@ -51,7 +58,7 @@ QString TextLabel::Elided() const {
 }
 
 bool TextLabel::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QLabel::event(event);
+  if (event->type() != QEvent::ToolTip || !toolTip().isEmpty()) return QLabel::event(event);
   const bool whole = Elided() == text();
   QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole ? QString() : PlainTip(text()),
                      this);
@@ -62,6 +69,7 @@ void TextLabel::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   QStyleOption option;
   option.initFrom(this);
+  if (faint_) option.palette.setColor(foregroundRole(), FaintText(option.palette));
   style()->drawItemText(&painter, contentsRect(), static_cast<int>(alignment()), option.palette, isEnabled(),
                         Elided(), foregroundRole());
 }

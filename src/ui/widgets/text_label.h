@@ -9,10 +9,12 @@ namespace kickwell {
 QString PlainTip(const QString& text);
 
 /// Shows its text as it stands, never as markup. A text that is too long ends in an ellipsis and does not
-/// stretch the window; its tool tip shows more of it.
+/// stretch the window; its tool tip shows more of it, unless it has a tip of its own.
 class TextLabel final : public QLabel {
  public:
   explicit TextLabel(const QString& text);
+
+  void SetFaint(bool faint);  ///< For text that matters less.
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -24,6 +26,8 @@ class TextLabel final : public QLabel {
  private:
   QString Elided() const;
   QSize HintUpTo(int characters) const;
+
+  bool faint_ = false;
 };
 
 }  // namespace kickwell

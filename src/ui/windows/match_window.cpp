@@ -14,6 +14,8 @@
 #include "ui/widgets/appearance.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/scale.h"
+#include "ui/widgets/team_stripe.h"
+#include "ui/widgets/text_label.h"
 
 namespace kickwell {
 namespace {
@@ -47,14 +49,6 @@ class ScoreBoard final : public QWidget {
   }
 };
 
-void SetColours(QWidget* widget, const QColor& background, const QColor& text) {
-  QPalette palette = widget->palette();
-  if (palette.color(QPalette::Window) == background && palette.color(QPalette::WindowText) == text) return;
-  palette.setColor(QPalette::Window, background);
-  palette.setColor(QPalette::WindowText, text);
-  widget->setPalette(palette);
-}
-
 }  // namespace
 
 MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
@@ -67,6 +61,7 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
       label3_(MakeText("Label3", {}, Qt::AlignHCenter)),
       picture2_(new PitchPicture(Glide(timings))),
       picture1_(new GoalPicture(Glide(timings))),
+      kicks_(new KickRows),
       summary_(new LineList(ArrayName("List1", 0))),
       commentary_(new LineList(ArrayName("List1", 1))),
       halftime_(Button("halftime", {}, [this] { match_.halftime_Click(); })),
@@ -78,7 +73,8 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
   picture2_->setObjectName("Picture2");
   auto* const place = new QHBoxLayout;
   place->addWidget(ven_, 1);
-  place->addWidget(label1_);
+  place->addWidget(MakeFixtureLine(match.Session().Setup));
+  place->addWidget(label1_, 1);
 
   scoreBoard_ = BuildScoreBoard();
   auto* const field = new QHBoxLayout;
@@ -125,14 +121,25 @@ QWidget* MatchWindow::BuildScoreBoard() {
   clock->addWidget(label11);
   clock->addWidget(label2_);
 
+  const auto name = [](SideWidgets& side) {
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(4);
+    side.Stripes[0] = MakeStripe(Qt::Horizontal, 6);
+    side.Stripes[0]->setFrameStyle(QFrame::Box | QFrame::Plain);  // The board is neither light nor dark.
+    column->addStretch();
+    column->addWidget(side.Team);
+    column->addWidget(side.Stripes[0]);
+    column->addStretch();
+    return column;
+  };
   auto* const layout = new QHBoxLayout(board);
   layout->setContentsMargins(PageMargin, BetweenGroups, PageMargin, BetweenGroups);
   layout->setSpacing(BetweenColumns);
-  layout->addWidget(side1_.Team, 1);
+  layout->addLayout(name(side1_), 1);
   layout->addWidget(side1_.Score);
   layout->addLayout(clock);
   layout->addWidget(side2_.Score);
-  layout->addWidget(side2_.Team, 1);
+  layout->addLayout(name(side2_), 1);
   return board;
 }
 
@@ -161,7 +168,13 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   const QString n = QString::number(number);
   auto* const box = new QFrame;
   box->setFrameShape(QFrame::StyledPanel);
-  auto* const grid = new QGridLayout(box);
+  auto* const layout = new QVBoxLayout(box);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(side.Stripes[1] = MakeStripe(Qt::Horizontal, 6));
+  auto* const grid = new QGridLayout;
+  layout->addLayout(grid, 1);
+  grid->setContentsMargins(9, 9, 9, 9);
   grid->setHorizontalSpacing(BetweenColumns);
   int row = 0;
   const auto fact = [&](const QString& heading, QAnyStringView name, const QString& text) {
@@ -188,29 +201,12 @@ QWidget* MatchWindow::BuildShootOut() {
   QLabel* const label8 = MakeCaption("PENALTY SHOOT OUT:");
   label8->setObjectName("Label8");
   Enlarged(label8, FigureType);
-  side1_.Takers = MakeText("Label4", "Team 1", Qt::AlignRight);
-  side2_.Takers = MakeText("Label7", "Team 2", Qt::AlignRight);
-  auto* const rows = new QGridLayout;
-  rows->setSpacing(0);
-  rows->setHorizontalSpacing(0);
-  rows->setColumnMinimumWidth(1, 8);
-  rows->addWidget(side1_.Takers, 0, 0);
-  rows->addWidget(side2_.Takers, 1, 0);
-  for (int n = 0; n < KickCount; ++n) {
-    auto* const mark = new KickMark;
-    mark->setObjectName(ArrayName("penalty", n));
-    At(penalty_, n) = mark;
-    rows->addWidget(mark, n % 2, 2 + n / 2);
-    rows->setColumnMinimumWidth(2 + n / 2, mark->width());
-  }
-  rows->setColumnStretch(0, 1);
-  rows->setColumnStretch(2 + KickCount / 2, 1);
   auto* const layout = new QVBoxLayout(shootOut_);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(InGroup);
   layout->addWidget(label8, 0, Qt::AlignHCenter);
   layout->addWidget(picture1_, 1);
-  layout->addLayout(rows);
+  layout->addWidget(kicks_);
   return shootOut_;
 }
 
@@ -265,7 +261,7 @@ void MatchWindow::Refresh() {
   const MatchControls& controls = session.Controls;
   ShowSide(side1_, session.Side1, session.BallSide == 1);
   ShowSide(side2_, session.Side2, session.BallSide == 2);
-  ven_->setText(Shown(session.Venue));
+  ShowVenue(session);
   label1_->setText(Shown(AttendanceText(session)));
   picture2_->SetBall(session.BallX, session.BallY);
   ShowClock(controls);
@@ -273,6 +269,14 @@ void MatchWindow::Refresh() {
   ShowLists(session);
   ShowButtons(controls);
   TellState(session);
+}
+
+void MatchWindow::ShowVenue(const MatchSession& session) {
+  const QString venue = Shown(session.Venue);
+  const QString weather = session.Weather ? ToQt(session.Weather->Text) : QString();
+  ven_->setText(venue);
+  ven_->setToolTip(weather.isEmpty() ? QString() : PlainTip(venue + ". Weather: " + weather));
+  ven_->setAccessibleDescription(weather);
 }
 
 void MatchWindow::TellState(const MatchSession& session) {
@@ -285,6 +289,10 @@ void MatchWindow::TellState(const MatchSession& session) {
     const int third = std::clamp(session.BallX * 3 / (2 * CentreSpotX), 0, 2);
     const QString places[] = {"on the left", "in midfield", "on the right"};
     state.append("ball with " + Shown((first ? session.Side1 : session.Side2).Team) + " " + places[third]);
+  }
+  if (session.Controls.kickEnabled) {
+    const bool first = KickOnView(session) % 2 == 0;
+    state.append(Shown((first ? session.Side1 : session.Side2).Team) + " to kick");
   }
   const ItemList& lines = session.Commentary.Entries.empty() ? session.Summary : session.Commentary;
   if (!lines.Entries.empty()) state.append(Shown(lines.Entries.back()));
@@ -303,7 +311,7 @@ void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool ha
   SetFigureCaption(widgets.Fouls, team + ", fouls");
   SetFigureCaption(widgets.Possession, team + (hasBall ? ", has the ball, possession" : ", possession"));
   widgets.Team->setText(team);
-  widgets.Takers->setText(team);
+  for (QFrame* const stripe : widgets.Stripes) ShowTeam(stripe, match_.Session(), side);
   widgets.Goals->setText(QString::number(side.Goals));
   widgets.Penalties->setText(QStringLiteral("(%1)").arg(side.Penalties));
   widgets.Penalties->setVisible(pens);
@@ -336,11 +344,7 @@ void MatchWindow::ShowShootOut(const MatchControls& controls) {
   shootOut_->setVisible(controls.ShootOutVisible);
   picture1_->SetBall(controls.Shape2);
   if (onPitch && controls.ShootOutVisible) picture1_->setFocus();
-  for (int n = 0; n < KickCount; ++n) {
-    const Side& side = n % 2 == 0 ? match_.Session().Side1 : match_.Session().Side2;
-    At(penalty_, n)
-        ->SetMarker(At(controls.penalty, n), Shown(side.Team) + QStringLiteral(", kick %1").arg(n / 2 + 1));
-  }
+  kicks_->Show(match_.Session());
 }
 
 void MatchWindow::ShowLists(const MatchSession& session) {
@@ -379,6 +383,7 @@ void MatchWindow::ShowButtons(const MatchControls& controls) {
     play.Button->setEnabled(play.Enabled);
     if (play.Visible && play.Enabled) play.Button->setDefault(true);
   }
+  if (match_.Session().IsOver()) command1_->setDefault(true);
 }
 
 }  // namespace kickwell

@@ -9,7 +9,7 @@
 #include "engine/match.h"
 #include "engine/match_screen.h"
 #include "ui/widgets/goal_picture.h"
-#include "ui/widgets/kick_mark.h"
+#include "ui/widgets/kick_rows.h"
 #include "ui/widgets/line_list.h"
 #include "ui/widgets/pitch_picture.h"
 #include "ui/windows/screen_window.h"
@@ -39,7 +39,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
     QLabel *Team, *Goals, *Penalties;
     QWidget* Score;  ///< Holds the goals and, right of them, the penalties.
     QLabel *Shots, *Corners, *Bookings, *Fouls, *Possession;
-    QLabel* Takers;  ///< The team's name beside its row of kick markers.
+    std::array<QFrame*, 2> Stripes;  ///< In the team's colour, below its name and above its facts.
   };
 
   QWidget* BuildScoreBoard();
@@ -49,6 +49,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   QLayout* BuildLists();
   void AddButtons();
   void ShowSide(const SideWidgets& widgets, const Side& side, bool hasBall) const;
+  void ShowVenue(const MatchSession& session);
   void ShowClock(const MatchControls& controls);
   void ShowShootOut(const MatchControls& controls);
   void ShowLists(const MatchSession& session);
@@ -63,8 +64,8 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   QLabel *label1_, *ven_, *label2_, *label3_;
   PitchPicture* picture2_;
   GoalPicture* picture1_;
+  KickRows* kicks_;
   QWidget *scoreBoard_ = nullptr, *shootOut_ = nullptr;
-  std::array<KickMark*, KickCount> penalty_{};
   LineList *summary_, *commentary_;
   std::array<QRadioButton*, 2> option1_{};
   QPushButton *halftime_, *instant_, *kick_, *nextshot_, *comSave_, *command1_;

@@ -81,6 +81,14 @@ std::string LineUp::NameIn(int slot) const {
   return player < 0 ? std::string() : At(Squad, player).Name;
 }
 
+bool LineUp::IsChosenTwice(int slot) const {
+  if (At(Slots, slot).Player < 0) return false;
+  for (int other = 0; other < SlotCount; ++other) {
+    if (other != slot && NameIn(other) == NameIn(slot)) return true;
+  }
+  return false;
+}
+
 std::vector<std::string> LineUp::NamesFrom(PositionLine line) const {
   std::vector<std::string> names;
   for (int slot = 0; slot < SlotCount; ++slot) {

@@ -46,6 +46,9 @@ struct LineUp {
   /// The name chosen in a slot; empty before a choice.
   std::string NameIn(int slot) const;
 
+  /// Whether the player chosen in a slot, or one of the same name, is chosen in another slot, too.
+  bool IsChosenTwice(int slot) const;
+
   /// The chosen midfielders and forwards, in slot order: those who can score.
   std::vector<std::string> Attackers() const;
 

@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QtTest/QTest>
+#include <functional>
 
 #include "support/screen_test.h"
 #include "ui/app.h"
@@ -62,7 +63,13 @@ TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
   user_.In("Selection");
   ExpectTexts({{"Team1", "Borough"}, {"Team2", "City"}});
   ExpectTexts({{"Combo2(10)", "City10"}, {"Post2(10)", "FDR"}, {"OSkill1", "75%"}, {"Label14", "80"}});
-  user_.Press(Qt::Key_C, Qt::AltModifier);
+  const auto keeperIsMarked = [](QWidget& selection) {
+    return selection.findChild<QWidget*>("Twice2(0)")->isVisible();
+  };
+  user_.Pick("Combo2(10)", 0);
+  user_.When(keeperIsMarked, [](QWidget& selection) { User::Pick(selection, "Combo2(10)", 10); });
+  user_.When(std::not_fn(keeperIsMarked),
+             [](QWidget& selection) { User::Press(selection, Qt::Key_C, Qt::AltModifier); });
 
   user_.In("Main");
   for (const char* period : {"&Normal Time 1st Half", "&Normal Time 2nd Half", "&Extra Time 1st Half",

@@ -4,7 +4,8 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QStringListModel>
+#include <QStandardItemModel>
+#include <QStyle>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <optional>
@@ -16,6 +17,7 @@
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/scale.h"
+#include "ui/widgets/side_text.h"
 
 namespace kickwell {
 namespace {
@@ -35,6 +37,17 @@ QString FigureText(const std::optional<int>& figure) {
   return figure ? QString::number(*figure) : QString();
 }
 
+/// A player as the choosers offer him: his name, and beside it his position and skill.
+QStandardItem* Offer(const Player& player) {
+  const QString name = Shown(player.Name), position = Shown(player.Position), skill = Shown(player.Skill);
+  auto* const offer = new QStandardItem(name);
+  offer->setData(position + "  " + skill, SideTextRole);
+  offer->setData(QStringList{name, position, skill}.join(", "), Qt::AccessibleTextRole);
+  return offer;
+}
+
+constexpr const char* ChosenTwice = "selected more than once";
+
 }  // namespace
 
 SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
@@ -51,6 +64,7 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
   num->setVisible(false);
   command1_->setDefault(true);
   QPushButton* const command2 = Button("Command2", "Cancel", [this] { selection_.Command2_Click(); });
+  Page()->addWidget(MakeFixtureLine(setup));
   Page()->addLayout(sides);
   Page()->addStretch();
   SetButtons({.Left = {num}, .Right = {command1_, command2}});
@@ -70,13 +84,15 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   grid->setVerticalSpacing(InGroup);
   grid->setHorizontalSpacing(BetweenColumns / 2);
   grid->setColumnStretch(0, 1);
-  column.Squad = new QStringListModel(this);
+  column.Squad = new QStandardItemModel(this);
   const QByteArray combo = ("Combo" + number).toLatin1();
+  const QByteArray mark = ("Twice" + number).toLatin1();
   const QByteArray post = ("Post" + number).toLatin1();
   const QByteArray skill = ("Sk" + number).toLatin1();
   for (int i = 0; i < SlotCount; ++i) {
     QComboBox* const chooser = MakeCombo(ArrayName(combo, i));
     chooser->setModel(column.Squad);
+    chooser->setItemDelegate(new SideTextDelegate(chooser));
     const QString player = team + QStringLiteral(", player %1").arg(i + 1);
     Name(chooser, player);
     chooser->setMinimumContentsLength(UsualName);
@@ -87,10 +103,13 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
     QLabel* const figure = MakeText(ArrayName(skill, i), {}, Qt::AlignRight);
     figure->setMinimumWidth(fontMetrics().horizontalAdvance("000"));
     SetFigureCaption(figure, player + ", skill");
+    QLabel* const twice = MakeTwiceMark(ArrayName(mark, i), player);
     grid->addWidget(chooser, i, 0);
-    grid->addWidget(position, i, 1);
-    grid->addWidget(figure, i, 2);
+    grid->addWidget(twice, i, 1);
+    grid->addWidget(position, i, 2);
+    grid->addWidget(figure, i, 3);
     At(column.Combos, i) = chooser;
+    At(column.Twice, i) = twice;
     At(column.Posts, i) = position;
     At(column.Skills, i) = figure;
   }
@@ -102,6 +121,20 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   layout->addLayout(grid);
   layout->addWidget(BuildFigures(column, side, team));
   return box;
+}
+
+QLabel* SelectionWindow::MakeTwiceMark(const QString& name, const QString& player) const {
+  const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
+  auto* const mark = new QLabel;
+  mark->setObjectName(name);
+  mark->setPixmap(
+      style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap({size, size}, devicePixelRatio()));
+  mark->setToolTip("Selected more than once");
+  mark->setAccessibleName(player + ", " + ChosenTwice);
+  QSizePolicy room = mark->sizePolicy();
+  room.setRetainSizeWhenHidden(true);
+  mark->setSizePolicy(room);
+  return mark;
 }
 
 QWidget* SelectionWindow::BuildFigures(Column& column, int side, const QString& team) {
@@ -142,18 +175,25 @@ void SelectionWindow::Refresh() {
   command1_->setEnabled(selection_.Command1Enabled);
 }
 
+void SelectionWindow::ShowSlot(const Column& column, const LineUp& lineUp, int slot) {
+  const LineUpSlot& chosen = At(lineUp.Slots, slot);
+  const bool twice = lineUp.IsChosenTwice(slot);
+  QComboBox* const chooser = At(column.Combos, slot);
+  chooser->setCurrentIndex(chosen.Player);
+  chooser->setAccessibleDescription(twice ? At(column.Twice, slot)->accessibleName()
+                                          : chooser->accessibleName());
+  At(column.Twice, slot)->setVisible(twice);
+  At(column.Posts, slot)->setText(Shown(chosen.Position));
+  At(column.Skills, slot)->setText(Shown(chosen.Skill));
+}
+
 void SelectionWindow::ShowSide(const Column& column, const LineUp& lineUp) {
   if (lineUp.CanPlay() && column.Squad->rowCount() == 0) {
-    QStringList names;
-    for (const Player& player : lineUp.Squad) names.append(Shown(player.Name));
-    column.Squad->setStringList(names);
+    QList<QStandardItem*> players;
+    for (const Player& player : lineUp.Squad) players.append(Offer(player));
+    column.Squad->invisibleRootItem()->appendRows(players);
   }
-  for (std::size_t i = 0; i < SlotCount; ++i) {
-    const LineUpSlot& slot = lineUp.Slots[i];
-    column.Combos[i]->setCurrentIndex(slot.Player);
-    column.Posts[i]->setText(Shown(slot.Position));
-    column.Skills[i]->setText(Shown(slot.Skill));
-  }
+  for (int slot = 0; slot < SlotCount; ++slot) ShowSlot(column, lineUp, slot);
   column.Formation->setText(Shown(lineUp.Formation));
   column.Skill->setText(QString::number(lineUp.OverallSkill));
   column.OSkill->setText(Shown(lineUp.Reputation));

@@ -8,7 +8,7 @@
 #include "setup/selection.h"
 #include "ui/windows/screen_window.h"
 
-class QStringListModel;
+class QStandardItemModel;
 
 namespace kickwell {
 
@@ -25,16 +25,19 @@ class SelectionWindow final : public ScreenWindow {
  private:
   /// One side's widgets: eleven choosers with position and skill, and the figures.
   struct Column {
-    QStringListModel* Squad;  ///< The players' names, which all eleven choosers offer.
+    QStandardItemModel* Squad;  ///< The players, whom all eleven choosers offer.
     std::array<QComboBox*, SlotCount> Combos;
+    std::array<QLabel*, SlotCount> Twice;  ///< Marks beside the choosers of a player chosen twice.
     std::array<QLabel*, SlotCount> Posts, Skills;
     QLabel *Formation, *Skill, *OSkill, *Attack, *Defence, *Midfield, *Keeping;
   };
   using Pick = void (Selection::*)(int slot, int entry);
 
   QWidget* BuildSide(Column& column, int side, const QString& team, Pick pick);
+  QLabel* MakeTwiceMark(const QString& name, const QString& player) const;
   QWidget* BuildFigures(Column& column, int side, const QString& team);
   static void ShowSide(const Column& column, const LineUp& lineUp);
+  static void ShowSlot(const Column& column, const LineUp& lineUp, int slot);
 
   Selection& selection_;
   bool timer1Started_ = false;

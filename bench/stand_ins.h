@@ -31,6 +31,7 @@ class NoRecording : public Recording {
   void StoreScorer(const MatchSession& /*session*/) override {}
   void StoreResult(const MatchSession& /*session*/) override {}
   void StoreLeagueResult(const MatchSession& /*session*/) override {}
+  void MatchLeft() override {}
 };
 
 class NoScreen : public MatchScreen {

@@ -91,7 +91,13 @@ void ChampionshipPlay::Command1_Click() {
     desktop_.Inform("Please select the match numbers properly");
     return;
   }
-  for (int number = from; number <= to; ++number) HandOver(number);
+  for (int number = from; number <= to && IsUpToDate(); ++number) HandOver(number);
+}
+
+bool ChampionshipPlay::IsUpToDate() {
+  if (!ChangesAreUnfinished(folder_)) return true;
+  Load(Championships.Text());
+  return !ChangesAreUnfinished(folder_);
 }
 
 void ChampionshipPlay::HandOver(int number) {

@@ -58,6 +58,10 @@ class ChampionshipPlay {
   void Form_Load();
   void HandOver(int number);
 
+  /// Whether the fixtures are as they were recorded. One that a failing disk has recorded in part is finished
+  /// and read first; where that fails, the user is told.
+  bool IsUpToDate();
+
   /// The team that plays for a fixture's entry: a winner by toss plays under its own name.
   std::string TeamOf(const std::string& entry) const;
 

@@ -74,10 +74,10 @@ std::vector<ChangedFile> DeletedCompanions(const ChampionshipId& id) {
   return deleted;
 }
 
-/// Makes `changes` after those that an interruption may have left.
-FileResult ChangeAfterFinishing(const ProgramFolder& folder, const std::vector<ChangedFile>& changes) {
-  FileResult finished = FinishChanges(folder);
-  return finished.Ok() ? ChangeFiles(folder, changes) : finished;
+/// Makes `changes` after what an interruption may have left to do: else it would be done to the new files.
+FileResult ChangeAfterRestoring(const ProgramFolder& folder, const std::vector<ChangedFile>& changes) {
+  FileResult restored = Restore(folder);
+  return restored.Ok() ? ChangeFiles(folder, changes) : restored;
 }
 
 }  // namespace
@@ -143,19 +143,19 @@ ChangedFile ChangedChampionship(const Championship& championship) {
 }
 
 FileResult WriteChampionship(const ProgramFolder& folder, const Championship& championship) {
-  return ChangeAfterFinishing(folder, {ChangedChampionship(championship)});
+  return ChangeAfterRestoring(folder, {ChangedChampionship(championship)});
 }
 
 FileResult ReplaceChampionship(const ProgramFolder& folder, const Championship& championship) {
   std::vector<ChangedFile> changes = DeletedCompanions(championship.Id);
   changes.insert(changes.begin(), ChangedChampionship(championship));
-  return ChangeAfterFinishing(folder, changes);
+  return ChangeAfterRestoring(folder, changes);
 }
 
 FileResult DeleteChampionship(const ProgramFolder& folder, const ChampionshipId& id) {
   std::vector<ChangedFile> changes = DeletedCompanions(id);
   changes.insert(changes.begin(), {FileIn(id, MainExtension(id.Kind)), {}});
-  return ChangeAfterFinishing(folder, changes);
+  return ChangeAfterRestoring(folder, changes);
 }
 
 Loaded<std::vector<StandingsRow>> ReadStandings(const ProgramFolder& folder, const ChampionshipId& league,
@@ -209,6 +209,10 @@ Loaded<std::vector<ScorerRow>> ReadScorers(const ProgramFolder& folder, const Ch
     row.Goals = reader.Number();
   }
   return {std::move(scorers), result};
+}
+
+FileResult PutScorersBy(const ProgramFolder& folder, const ChampionshipId& id) {
+  return PutBy(folder, FileIn(id, Scorers));
 }
 
 FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const ScorerRow& scored) {

@@ -67,6 +67,10 @@ FileResult AppendStandings(const ProgramFolder& folder, const ChampionshipId& le
 /// All scorers, in the order in which they first scored.
 Loaded<std::vector<ScorerRow>> ReadScorers(const ProgramFolder& folder, const ChampionshipId& id);
 
+/// Puts the scorers by as they are, for the case that the match about to be played is not recorded: Restore
+/// makes them so again.
+FileResult PutScorersBy(const ProgramFolder& folder, const ChampionshipId& id);
+
 /// Raises the tally of every scorer called `scored.Player` by `scored.Goals`. If there is none, `scored`
 /// becomes the last scorer. The lines of the others stay as they are.
 FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const ScorerRow& scored);

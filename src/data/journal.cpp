@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <sstream>
+#include <utility>
 
 #include "data/file_names.h"
 #include "data/text_file.h"
@@ -12,6 +13,7 @@ namespace {
 
 constexpr std::string_view FirstLine = "Kickwell journal 1", LastLine = "End";
 constexpr std::string_view Deleted = "-";  ///< In the place of a temporary file's name.
+constexpr int PutByNumber = 1000;          ///< Of the temporary file; changes of files count from 1.
 
 struct Step {
   std::string Temporary;  ///< In the program folder; or Deleted.
@@ -20,6 +22,10 @@ struct Step {
 
 std::filesystem::path JournalOf(const ProgramFolder& folder) {
   return folder.Root / JournalName;
+}
+
+std::filesystem::path PutByOf(const ProgramFolder& folder) {
+  return folder.Root / PutByName;
 }
 
 /// Whether `file` is "Leagues/" or "Tournies/" and the name of a championship's file in it.
@@ -32,6 +38,10 @@ bool IsChampionshipFile(const ProgramFolder& folder, std::string_view file) {
   return (place == folder.Leagues().filename() || place == folder.Tournies().filename()) &&
          StaysInFolder(name) && name.find('\n') == std::string_view::npos &&
          std::ranges::any_of(Extensions, ends);
+}
+
+bool MayChange(const ProgramFolder& folder, const Step& step) {
+  return IsChampionshipFile(folder, step.File) || (step.File == PutByName && step.Temporary == Deleted);
 }
 
 /// The journal's text is bytes, not encoded as other files are: a name must come back exactly.
@@ -51,7 +61,7 @@ std::optional<std::vector<Step>> FromText(const ProgramFolder& folder, const std
     Step step{line, {}};
     std::getline(lines, step.File);
     const bool known = step.Temporary == Deleted || IsTemporaryName(step.Temporary);
-    if (!known || !IsChampionshipFile(folder, step.File)) return std::nullopt;
+    if (!known || !MayChange(folder, step)) return std::nullopt;
     steps.push_back(std::move(step));
   }
   if (line != LastLine || ToText(steps) != text) return std::nullopt;
@@ -68,21 +78,22 @@ bool WasMade(const ProgramFolder& folder, const Step& step) {
   return step.Temporary != Deleted && FileIsMissing(folder.Files(), folder.Root / step.Temporary);
 }
 
-/// Deletes the journal for good: if it came back after a power cut, it could apply to files of a later one.
-FileResult EndJournal(const ProgramFolder& folder) {
-  FileResult ended = DeleteFile(folder.Files(), JournalOf(folder));
-  folder.Files().FlushFolderOf(JournalOf(folder));
+/// Deletes a journal for good: if it came back after a power cut, it could apply to files of a later one.
+FileResult EndJournal(const ProgramFolder& folder, const std::filesystem::path& journal) {
+  FileResult ended = DeleteFile(folder.Files(), journal);
+  folder.Files().FlushFolderOf(journal);
   return ended;
 }
 
-/// Makes the steps that no earlier attempt has made, and ends the journal. `made` counts them.
-FileResult Follow(const ProgramFolder& folder, const std::vector<Step>& steps, std::size_t& made) {
+/// Makes the steps that no earlier attempt has made, and ends their journal. `made` counts them.
+FileResult Follow(const ProgramFolder& folder, const std::filesystem::path& journal,
+                  const std::vector<Step>& steps, std::size_t& made) {
   for (made = 0; made < steps.size(); ++made) {
     FileResult result = Make(folder, steps[made]);
     if (!result.Ok() && !WasMade(folder, steps[made])) return result;
   }
   for (const Step& step : steps) folder.Files().FlushFolderOf(folder.Root / step.File);
-  return EndJournal(folder);
+  return EndJournal(folder, journal);
 }
 
 FileResult MayBeDeleted(const ProgramFolder& folder, const Step& step) {
@@ -92,9 +103,9 @@ FileResult MayBeDeleted(const ProgramFolder& folder, const Step& step) {
   return {"The file " + file.string() + " can't be deleted: It is not a file."};
 }
 
-/// The first half of a change: everything but the renaming, and then the journal.
-FileResult Prepare(const ProgramFolder& folder, const std::vector<Step>& steps,
-                   const std::vector<ChangedFile>& changes) {
+/// The first half of a change: everything but the renaming, and then its journal.
+FileResult Prepare(const ProgramFolder& folder, const std::filesystem::path& journal,
+                   const std::vector<Step>& steps, const std::vector<ChangedFile>& changes) {
   FileSystem& files = folder.Files();
   for (std::size_t i = 0; i < steps.size(); ++i) {
     const Step& step = steps[i];
@@ -103,14 +114,15 @@ FileResult Prepare(const ProgramFolder& folder, const std::vector<Step>& steps,
                                          : MayBeDeleted(folder, step);
     if (!result.Ok()) return result;
   }
-  files.FlushFolderOf(JournalOf(folder));  // The temporary files must be on the disk when the journal is.
-  return ReplaceFile(files, JournalOf(folder), ToText(steps), folder.Root);
+  files.FlushFolderOf(journal);  // The temporary files must be on the disk when the journal is.
+  return ReplaceFile(files, journal, ToText(steps), folder.Root);
 }
 
 /// Takes back a change of which nothing has been renamed. A temporary file that stays is deleted by a later
 /// start.
-void TakeBack(const ProgramFolder& folder, const std::vector<Step>& steps) {
-  if (!EndJournal(folder).Ok()) return;
+void TakeBack(const ProgramFolder& folder, const std::filesystem::path& journal,
+              const std::vector<Step>& steps) {
+  if (!EndJournal(folder, journal).Ok()) return;
   for (const Step& step : steps) {
     if (step.Temporary != Deleted) folder.Files().Delete(folder.Root / step.Temporary);
   }
@@ -125,38 +137,13 @@ std::filesystem::path PlaceAside(const ProgramFolder& folder) {
   return aside;
 }
 
-}  // namespace
-
-FileResult ChangeFiles(const ProgramFolder& folder, const std::vector<ChangedFile>& changes) {
-  std::vector<Step> steps;
-  for (const ChangedFile& change : changes) {
-    if (!IsChampionshipFile(folder, change.File)) return {FileNameRefusal(change.File)};
-    const int number = static_cast<int>(steps.size()) + 1;
-    steps.push_back(
-        {change.Bytes ? TemporaryName(folder.Files(), number) : std::string(Deleted), change.File});
-  }
-  if (!FileIsMissing(folder.Files(), JournalOf(folder))) {
-    return {"Nothing can be saved until the changes in " + JournalOf(folder).string() + " are finished."};
-  }
-  std::size_t made = 0;
-  FileResult result = Prepare(folder, steps, changes);
-  if (result.Ok()) result = Follow(folder, steps, made);
-  if (result.Ok()) return result;
-  if (made == 0) {
-    TakeBack(folder, steps);
-  } else {
-    result.Failure += " The rest will be saved when you next start the program.";
-  }
-  return result;
-}
-
-FileResult FinishChanges(const ProgramFolder& folder) {
-  const std::filesystem::path journal = JournalOf(folder);
+/// Makes the changes that a journal lists, if there is one.
+FileResult FollowJournal(const ProgramFolder& folder, const std::filesystem::path& journal) {
   const auto [text, result] = ReadBytesOf(folder.Files(), journal);
   if (!text) return result;
   std::size_t made = 0;
   if (const std::optional<std::vector<Step>> steps = FromText(folder, *text))
-    return Follow(folder, *steps, made);
+    return Follow(folder, journal, *steps, made);
   const std::filesystem::path aside = PlaceAside(folder);
   FileResult moved = MoveIntoPlace(folder.Files(), journal, aside);
   if (!moved.Ok()) return moved;
@@ -164,10 +151,65 @@ FileResult FinishChanges(const ProgramFolder& folder) {
           aside.filename().string() + "."};
 }
 
-FileResult CleanUp(const ProgramFolder& folder) {
+}  // namespace
+
+FileResult ChangeFiles(const ProgramFolder& folder, const std::vector<ChangedFile>& changes) {
+  const std::filesystem::path journal = JournalOf(folder);
+  std::vector<Step> steps;
+  bool endsPutBy = false;
+  for (const ChangedFile& change : changes) {
+    const int number = static_cast<int>(steps.size()) + 1;
+    steps.push_back(
+        {change.Bytes ? TemporaryName(folder.Files(), number) : std::string(Deleted), change.File});
+    if (!MayChange(folder, steps.back())) return {FileNameRefusal(change.File)};
+    endsPutBy |= change.File == PutByName;
+  }
+  if (ChangesAreUnfinished(folder))
+    return {"Nothing can be saved until the changes in " + journal.string() + " are finished."};
+  std::size_t made = 0;
+  FileResult result = Prepare(folder, journal, steps, changes);
+  if (result.Ok()) result = Follow(folder, journal, steps, made);
+  if (result.Ok()) {
+    if (endsPutBy) folder.Files().Delete(folder.Root / TemporaryName(folder.Files(), PutByNumber));
+    return result;
+  }
+  if (made == 0) TakeBack(folder, journal, steps);
+  if (ChangesAreUnfinished(folder))
+    result.Failure += " The rest will be saved when you next start the program.";
+  return result;
+}
+
+FileResult FinishChanges(const ProgramFolder& folder) {
+  return FollowJournal(folder, JournalOf(folder));
+}
+
+bool ChangesAreUnfinished(const ProgramFolder& folder) {
+  return !FileIsMissing(folder.Files(), JournalOf(folder));
+}
+
+FileResult PutBy(const ProgramFolder& folder, const std::string& file) {
+  if (!IsChampionshipFile(folder, file)) return {FileNameRefusal(file)};
+  FileResult restored = Restore(folder);
+  if (!restored.Ok()) return restored;
+  auto [bytes, reading] = ReadBytesOf(folder.Files(), folder.Root / file);
+  if (!reading.Ok()) return reading;
+  const std::vector<Step> steps = {
+      {bytes ? TemporaryName(folder.Files(), PutByNumber) : std::string(Deleted), file}};
+  FileResult result = Prepare(folder, PutByOf(folder), steps, {{file, std::move(bytes)}});
+  if (!result.Ok()) TakeBack(folder, PutByOf(folder), steps);
+  return result;
+}
+
+FileResult Restore(const ProgramFolder& folder) {
   FileResult finished = FinishChanges(folder);
-  if (FileIsMissing(folder.Files(), JournalOf(folder))) DeleteLeftovers(folder.Files(), folder.Root);
-  return finished;
+  return finished.Ok() ? FollowJournal(folder, PutByOf(folder)) : finished;
+}
+
+FileResult CleanUp(const ProgramFolder& folder) {
+  FileResult restored = Restore(folder);
+  const bool nothingIsLeft = !ChangesAreUnfinished(folder) && FileIsMissing(folder.Files(), PutByOf(folder));
+  if (nothingIsLeft) DeleteLeftovers(folder.Files(), folder.Root);
+  return restored;
 }
 
 }  // namespace kickwell

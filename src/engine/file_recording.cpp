@@ -41,29 +41,56 @@ std::string SideResult(const Side& side, bool shootOut) {
 void FileRecording::StoreScorer(const MatchSession& session) {
   const std::optional<ChampionshipId> id = ChampionshipOf(session);
   if (!id) return;
-  TellFailure(desktop_, AddGoals(folder_, *id, {session.LastScorer, session.LastScoringTeam, 1}));
+  match_.Goals.push_back({session.LastScorer, session.LastScoringTeam, 1});
+  (void)SaveGoals(*id);  // What fails now is tried again with the next goal, and at the end of the match.
+}
+
+void FileRecording::MatchLeft() {
+  TellFailure(desktop_, TakeGoalsBack());
+  match_ = {};
+}
+
+/// Has the scorers' file hold all goals of the match so far.
+FileResult FileRecording::SaveGoals(const ChampionshipId& id) {
+  FileResult result;
+  if (!match_.ScorersArePutBy) {
+    result = PutScorersBy(folder_, id);
+    match_.ScorersArePutBy = result.Ok();
+  }
+  while (result.Ok() && match_.SavedGoals < match_.Goals.size()) {
+    result = AddGoals(folder_, id, match_.Goals[match_.SavedGoals]);
+    if (result.Ok()) ++match_.SavedGoals;
+  }
+  return result;
+}
+
+/// Makes the scorers what they were before the match.
+FileResult FileRecording::TakeGoalsBack() {
+  FileResult restored = match_.ScorersArePutBy ? Restore(folder_) : FileResult();
+  if (!restored.Ok()) restored.Failure += " The scorers will be corrected when you next start the program.";
+  return restored;
 }
 
 /// The value that was loaded. What could not be read keeps the match from being recorded.
 template <typename T>
 T FileRecording::Value(Loaded<T> loaded) {
-  if (failure_.Ok()) failure_ = std::move(loaded.Result);
+  if (match_.Failure.Ok()) match_.Failure = std::move(loaded.Result);
   return std::move(loaded.Value);
 }
 
 void FileRecording::ReadChampionshipOnce(const ChampionshipId& id) {
-  if (championship_) return;
+  if (match_.Main) return;
   // Nothing may build on files that an interruption has left in the middle of a change.
-  TellFailure(desktop_, FinishChanges(folder_));
-  championship_ = Value(ReadChampionship(folder_, id));
+  if (match_.Failure.Ok()) match_.Failure = match_.Goals.empty() ? Restore(folder_) : SaveGoals(id);
+  match_.Main = Value(ReadChampionship(folder_, id));
 }
 
 void FileRecording::StoreResult(const MatchSession& session) {
   const std::optional<ChampionshipId> id = ChampionshipOf(session);
   if (!id || id->Kind != ChampionshipKind::League) return;
   ReadChampionshipOnce(*id);
-  if (!championship_) return;
-  std::vector<StandingsRow> standings = Value(ReadStandings(folder_, *id, championship_->Teams));
+  if (!match_.Main) return;
+  std::vector<StandingsRow> standings = Value(ReadStandings(folder_, *id, match_.Main->Teams));
   const bool level = session.Side1.FinalGoals == session.Side2.FinalGoals;
   for (StandingsRow& row : standings) {
     const bool winner = row.Team == session.WinnerName;
@@ -76,7 +103,7 @@ void FileRecording::StoreResult(const MatchSession& session) {
       AddMatch(row, row.Lost, session.LoserGoals, session.WinnerGoals, 0);
     }
   }
-  changes_.push_back(ChangedStandings(*id, standings));
+  match_.Changes.push_back(ChangedStandings(*id, standings));
 }
 
 void FileRecording::StoreLeagueResult(const MatchSession& session) {
@@ -88,31 +115,43 @@ void FileRecording::StoreLeagueResult(const MatchSession& session) {
       SideResult(session.Side1, shootOut) + " vs " + SideResult(session.Side2, shootOut),
       "Venue: " + session.Venue, AttendanceText(session), "Winner: " + session.ResultText};
   ReadChampionshipOnce(*id);
-  changes_.push_back(Value(ChangedResults(folder_, *id, block)));
+  match_.Changes.push_back(Value(ChangedResults(folder_, *id, block)));
   FileChanges(session, *id);
-  const bool allWasRead = failure_.Ok();
-  TellFailure(desktop_, allWasRead ? ChangeFiles(folder_, changes_) : failure_);
-  championship_.reset();
-  changes_.clear();
-  failure_ = {};
-  if (allWasRead) selectAgain_(MainFileName(*id));  // Else nothing has changed, and the user has been told.
+  const bool isRecorded = TellFailure(desktop_, Record(session, *id));
+  match_ = {};
+  if (isRecorded) selectAgain_(MainFileName(*id));
+}
+
+/// Makes all that the match changes one change. Where that fails, nothing of the match stays.
+FileResult FileRecording::Record(const MatchSession& session, const ChampionshipId& id) {
+  FileResult result = std::move(match_.Failure);
+  if (result.Ok()) {
+    if (match_.ScorersArePutBy) match_.Changes.push_back({std::string(PutByName), {}});
+    result = ChangeFiles(folder_, match_.Changes);
+    if (result.Ok() || ChangesAreUnfinished(folder_)) return result;
+  }
+  const char* const kind = id.Kind == ChampionshipKind::League ? "league " : "knock-out ";
+  std::string told = "Match " + std::to_string(session.Setup.MatchNumber) + " of the " + kind + id.Name +
+                     " was not recorded and is still to be played. " + result.Failure;
+  if (const FileResult takenBack = TakeGoalsBack(); !takenBack.Ok()) told += " " + takenBack.Failure;
+  return {std::move(told)};
 }
 
 void FileRecording::FileChanges(const MatchSession& session, const ChampionshipId& id) {
-  if (!championship_) return;
+  if (!match_.Main) return;
   const MatchSetup& setup = session.Setup;
   // A team that came through by toss plays without the suffix, unless a team is really called so.
   const auto names = [&](const std::string& entry, const std::string& team) {
     return entry == team || (WithoutToss(entry) == team && !TeamExists(folder_, entry));
   };
-  for (Fixture& fixture : championship_->Fixtures) {
+  for (Fixture& fixture : match_.Main->Fixtures) {
     if (!names(fixture.Home, setup.Team1Name) || !names(fixture.Away, setup.Team2Name)) continue;
     fixture.Status = Played;
     fixture.Winner = session.ResultText;
   }
-  if (id.Kind == ChampionshipKind::KnockOut) Advance(*championship_, setup.MatchNumber, session.ResultText);
-  championship_->Id = id;  // Its file's name counts, whatever the file says meanwhile.
-  changes_.push_back(ChangedChampionship(*championship_));
+  if (id.Kind == ChampionshipKind::KnockOut) Advance(*match_.Main, setup.MatchNumber, session.ResultText);
+  match_.Main->Id = id;  // Its file's name counts, whatever the file says meanwhile.
+  match_.Changes.push_back(ChangedChampionship(*match_.Main));
 }
 
 }  // namespace kickwell

@@ -14,8 +14,9 @@
 
 namespace kickwell {
 
-/// Records in the championship's files. Each goal is saved as it falls. What the end of a match changes is
-/// saved all at once by StoreLeagueResult, or not at all. The user is told of failures.
+/// Records in the championship's files. Each goal is saved as it falls, and taken back if the match is left
+/// or cannot be recorded, at the latest by the next start of the program. What the end of a match changes is
+/// saved all at once by StoreLeagueResult, or not at all; then the user is told, once for each match.
 class FileRecording final : public Recording {
  public:
   /// Has the championship read again, which is named by its main file.
@@ -27,8 +28,12 @@ class FileRecording final : public Recording {
   void StoreScorer(const MatchSession& session) override;
   void StoreResult(const MatchSession& session) override;
   void StoreLeagueResult(const MatchSession& session) override;
+  void MatchLeft() override;
 
  private:
+  FileResult SaveGoals(const ChampionshipId& id);
+  FileResult TakeGoalsBack();
+  FileResult Record(const MatchSession& session, const ChampionshipId& id);
   void FileChanges(const MatchSession& session, const ChampionshipId& id);
   void ReadChampionshipOnce(const ChampionshipId& id);
   template <typename T>
@@ -38,10 +43,16 @@ class FileRecording final : public Recording {
   Desktop& desktop_;
   SelectAgain selectAgain_;
 
-  // Of the match being recorded.
-  std::optional<Championship> championship_;
-  std::vector<ChangedFile> changes_;
-  FileResult failure_;  ///< Why it cannot be recorded.
+  /// What there is to record of one match.
+  struct Recorded {
+    std::vector<ScorerRow> Goals;  ///< As they fell.
+    std::size_t SavedGoals = 0;    ///< How many of them the scorers' file holds.
+    bool ScorersArePutBy = false;
+    std::optional<Championship> Main;
+    std::vector<ChangedFile> Changes;
+    FileResult Failure;  ///< Why it cannot be recorded.
+  };
+  Recorded match_;
 };
 
 }  // namespace kickwell

@@ -37,6 +37,7 @@ Match::Match(ProgramFolder folder, Desktop& desktop, Random& random, Recording& 
     : folder_(std::move(folder)),
       desktop_(desktop),
       random_(random),
+      recording_(recording),
       announcement_(session_, random, recording),
       instant_(session_, random, announcement_, recording),
       simulation_(session_, random, desktop, recording),
@@ -147,7 +148,9 @@ void Match::ComSave_Click() {
 
 void Match::Command1_Click() {
   const Waiting question(waiting_);
-  if (desktop_.Ask("Do you really want to exit?", Enter::Yes)) session_.UserLeft = true;
+  if (!desktop_.Ask("Do you really want to exit?", Enter::Yes)) return;
+  session_.UserLeft = true;
+  recording_.MatchLeft();
 }
 
 }  // namespace kickwell

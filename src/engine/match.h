@@ -49,6 +49,7 @@ class Match {
   ProgramFolder folder_;
   Desktop& desktop_;
   Random& random_;
+  Recording& recording_;
   MatchSession session_;
   Announcement announcement_;
   Instant instant_;

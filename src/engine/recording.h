@@ -5,7 +5,8 @@
 
 namespace kickwell {
 
-/// Each call reads the session as it stands and records nothing for a friendly.
+/// Each call takes the session as it stands and records nothing for a friendly. Of a match that is left
+/// before its last call, nothing stays.
 class Recording {
  public:
   Recording() = default;
@@ -22,6 +23,9 @@ class Recording {
   /// The last of a match: the results log, the fixture's mark and, in a knock-out, the winner's way into the
   /// next round.
   virtual void StoreLeagueResult(const MatchSession& session) = 0;
+
+  /// The user leaves the match, be it over or not.
+  virtual void MatchLeft() = 0;
 };
 
 }  // namespace kickwell

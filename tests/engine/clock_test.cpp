@@ -144,6 +144,7 @@ TEST_F(ClockTest, LeavingInTheGoalPauseOfAGoldenGoalEndsNothingElse) {
   EXPECT_EQ(Session().Summary.Entries, Texts{"90:01 >> U5 (United)"});
   EXPECT_EQ(Session().Commentary.Text(), "It's celebration time");
   EXPECT_EQ(Session().BallX, 0);  // Not one draw more.
+  EXPECT_EQ(recording_.Calls, (Texts{"scorer U5 of United", "left"}));
 }
 
 }  // namespace

@@ -99,17 +99,21 @@ TEST_F(FileRecordingTest, AShootOutIsToldInTheResults) {
   ExpectFile("Tournies/Cup.lrs", "Match 1:\nRovers 1(9) vs United 1(10)\n" + crowd_ + "Winner: United\n");
 }
 
-TEST_F(FileRecordingTest, NothingIsRecordedOverAFileThatCannotBeRead) {
-  for (const char* unreadable : {"Leagues/Cup.leg", "Leagues/Cup.rec", "Leagues/Cup.lrs"}) {
+TEST_F(FileRecordingTest, NothingIsRecordedOverAFileThatCannotBeReadAndTheUserIsToldOnce) {
+  for (const char* unreadable :
+       {"Leagues/Cup.leg", "Leagues/Cup.rec", "Leagues/Cup.lrs", "Leagues/Cup.sco"}) {
     SCOPED_TRACE(unreadable);
     Write("Leagues/Cup.leg", "Cup\n2\nRovers\nUnited\n1\nNP\nRovers\nUnited\n");
     Write(unreadable, "x");
     const auto before = folder_.Files.All();
     folder_.Files.Unreadable = {folder_ / unreadable};
-    Play(MatchMode::League, 1, 0);
+    for (const char* scorer : {"Ann", "Bo"}) Score(MatchMode::League, scorer, "Rovers");
+    Play(MatchMode::League, 2, 0);
     EXPECT_EQ(folder_.Files.All(), before);
     EXPECT_EQ(desktop_.Taken(),
-              Texts{"!: The file " + (folder_ / unreadable).string() + " can't be read: Permission denied."});
+              Texts{"!: Match 1 of the league Cup was not recorded and is still to be "
+                    "played. The file " +
+                    (folder_ / unreadable).string() + " can't be read: Permission denied."});
     for (const char* file : {"Leagues/Cup.rec", "Leagues/Cup.lrs"}) Remove(file);
   }
 }

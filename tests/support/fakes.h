@@ -59,6 +59,7 @@ class FakeRecording : public Recording {
   void StoreLeagueResult(const MatchSession& s) override {
     Calls.push_back((s.DecidedByShootOut ? "shoot-out " : "result ") + s.ResultText);
   }
+  void MatchLeft() override { Calls.emplace_back("left"); }
 
   Texts Calls;
 };

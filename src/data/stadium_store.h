@@ -9,8 +9,11 @@
 
 namespace kickwell {
 
+/// The home team of a stadium that is nobody's home.
+inline constexpr const char* NoHomeTeam = "Neutral";
+
 struct Stadium {
-  std::string HomeTeam;  ///< A team's name, or "Neutral".
+  std::string HomeTeam;  ///< A team's name, or NoHomeTeam.
   std::string Name;
   std::string City;
   std::string Capacity;  ///< A whole number 1..99999 as it was entered.

@@ -16,7 +16,7 @@ StadEditor::StadEditor(ProgramFolder folder, Desktop& desktop)
 }
 
 void StadEditor::Form_Load() {
-  Combo1 = {{"Neutral"}, 0};
+  Combo1 = {{NoHomeTeam}, 0};
   for (std::string& team : ListTeams(folder_)) Combo1.Add(std::move(team));
   auto [stadiums, result] = LoadStadiums(folder_);
   stadiums_ = std::move(stadiums);

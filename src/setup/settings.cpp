@@ -35,6 +35,7 @@ void Settings::Form_Load() {
     Combo3.Add(stadium.Name);
     Combo7.Add(stadium.City);
     Combo6.Add(stadium.Capacity);
+    HomeTeams.push_back(stadium.HomeTeam);
   }
   Combo1.Entries = Combo2.Entries = ListTeams(folder_);
   if (Combo1.Count() >= 2) {

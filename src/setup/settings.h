@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "base/desktop.h"
 #include "base/item_list.h"
@@ -31,12 +33,13 @@ class Settings {
   void Command1_Click();
   void Command2_Click() { Closed = true; }
 
-  ItemList Combo1, Combo2;          ///< Own team and opposition.
-  ItemList Combo3, Combo7, Combo6;  ///< Names, cities and capacities of the stadiums, in step.
-  ItemList Combo5;                  ///< Weather.
-  ItemList Combo4;                  ///< Simulation type.
-  bool Check1 = false;              ///< Extra time.
-  bool Check2 = false;              ///< Penalty shoot-out.
+  ItemList Combo1, Combo2;             ///< Own team and opposition.
+  ItemList Combo3, Combo7, Combo6;     ///< Names, cities and capacities of the stadiums, in step.
+  std::vector<std::string> HomeTeams;  ///< Of the stadiums, in step; NoHomeTeam for a neutral ground.
+  ItemList Combo5;                     ///< Weather.
+  ItemList Combo4;                     ///< Simulation type.
+  bool Check1 = false;                 ///< Extra time.
+  bool Check2 = false;                 ///< Penalty shoot-out.
   bool Check2Enabled = false;
   bool Closed = false;
 

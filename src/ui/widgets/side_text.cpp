@@ -12,7 +12,7 @@ namespace {
 
 constexpr int Gap = 12;        ///< Between the text and the side text, in pixels.
 constexpr int Margin = 4;      ///< Between the side text and the edge.
-constexpr int UsualText = 20;  ///< A longer text asks for no more room, so that rows seldom scroll sideways.
+constexpr int UsualText = 30;  ///< A longer text asks for no more room, so that rows seldom scroll sideways.
 
 QPalette::ColorGroup GroupOf(QStyle::State state) {
   if (!state.testFlag(QStyle::State_Enabled)) return QPalette::Disabled;
@@ -33,7 +33,8 @@ void SideTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
   const QStyle* const style = entry.widget != nullptr ? entry.widget->style() : QApplication::style();
   const QRect room = style->subElementRect(QStyle::SE_ItemViewItemText, &entry, entry.widget)
                          .adjusted(Margin, 0, -Margin, 0);
-  const QString side = entry.fontMetrics.elidedText(whole, Qt::ElideRight, room.width() / 2);
+  const int free = room.width() - entry.fontMetrics.horizontalAdvance(entry.text) - Gap;
+  const QString side = entry.fontMetrics.elidedText(whole, Qt::ElideRight, std::max(room.width() / 2, free));
   const int left = room.width() - entry.fontMetrics.horizontalAdvance(side) - Gap;
   entry.text = entry.fontMetrics.elidedText(entry.text, Qt::ElideRight, left);
   style->drawControl(QStyle::CE_ItemViewItem, &entry, painter, entry.widget);
@@ -51,8 +52,9 @@ QSize SideTextDelegate::sizeHint(const QStyleOptionViewItem& option, const QMode
   QSize size = QStyledItemDelegate::sizeHint(option, index);
   const QString side = index.data(SideTextRole).toString();
   if (side.isEmpty()) return size;
-  const int text = std::min(size.width(), UsualText * option.fontMetrics.averageCharWidth());
-  size.setWidth(text + Gap + option.fontMetrics.horizontalAdvance(side) + Margin);
+  const int usual = UsualText * option.fontMetrics.averageCharWidth();
+  const int beside = std::min(usual, option.fontMetrics.horizontalAdvance(side));
+  size.setWidth(std::min(size.width(), usual) + Gap + beside + 2 * Margin);
   return size;
 }
 

@@ -123,7 +123,7 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   return box;
 }
 
-QLabel* SelectionWindow::MakeTwiceMark(const QString& name, const QString& player) const {
+QLabel* SelectionWindow::MakeTwiceMark(QAnyStringView name, const QString& player) const {
   const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
   auto* const mark = new QLabel;
   mark->setObjectName(name);

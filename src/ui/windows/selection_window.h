@@ -34,7 +34,7 @@ class SelectionWindow final : public ScreenWindow {
   using Pick = void (Selection::*)(int slot, int entry);
 
   QWidget* BuildSide(Column& column, int side, const QString& team, Pick pick);
-  QLabel* MakeTwiceMark(const QString& name, const QString& player) const;
+  QLabel* MakeTwiceMark(QAnyStringView name, const QString& player) const;
   QWidget* BuildFigures(Column& column, int side, const QString& team);
   static void ShowSide(const Column& column, const LineUp& lineUp);
   static void ShowSlot(const Column& column, const LineUp& lineUp, int slot);

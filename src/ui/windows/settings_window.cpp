@@ -1,13 +1,18 @@
 #include "ui/windows/settings_window.h"
 
+#include <QAbstractItemView>
 #include <QGridLayout>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
+#include "base/at.h"
+#include "data/stadium_store.h"
 #include "ui/text.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/scale.h"
+#include "ui/widgets/side_text.h"
 #include "ui/widgets/text_label.h"
 
 namespace kickwell {
@@ -47,6 +52,7 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   OnPick(combo4_, [this](int entry) { settings_.Combo4_Click(entry); });
   OnPick(combo5_, [this](int entry) { settings_.Combo5_Click(entry); });
   Refresh();
+  TellStadiums();
   OpenAt(560, 0);
 }
 
@@ -62,6 +68,21 @@ QLayout* SettingsWindow::BuildDeciders() {
   connect(check1_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check1_Click(on); }); });
   connect(check2_, &QCheckBox::clicked, this, [this](bool on) { Act([&] { settings_.Check2_Click(on); }); });
   return deciders;
+}
+
+/// Shows city and home team beside each stadium on offer.
+void SettingsWindow::TellStadiums() {
+  combo3_->setItemDelegate(new SideTextDelegate(combo3_));
+  for (int i = 0; i < combo3_->count(); ++i) {
+    const QString city = Shown(At(settings_.Combo7.Entries, i));
+    const std::string& team = At(settings_.HomeTeams, i);
+    const bool neutral = team == NoHomeTeam;
+    combo3_->setItemData(i, neutral ? city : city + QStringLiteral(" \u00B7 ") + Shown(team), SideTextRole);
+    const QString told = combo3_->itemText(i) + ", " + city;
+    combo3_->setItemData(i, neutral ? told : told + ", home of " + Shown(team), Qt::AccessibleTextRole);
+  }
+  QAbstractItemView* const offers = combo3_->view();
+  offers->setMinimumWidth(offers->sizeHintForColumn(0) + style()->pixelMetric(QStyle::PM_ScrollBarExtent));
 }
 
 void SettingsWindow::Refresh() {

@@ -19,6 +19,7 @@ class SettingsWindow final : public ScreenWindow {
 
  private:
   QLayout* BuildDeciders();
+  void TellStadiums();
 
   Settings& settings_;
   QComboBox *combo1_, *combo2_, *combo3_, *combo4_, *combo5_;

@@ -30,6 +30,7 @@ void LegEditor::AddTeam_Click(EditorSide& side) {
   if (side.Available.Picked == ItemList::None) return;
   const std::string team = side.Available.Text();
   for (ItemList* list : {&side.Selected, &side.Home, &side.Away}) list->Insert(team, ListedBefore);
+  side.Selected.Picked = side.Selected.PlaceOf(team);
   side.Available.RemoveAt(side.Available.Picked);
   side.Available.PickFirst();
 }
@@ -57,6 +58,7 @@ void LegEditor::ClearFixtures(EditorSide& side) {
 
 void LegEditor::AddFixture(EditorSide& side, Pairing fixture) {
   side.FixtureList.Add(FixtureText(side.FixtureList.Count() + 1, fixture));
+  side.FixtureList.PickLast();
   side.Table.push_back(std::move(fixture));
 }
 
@@ -81,6 +83,7 @@ void LegEditor::AutoFixtures_Click(EditorSide& side) {
   for (Pairing& fixture : league ? LeagueFixture(teams, random_) : KnockOutFixture(teams, random_)) {
     AddFixture(side, std::move(fixture));
   }
+  side.FixtureList.PickFirst();
 }
 
 void LegEditor::AddFixture_Click() {
@@ -108,10 +111,12 @@ bool LegEditor::MayBeSaved(const EditorSide& side) {
   } else if (side.Table.empty() || !complete) {
     desktop_.Inform("Please add the championship fixtures properly");
   } else if (side.Name.empty()) {
+    Next = side.IsLeague() ? "LeagueName" : "KnockOutName";
     desktop_.Inform("Please enter a name for the championship");
   } else if (side.IsLeague() && side.Selected.Count() > MostTeamsOfLeague) {
     desktop_.Inform("A league can have at most " + std::to_string(MostTeamsOfLeague) + " teams");
   } else if (!IsFileName(side.Name)) {
+    Next = side.IsLeague() ? "LeagueName" : "KnockOutName";
     desktop_.Warn(FileNameRefusal(side.Name));
   } else {
     return true;
@@ -133,8 +138,9 @@ void LegEditor::Save_Click(EditorSide& side) {
     championship.Fixtures.push_back({NotPlayed, fixture.Home, fixture.Away, WinnerPlaceholder(number)});
   }
   if (known) {
-    TellFailure(desktop_, ReplaceChampionship(folder_, championship));
+    if (TellFailure(desktop_, ReplaceChampionship(folder_, championship))) side.MarkSaved();
   } else if (TellFailure(desktop_, WriteChampionship(folder_, championship))) {
+    side.MarkSaved();
     side.Load.Add(MainFileName(id));
     Load_Click(side, side.Load.Count() - 1);
   }
@@ -155,10 +161,13 @@ void LegEditor::Load_Click(EditorSide& side, int entry) {
     std::erase(side.Available.Entries, team);
   }
   side.Available.PickFirst();
+  side.Selected.PickFirst();
   side.Home = side.Away = {side.Selected.Entries};
   side.NumberOfTeams = KnockOutSizeWithin(side.Selected.Count());
   for (const Fixture& fixture : loaded->Fixtures) AddFixture(side, {fixture.Home, fixture.Away});
+  side.FixtureList.PickFirst();
   side.ManualEntry = true;
+  side.MarkSaved();
 }
 
 void LegEditor::Delete_Click(EditorSide& side) {

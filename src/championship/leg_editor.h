@@ -19,6 +19,10 @@ struct EditorSide {
 
   bool IsLeague() const { return Kind == ChampionshipKind::League; }
 
+  /// Whether the name, the teams or the fixtures differ from what was loaded or saved last.
+  bool IsUnsaved() const { return Saved != Content{Name, Selected.Entries, Table}; }
+  void MarkSaved() { Saved = {Name, Selected.Entries, Table}; }
+
   ChampionshipKind Kind;
   std::string Name;              ///< In the name box, at most 20 characters.
   ItemList Available, Selected;  ///< Team lists, alphabetical ignoring letter case.
@@ -29,6 +33,15 @@ struct EditorSide {
   ItemList Home, Away;       ///< League only: the selected teams.
   bool ManualEntry = false;  ///< League only: the next hand-made fixture joins the list.
   int NumberOfTeams = 2;     ///< Knock-out only: the chosen number, 2, 4, 8 or 16.
+
+  struct Content {
+    std::string Name;
+    std::vector<std::string> Teams;
+    std::vector<Pairing> Fixtures;
+
+    bool operator==(const Content&) const = default;
+  };
+  Content Saved;  ///< What was loaded or saved last.
 };
 
 class LegEditor {
@@ -51,9 +64,12 @@ class LegEditor {
   void FewerTeams_Click();  ///< Halves it, down to 2.
   void Exit_Click() { Closed = true; }
 
+  bool IsUnsaved() const { return League.IsUnsaved() || KnockOut.IsUnsaved(); }
+
   ItemList Kind;  ///< "League Championship" or "Knock Out Championship".
   EditorSide League{ChampionshipKind::League};
   EditorSide KnockOut{ChampionshipKind::KnockOut};
+  std::string Next;  ///< The box to type in after an action; empty for where the user is.
   bool Closed = false;
 
  private:

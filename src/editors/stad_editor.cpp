@@ -43,12 +43,16 @@ bool StadEditor::Save(std::vector<Stadium> stadiums) {
 void StadEditor::Command2_Click() {
   const auto isNamed = [this](const Stadium& stadium) { return stadium.Name == Text1; };
   if (Text1.empty() || Text2.empty() || Text3.empty()) {
+    Next = Text1.empty() ? "Text1" : Text2.empty() ? "Text2" : "Text3";
     desktop_.Warn("Please enter all the Stadium Details properly.");
   } else if (!IsNumber(Text3)) {
+    Next = "Text3";
     desktop_.Warn("Please enter a numerical value for Capacity.");
   } else if (ToNumber(Text3) <= 0) {
+    Next = "Text3";
     desktop_.Warn("Please enter a capacity value from 1 to 99999.");
   } else if (std::ranges::any_of(stadiums_, isNamed)) {
+    Next = "Text1";
     desktop_.Inform(Text1 + " already exists");
   } else if (desktop_.Ask("Are you sure you want to add this stadium?", Enter::Yes)) {
     std::vector<Stadium> more = stadiums_;
@@ -57,6 +61,7 @@ void StadEditor::Command2_Click() {
     Text1.clear();
     Text2.clear();
     Text3.clear();
+    Next = "Text1";
     Combo1.Picked = 0;
     ShowStadiums(static_cast<int>(stadiums_.size()) - 1);
   }

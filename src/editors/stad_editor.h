@@ -29,6 +29,7 @@ class StadEditor {
   ItemList List1;                   ///< Stadiums by name, in the order of the file.
   ItemList Combo1;                  ///< "Neutral" and all teams.
   std::string Text1, Text2, Text3;  ///< Name, city and capacity of a new stadium.
+  std::string Next;                 ///< The box to type in after an action; empty for where the user is.
   bool Closed = false;
 
  private:

@@ -60,30 +60,31 @@ const Player* TeamEditor::Selected() const {
   return List1.Picked == ItemList::None ? nullptr : &At(team_.Players, List1.Picked);
 }
 
-bool TeamEditor::SkillIsFine(const std::string& skill) {
-  if (!IsNumber(skill)) {
-    desktop_.Warn("Please enter a numerical value for Skill.");
-  } else if (ToNumber(skill) <= 0) {
-    desktop_.Warn("Please enter a skill value from 1 to 99.");
-  } else {
-    return true;
-  }
+/// Whether the skill in the box `control` is fine; refuses it otherwise.
+bool TeamEditor::SkillIsFine(const std::string& skill, const char* control) {
+  if (IsNumber(skill) && ToNumber(skill) > 0) return true;
+  Next = control;
+  desktop_.Warn(IsNumber(skill) ? "Please enter a skill value from 1 to 99."
+                                : "Please enter a numerical value for Skill.");
   return false;
 }
 
 void TeamEditor::Command7_Click() {
   const std::string name = Text1;
   if (name.empty() || Text5.empty()) {
+    Next = name.empty() ? "Text1" : "Text5";
     desktop_.Warn("Please enter all the Team Details properly.");
     return;
   }
-  if (!SkillIsFine(Text5)) return;
+  if (!SkillIsFine(Text5, "Text5")) return;
   // Where file names ignore letter case, a team that is not in the list can still be there.
   if (Combo3.PlaceOf(name) != ItemList::None || TeamExists(folder_, name)) {
+    Next = "Text1";
     desktop_.Inform(name + " already exists");
     return;
   }
   if (!IsFileName(name)) {
+    Next = "Text1";
     desktop_.Warn(FileNameRefusal(name));
     return;
   }
@@ -94,17 +95,20 @@ void TeamEditor::Command7_Click() {
     TellFailure(desktop_, AppendStandings(folder_, {ChampionshipKind::League, league_}, name));
   Text1.clear();
   Text5.clear();
+  Next = "Text2";
   Combo3_Click(Combo3.Count() - 1);
 }
 
 void TeamEditor::Command8_Click() {
   if (Combo3.Picked == ItemList::None) return;
   if (Text2.empty() || Text4.empty()) {
+    Next = Text2.empty() ? "Text2" : "Text4";
     desktop_.Warn("Please enter all the Player Details properly.");
     return;
   }
-  if (!SkillIsFine(Text4)) return;
+  if (!SkillIsFine(Text4, "Text4")) return;
   if (List1.PlaceOf(Text2) != ItemList::None) {
+    Next = "Text2";
     desktop_.Inform(Text2 + " already exists");
     return;
   }
@@ -115,6 +119,7 @@ void TeamEditor::Command8_Click() {
   if (!Save(std::move(more), List1.Count())) return;
   Text2.clear();
   Text4.clear();
+  Next = "Text2";
   PresetPosition();
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "base/desktop.h"
 #include "base/item_list.h"
@@ -35,11 +36,14 @@ class TeamEditor {
   std::string Label4() const { return Selected() == nullptr ? "" : Selected()->Skill; }
   std::string Label5() const { return Selected() == nullptr ? "" : Selected()->Position; }
 
+  const std::vector<Player>& Players() const { return team_.Players; }
+
   ItemList Combo3;           ///< Teams.
   ItemList List1;            ///< The squad's names.
   ItemList Combo1, Combo2;   ///< Line and side of a new player.
   std::string Text1, Text5;  ///< Name and skill of a new team.
   std::string Text2, Text4;  ///< Name and skill of a new player.
+  std::string Next;          ///< The box to type in after an action; empty for where the user is.
   bool Closed = false;
 
  private:
@@ -48,7 +52,7 @@ class TeamEditor {
   void ShowSquad(int selected);
   bool Save(Team changed, int selected);
   void Move(int direction);
-  bool SkillIsFine(const std::string& skill);
+  bool SkillIsFine(const std::string& skill, const char* control);
   const Player* Selected() const;
 
   ProgramFolder folder_;

@@ -1,5 +1,7 @@
 #include "ui/text.h"
 
+#include <map>
+
 namespace kickwell {
 namespace {
 
@@ -20,6 +22,21 @@ QString Shown(std::string_view text) {
     }
   }
   return shown;
+}
+
+QString PositionWords(std::string_view code) {
+  static const std::map<std::string_view, QString> words{
+      {"GK", "Goalkeeper"}, {"DF", "Defender"}, {"MF", "Midfielder"}, {"FD", "Forward"},
+      {"L", "Left"},        {"R", "Right"},     {"C", "Centre"}};
+  const auto word = [](std::string_view part) {
+    const auto found = words.find(part);
+    return found == words.end() ? QString() : found->second;
+  };
+  if (code.size() != 3) return word(code);
+  const std::string_view line = code.substr(0, 2);
+  const QString side = word(code.substr(2));
+  const bool known = line != "GK" && !word(line).isEmpty() && !side.isEmpty();
+  return known ? word(line) + ", " + side.toLower() : QString();
 }
 
 QString ArrayName(const char* name, int index) {

@@ -14,6 +14,10 @@ inline QString ToQt(std::string_view text) {
 /// U+FFFD replaces characters that would reverse the text next to them.
 QString Shown(std::string_view text);
 
+/// What a position code or its line or side means, for example "Defender, left" for "DFL" and "Left" for "L".
+/// Empty for any other text.
+QString PositionWords(std::string_view code);
+
 /// The object name of member `index` of a control array, for example "Post1(0)".
 QString ArrayName(const char* name, int index);
 

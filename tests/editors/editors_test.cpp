@@ -116,8 +116,8 @@ TEST_F(EditorsTest, PlayersAreDeletedDownToElevenOrFromFewerToNone) {
   EXPECT_EQ(OpenTeams().List1.PlaceOf("A1"), ItemList::None);
   editor.Command6_Click();
   EXPECT_EQ(desktop_.Taken(),
-            (Texts{"? (No): Are you sure you want to delete A1?", "? (No): Are you sure you want to delete A1?",
-                   "!: You can't delete any more players."}));
+            (Texts{"? (No): Are you sure you want to delete A1?",
+                   "? (No): Are you sure you want to delete A1?", "!: You can't delete any more players."}));
   ASSERT_TRUE(SaveTeam(folder_.Folder, {"A", "75", {{"X", "1", "GK"}}}).Ok());
   TeamEditor few = OpenTeams();
   few.Command6_Click();
@@ -144,9 +144,9 @@ TEST_F(EditorsTest, StadiumsAreAddedAndRemovedDownToOne) {
   EXPECT_FALSE(Exists("settings.cfg"));
   EXPECT_EQ(editor.List1.Text(), "Mill");
   editor.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(),
-            (Texts{"? (No): Are you sure you want to remove Bowl?", "? (No): Are you sure you want to remove Bowl?",
-                   "!: You can't delete any more stadium."}));
+  EXPECT_EQ(desktop_.Taken(), (Texts{"? (No): Are you sure you want to remove Bowl?",
+                                     "? (No): Are you sure you want to remove Bowl?",
+                                     "!: You can't delete any more stadium."}));
 }
 
 TEST_F(EditorsTest, AFileThatCannotBeReadIsReportedOnceAndKept) {
@@ -166,6 +166,19 @@ TEST_F(EditorsTest, AFileThatCannotBeReadIsReportedOnceAndKept) {
   folder_.Files.Unreadable.clear();
   AddStadium(stadiums, "Park", "5");
   EXPECT_EQ(Bytes("stadiums.sim"), stadiumList);
+}
+
+TEST_F(EditorsTest, ADeletedTeamDoesNotComeBack) {
+  AddTeams({"C"});
+  TeamEditor editor = OpenTeams();
+  editor.Combo3_Click(1);
+  Remove("Teams/A");
+  editor.Command5_Click();  // B goes, and A can't take its place.
+  AddPlayer(editor, "Ann", "5");
+  editor.Command1_Click();
+  editor.Command6_Click();
+  EXPECT_EQ(editor.List1.Count(), 0);
+  EXPECT_EQ(ListTeams(folder_.Folder), Texts{"C"});
 }
 
 TEST_F(EditorsTest, WhatCannotBeSavedIsNotShown) {

@@ -69,11 +69,20 @@ void Name(QComboBox* combo, const QString& name) {
   combo->setAccessibleDescription(name);
 }
 
+SteadyList::SteadyList(const QString& objectName) {
+  setObjectName(objectName);
+  setUniformItemSizes(true);
+}
+
+QItemSelectionModel::SelectionFlags SteadyList::selectionCommand(const QModelIndex& index,
+                                                                 const QEvent* event) const {
+  const QItemSelectionModel::SelectionFlags command = QListWidget::selectionCommand(index, event);
+  const bool last = selectedIndexes().size() == 1;
+  return command.testFlag(QItemSelectionModel::Deselect) && last ? QItemSelectionModel::NoUpdate : command;
+}
+
 QListWidget* MakeList(const QString& objectName) {
-  auto* const list = new QListWidget;
-  list->setObjectName(objectName);
-  list->setUniformItemSizes(true);
-  return list;
+  return new SteadyList(objectName);
 }
 
 void ShowChooser(QComboBox* combo, const ItemList& chooser) {

@@ -17,7 +17,16 @@ QComboBox* MakeCombo(const QString& objectName);
 /// entry in place of the name, so the description repeats the name.
 void Name(QComboBox* combo, const QString& name);
 
-/// A list of entries of one height.
+/// A list of entries of one height. What is selected stays selected until something else is.
+class SteadyList : public QListWidget {
+ public:
+  explicit SteadyList(const QString& objectName);
+
+ protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
+};
+
 QListWidget* MakeList(const QString& objectName);
 
 /// Makes `combo` show `chooser`. Only a user's own pick emits `activated`.

@@ -1,6 +1,7 @@
 #include "ui/widgets/labels.h"
 
 #include <QFontInfo>
+#include <algorithm>
 
 #include "ui/text.h"
 #include "ui/widgets/accessible.h"
@@ -61,6 +62,12 @@ QVBoxLayout* Captioned(const QString& text, QWidget* control) {
   group->addWidget(MakeCaption(text, control));
   group->addWidget(control);
   return group;
+}
+
+void AlignCaptions(const QList<QLabel*>& captions) {
+  int widest = 0;
+  for (const QLabel* const caption : captions) widest = std::max(widest, caption->sizeHint().width());
+  for (QLabel* const caption : captions) caption->setMinimumWidth(widest);
 }
 
 QLabel* MakeFigureCaption(const QString& text, QLabel* figure) {

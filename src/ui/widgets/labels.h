@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QList>
 #include <QString>
 #include <QVBoxLayout>
 
@@ -29,6 +30,9 @@ QLabel* MakeCaption(const QString& text, QWidget* buddy);
 
 /// A bold caption above `control`, which it names to screen readers.
 QVBoxLayout* Captioned(const QString& text, QWidget* control);
+
+/// Gives all captions the width of the widest, so that what stands beside them is aligned.
+void AlignCaptions(const QList<QLabel*>& captions);
 
 /// A caption for `figure`, which screen readers announce with it.
 QLabel* MakeFigureCaption(const QString& text, QLabel* figure);

@@ -1,29 +1,49 @@
 #include "ui/widgets/section.h"
 
-#include <QLineEdit>
+#include <QKeyEvent>
 
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
+#include "ui/widgets/scale.h"
 
 namespace kickwell {
 
-Section::Section(const QString& title) : Box(new QGroupBox(title)), Form(new QFormLayout(Box)) {
-  Form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+Section::Section(const QString& title) : QGroupBox(title), form_(new QFormLayout(this)) {
+  form_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  form_->setContentsMargins(BetweenGroups, BetweenGroups, BetweenGroups, BetweenGroups);
+  form_->setHorizontalSpacing(BetweenColumns);
+  form_->setVerticalSpacing(InGroup);
 }
 
 void Section::Add(const QString& caption, QWidget* control) {
-  Form->addRow(MakeCaption(caption, control), control);
+  captions_.append(MakeCaption(caption, control));
+  form_->addRow(captions_.last(), control);
   // Captions are the same in several sections, so the section is part of the name.
-  const QString name = Box->title() + ", " + control->accessibleName();
+  const QString name = title() + ", " + control->accessibleName();
   control->setAccessibleName(name);
   if (auto* const combo = qobject_cast<QComboBox*>(control)) Name(combo, name);
 }
 
+void Section::AddFigure(const QString& caption, QLabel* figure) {
+  form_->addRow(MakeFigureCaption(caption, figure), figure);
+}
+
+void Section::AddWide(QWidget* widget) {
+  form_->addRow(widget);
+}
+
 void Section::AddButton(QPushButton* button) {
-  for (const QLineEdit* const box : Box->findChildren<QLineEdit*>()) {
-    QObject::connect(box, &QLineEdit::returnPressed, button, &QPushButton::click);
-  }
-  Form->addRow(button);
+  button_ = button;
+  auto* const row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(button);
+  form_->addRow(row);
+}
+
+void Section::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter || button_ == nullptr) return QGroupBox::keyPressEvent(event);
+  button_->click();
 }
 
 }  // namespace kickwell

@@ -3,22 +3,34 @@
 
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QLabel>
+#include <QList>
 #include <QPushButton>
 #include <QString>
 
 namespace kickwell {
 
 /// A box with a title, its captions in a column.
-struct Section {
+class Section final : public QGroupBox {
+ public:
   explicit Section(const QString& title);
 
   void Add(const QString& caption, QWidget* control);  ///< The caption names the control to screen readers.
+  void AddFigure(const QString& caption, QLabel* figure);  ///< The caption is announced with the figure.
+  void AddWide(QWidget* widget);                           ///< Over both columns.
 
-  /// Adds the section's button. Enter in a text box of the section presses it.
+  const QList<QLabel*>& Captions() const { return captions_; }  ///< Of the controls added.
+
+  /// Adds the section's button. Enter anywhere in the section presses it.
   void AddButton(QPushButton* button);
 
-  QGroupBox* Box;
-  QFormLayout* Form;
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  QFormLayout* form_;
+  QList<QLabel*> captions_;
+  QPushButton* button_ = nullptr;
 };
 
 }  // namespace kickwell

@@ -7,11 +7,23 @@
 
 namespace kickwell {
 
-/// A text box that keeps `text` in step with what the user types: at most `length` characters, counted as a
-/// reader would. Line breaks and other control characters in pasted text become blanks.
-QLineEdit* MakeTextBox(const QString& objectName, int length, std::string& text);
+/// A text box that keeps a text in step with what the user types: at most `length` characters, counted as a
+/// reader would. Where more was typed or pasted the box says so, until there is room again. Line breaks and
+/// other control characters in pasted text become blanks.
+class TextBox final : public QLineEdit {
+ public:
+  TextBox(const QString& objectName, int length, std::string& text);
 
-/// Shows `text`. The cursor does not move if the box shows it already.
-void ShowText(QLineEdit* box, const std::string& text);
+  /// Shows the text. The cursor does not move if the box shows it already.
+  void ShowText();
+
+ private:
+  void Keep(const QString& typed);
+  void TellCut(bool cut);
+
+  int length_;
+  std::string& text_;
+  QAction* cutSign_;  ///< Visible while something is missing.
+};
 
 }  // namespace kickwell

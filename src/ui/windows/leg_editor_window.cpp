@@ -1,15 +1,13 @@
 #include "ui/windows/leg_editor_window.h"
 
-#include <QFrame>
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QShortcut>
 #include <utility>
 
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/scale.h"
-#include "ui/widgets/text_box.h"
 
 namespace kickwell {
 namespace {
@@ -20,11 +18,25 @@ bool IsLeague(const EditorSide& side) {
   return side.Kind == ChampionshipKind::League;
 }
 
-QFrame* Line() {
-  auto* const line = new QFrame;
-  line->setFrameShape(QFrame::HLine);
-  line->setFrameShadow(QFrame::Sunken);
-  return line;
+template <typename Layout>
+Layout* Spaced(Layout* layout, int spacing) {
+  layout->setSpacing(spacing);
+  return layout;
+}
+
+/// A caption and the control beside it, which takes the rest of the row.
+QLayout* Beside(QLabel* caption, QWidget* control) {
+  auto* const row = Spaced(new QHBoxLayout, BetweenColumns);
+  row->addWidget(caption);
+  row->addWidget(control, 1);
+  return row;
+}
+
+QLayout* Figure(const QString& caption, QLabel* figure) {
+  auto* const row = Spaced(new QHBoxLayout, InGroup);
+  row->addWidget(MakeFigureCaption(caption, figure));
+  row->addWidget(figure);
+  return row;
 }
 
 }  // namespace
@@ -32,18 +44,19 @@ QFrame* Line() {
 LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
     : ScreenWindow("LegEditor", "Kickwell Championship Editor", parent),
       editor_(editor),
-      kind_(MakeCombo("Kind")) {
-  auto* const kind = new QHBoxLayout;
+      kind_(MakeCombo("Kind")),
+      exit_(Button("Exit", "E&xit Kickwell Championship Editor", [this] { editor_.Exit_Click(); })) {
+  auto* const kind = Spaced(new QHBoxLayout, BetweenColumns);
   kind->addWidget(MakeCaption("Type of Competition / Championship:", kind_));
   kind->addWidget(kind_);
   kind->addStretch();
   OnPick(kind_, [this](int entry) { editor_.Kind_Click(entry); });
 
+  Page()->addWidget(Enlarged(MakeCaption("Championship"), HeadingType));
   Page()->addLayout(kind);
   Page()->addWidget(BuildSide(league_, editor.League), 1);
   Page()->addWidget(BuildSide(knockOut_, editor.KnockOut), 1);
-  SetButtons(
-      {.Right = {Button("Exit", "E&xit Kickwell Championship Editor", [this] { editor_.Exit_Click(); })}});
+  SetButtons({.Left = {league_.Files, knockOut_.Files}, .Right = {exit_}});
   Refresh();
   OpenAt(900, 640);
 }
@@ -53,35 +66,43 @@ void LegEditorWindow::OnSelect(QListWidget* list, ItemList& chooser) {
           [list, &chooser] { chooser.Picked = SelectedRow(list); });
 }
 
+/// A double click or Enter on an entry does what `move` does.
+void LegEditorWindow::OnActivate(QListWidget* list, QPushButton* move) {
+  connect(list, &QListWidget::itemDoubleClicked, move, &QPushButton::click);
+  for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* const key = new QShortcut(enter, list);
+    key->setContext(Qt::WidgetShortcut);
+    connect(key, &QShortcut::activated, move, &QPushButton::click);
+  }
+}
+
 QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   const QString prefix = IsLeague(side) ? "League" : "KnockOut";
   widgets.Page = new QWidget;
   widgets.Page->setObjectName(prefix);
-  widgets.Name = MakeTextBox(prefix + "Name", LongestName, side.Name);
-  widgets.Name->setMinimumWidth(widgets.Name->fontMetrics().horizontalAdvance(QString(LongestName, 'M')));
+  widgets.Name = new TextBox(prefix + "Name", LongestName, side.Name);
+  widgets.Load = MakeCombo(prefix + "Load");
+  widgets.Name->setMinimumHeight(widgets.Load->sizeHint().height());  // Their rows stand side by side.
+  OnPick(widgets.Load, [this, &side](int entry) { editor_.Load_Click(side, entry); });
 
-  QLabel* const heading =
-      Enlarged(MakeCaption(IsLeague(side) ? "League Details" : "Tournie Details"), HeadingType);
-  auto* const name = new QHBoxLayout;
-  name->addWidget(MakeCaption("Championship"));
-  name->addSpacing(BetweenColumns);
-  name->addWidget(MakeCaption(IsLeague(side) ? "League:" : "Knock Out:", widgets.Name));
+  auto* const teams = Spaced(new QVBoxLayout, BetweenGroups);
+  teams->addLayout(
+      Beside(MakeCaption(IsLeague(side) ? "League:" : "Knock Out:", widgets.Name), widgets.Name));
   widgets.Name->setAccessibleName(IsLeague(side) ? "Championship League" : "Championship Knock Out");
-  name->addWidget(widgets.Name);
-  name->addStretch();
+  teams->addLayout(BuildTeams(widgets, side, prefix), 1);
+  auto* const fixtures = Spaced(new QVBoxLayout, BetweenGroups);
+  widgets.LoadCaption = MakeCaption("Open / Load", widgets.Load);
+  fixtures->addLayout(Beside(widgets.LoadCaption, widgets.Load));
+  fixtures->addLayout(BuildFixtures(widgets, side, prefix), 1);
+  auto* const columns = Spaced(new QHBoxLayout, 2 * BetweenColumns);
+  columns->addLayout(teams, 1);
+  columns->addLayout(fixtures, 1);
 
-  auto* const columns = new QHBoxLayout;
-  columns->setSpacing(BetweenColumns);
-  columns->addLayout(BuildTeams(widgets, side, prefix), 1);
-  columns->addLayout(BuildFixtures(widgets, side, prefix), 1);
-  auto* const layout = new QVBoxLayout(widgets.Page);
+  auto* const layout = Spaced(new QVBoxLayout(widgets.Page), BetweenGroups);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(heading);
-  layout->addLayout(name);
+  layout->addWidget(Enlarged(MakeCaption(IsLeague(side) ? "League Details" : "Tournie Details"), FigureType));
   layout->addLayout(columns, 1);
-  layout->addWidget(Line());
-  layout->addLayout(BuildFiles(widgets, side, prefix));
-  layout->addWidget(Line());
+  widgets.Files = BuildFiles(side, prefix);
   return widgets.Page;
 }
 
@@ -89,72 +110,65 @@ QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, con
   widgets.Available = MakeList(prefix + "Available");
   widgets.Selected = MakeList(prefix + "Selected");
   widgets.Selected->setAccessibleName("Selected teams");
+  widgets.TeamCount = MakeText(prefix + "TeamCount", "0");
   OnSelect(widgets.Available, side.Available);
   OnSelect(widgets.Selected, side.Selected);
-  auto* const moves = new QVBoxLayout;
+  QPushButton* const add = ArrowButton(prefix + "AddTeam", QStyle::SP_ArrowRight, "Add the team",
+                                       [&side] { LegEditor::AddTeam_Click(side); });
+  QPushButton* const remove = ArrowButton(prefix + "RemoveTeam", QStyle::SP_ArrowLeft, "Remove the team",
+                                          [&side] { LegEditor::RemoveTeam_Click(side); });
+  OnActivate(widgets.Available, add);
+  OnActivate(widgets.Selected, remove);
+  auto* const moves = Spaced(new QVBoxLayout, InGroup);
   moves->addStretch();
-  moves->addWidget(ArrowButton(prefix + "AddTeam", QStyle::SP_ArrowRight, "Add the team",
-                               [&side] { LegEditor::AddTeam_Click(side); }));
-  moves->addWidget(ArrowButton(prefix + "RemoveTeam", QStyle::SP_ArrowLeft, "Remove the team",
-                               [&side] { LegEditor::RemoveTeam_Click(side); }));
+  moves->addWidget(add);
+  moves->addWidget(remove);
   moves->addStretch();
 
-  auto* const grid = new QGridLayout;
+  auto* const grid = Spaced(new QGridLayout, InGroup);
   grid->addWidget(MakeCaption("Select Teams:", widgets.Available), 0, 0);
+  grid->addLayout(Figure(IsLeague(side) ? "Total teams in the League:" : "Total teams currently selected:",
+                         widgets.TeamCount),
+                  0, 2, Qt::AlignLeft);
   grid->addWidget(widgets.Available, 1, 0);
   grid->addLayout(moves, 1, 1);
   grid->addWidget(widgets.Selected, 1, 2);
+  if (!IsLeague(side)) grid->addLayout(BuildNumberOfTeams(widgets), 2, 0, 1, 3);
+  grid->setRowStretch(1, 1);
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(2, 1);
-
-  auto* const counts = new QGridLayout;
-  widgets.TeamCount = MakeText(prefix + "TeamCount", "0");
-  widgets.MatchCount = MakeText(prefix + "MatchCount", "0");
-  int row = 0;
-  if (!IsLeague(side)) {
-    widgets.NumberOfTeams = MakeText("NumberOfTeams", "2");
-    counts->addWidget(MakeFigureCaption("Total number of teams:", widgets.NumberOfTeams), row, 0);
-    counts->addWidget(widgets.NumberOfTeams, row, 1);
-    counts->addWidget(
-        ArrowButton("MoreTeams", QStyle::SP_ArrowUp, "More teams", [this] { editor_.MoreTeams_Click(); }),
-        row, 2);
-    counts->addWidget(ArrowButton("FewerTeams", QStyle::SP_ArrowDown, "Fewer teams",
-                                  [this] { editor_.FewerTeams_Click(); }),
-                      row++, 3);
-  }
-  counts->addWidget(
-      MakeFigureCaption(IsLeague(side) ? "Total teams in the League:" : "Total teams currently selected:",
-                        widgets.TeamCount),
-      row, 0);
-  counts->addWidget(widgets.TeamCount, row++, 1);
-  counts->addWidget(
-      MakeFigureCaption(IsLeague(side) ? "Total matches in the League:" : "Total number of matches:",
-                        widgets.MatchCount),
-      row, 0);
-  counts->addWidget(widgets.MatchCount, row, 1);
-  counts->setColumnStretch(4, 1);
-  grid->addLayout(counts, 2, 0, 1, 3);
   return grid;
+}
+
+QLayout* LegEditorWindow::BuildNumberOfTeams(SideWidgets& widgets) {
+  widgets.NumberOfTeams = MakeText("NumberOfTeams", "2", Qt::AlignRight);
+  widgets.NumberOfTeams->setMinimumWidth(fontMetrics().horizontalAdvance("00"));
+  auto* const row = Spaced(new QHBoxLayout, InGroup);
+  row->addWidget(MakeFigureCaption("Total number of teams:", widgets.NumberOfTeams));
+  row->addWidget(widgets.NumberOfTeams);
+  row->addWidget(
+      ArrowButton("MoreTeams", QStyle::SP_ArrowUp, "More teams", [this] { editor_.MoreTeams_Click(); }));
+  row->addWidget(
+      ArrowButton("FewerTeams", QStyle::SP_ArrowDown, "Fewer teams", [this] { editor_.FewerTeams_Click(); }));
+  row->addStretch();
+  return row;
 }
 
 QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
   widgets.Fixtures = MakeList(prefix + "Fixtures");
-  auto* const layout = new QVBoxLayout;
-  layout->addWidget(MakeCaption("Fixtures", widgets.Fixtures));
+  widgets.MatchCount = MakeText(prefix + "MatchCount", "0");
+  OnSelect(widgets.Fixtures, side.FixtureList);
+  auto* const captions = new QHBoxLayout;
+  captions->addWidget(MakeCaption("Fixtures", widgets.Fixtures));
+  captions->addStretch();
+  captions->addLayout(Figure(IsLeague(side) ? "Total matches in the League:" : "Total number of matches:",
+                             widgets.MatchCount));
+  auto* const layout = Spaced(new QVBoxLayout, InGroup);
+  layout->addLayout(captions);
   layout->addWidget(widgets.Fixtures, 1);
-  auto* const buttons = new QHBoxLayout;
+  auto* const buttons = Spaced(new QHBoxLayout, InGroup);
   if (IsLeague(side)) {
-    widgets.Home = MakeCombo("Home");
-    widgets.Away = MakeCombo("Away");
-    auto* const teams = new QGridLayout;
-    teams->addWidget(MakeCaption("Home Team:", widgets.Home), 0, 0);
-    teams->addWidget(widgets.Home, 0, 1);
-    teams->addWidget(MakeCaption("Away Team:", widgets.Away), 1, 0);
-    teams->addWidget(widgets.Away, 1, 1);
-    teams->setColumnStretch(1, 1);
-    layout->addLayout(teams);
-    OnPick(widgets.Home, [&side](int entry) { side.Home.Picked = entry; });
-    OnPick(widgets.Away, [&side](int entry) { side.Away.Picked = entry; });
+    layout->addLayout(BuildPairing(widgets, side));
     QPushButton* const add = Button("AddFixture", "&Add &Fixture", [this] { editor_.AddFixture_Click(); });
     add->setShortcut(QKeySequence("Alt+F"));  // Alt+A is the other button's.
     buttons->addWidget(add);
@@ -166,19 +180,36 @@ QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, 
   return layout;
 }
 
-QLayout* LegEditorWindow::BuildFiles(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
-  widgets.Load = MakeCombo(prefix + "Load");
-  OnPick(widgets.Load, [this, &side](int entry) { editor_.Load_Click(side, entry); });
-  auto* const layout = new QHBoxLayout;
-  layout->addWidget(MakeCaption("Open / Load", widgets.Load));
-  layout->addWidget(widgets.Load);
-  layout->addStretch();
-  layout->addWidget(MakeCaption("Save / Delete", nullptr));
-  layout->addWidget(Button(prefix + "Save", IsLeague(side) ? "&Save League" : "&Save Knock Out",
-                           [this, &side] { editor_.Save_Click(side); }));
-  layout->addWidget(Button(prefix + "Delete", IsLeague(side) ? "Delete &League" : "Delete &Knock Out",
-                           [this, &side] { editor_.Delete_Click(side); }));
-  return layout;
+QLayout* LegEditorWindow::BuildPairing(SideWidgets& widgets, EditorSide& side) {
+  widgets.Home = MakeCombo("Home");
+  widgets.Away = MakeCombo("Away");
+  OnPick(widgets.Home, [&side](int entry) { side.Home.Picked = entry; });
+  OnPick(widgets.Away, [&side](int entry) { side.Away.Picked = entry; });
+  QLabel* const home = MakeCaption("Home Team:", widgets.Home);
+  QLabel* const away = MakeCaption("Away Team:", widgets.Away);
+  AlignCaptions({widgets.LoadCaption, home, away});
+  auto* const pairing = Spaced(new QVBoxLayout, InGroup);
+  pairing->addLayout(Beside(home, widgets.Home));
+  pairing->addLayout(Beside(away, widgets.Away));
+  return pairing;
+}
+
+QWidget* LegEditorWindow::BuildFiles(EditorSide& side, const QString& prefix) {
+  auto* const files = new QWidget;
+  auto* const row = Spaced(new QHBoxLayout(files), InGroup);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->addWidget(MakeCaption("Save / Delete", nullptr));
+  row->addSpacing(BetweenColumns - InGroup);
+  row->addWidget(Button(prefix + "Save", IsLeague(side) ? "&Save League" : "&Save Knock Out",
+                        [this, &side] { editor_.Save_Click(side); }));
+  row->addWidget(Button(prefix + "Delete", IsLeague(side) ? "Delete &League" : "Delete &Knock Out",
+                        [this, &side] { editor_.Delete_Click(side); }));
+  return files;
+}
+
+void LegEditorWindow::reject() {
+  if (editor_.IsUnsaved()) return exit_->setFocus();
+  ScreenWindow::reject();
 }
 
 void LegEditorWindow::Refresh() {
@@ -188,12 +219,13 @@ void LegEditorWindow::Refresh() {
   ShowChooser(league_.Home, editor_.League.Home);
   ShowChooser(league_.Away, editor_.League.Away);
   knockOut_.NumberOfTeams->setText(QString::number(editor_.KnockOut.NumberOfTeams));
-  league_.Page->setVisible(editor_.Kind.Picked == 0);
-  knockOut_.Page->setVisible(editor_.Kind.Picked == 1);
+  for (QWidget* const part : {league_.Page, league_.Files}) part->setVisible(editor_.Kind.Picked == 0);
+  for (QWidget* const part : {knockOut_.Page, knockOut_.Files}) part->setVisible(editor_.Kind.Picked == 1);
+  GoTo(std::exchange(editor_.Next, {}));
 }
 
 void LegEditorWindow::ShowSide(const SideWidgets& widgets, const EditorSide& side) {
-  ShowText(widgets.Name, side.Name);
+  widgets.Name->ShowText();
   ShowList(widgets.Available, side.Available);
   ShowList(widgets.Selected, side.Selected);
   ShowList(widgets.Fixtures, side.FixtureList);

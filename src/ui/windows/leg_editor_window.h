@@ -2,11 +2,11 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <functional>
+#include <QPushButton>
 
 #include "championship/leg_editor.h"
+#include "ui/widgets/text_box.h"
 #include "ui/windows/screen_window.h"
 
 namespace kickwell {
@@ -14,6 +14,9 @@ namespace kickwell {
 class LegEditorWindow final : public ScreenWindow {
  public:
   LegEditorWindow(LegEditor& editor, QWidget* parent);
+
+  /// Escape leaves only what is saved; otherwise it leads to the button that leaves.
+  void reject() override;
 
  protected:
   void Refresh() override;
@@ -23,10 +26,11 @@ class LegEditorWindow final : public ScreenWindow {
  private:
   /// The widgets of one side. Their names begin with "League" or "KnockOut".
   struct SideWidgets {
-    QWidget* Page;
-    QLineEdit* Name;
+    QWidget *Page, *Files;
+    TextBox* Name;
     QListWidget *Available, *Selected, *Fixtures;
     QComboBox* Load;
+    QLabel* LoadCaption;
     QLabel *TeamCount, *MatchCount;
     QComboBox *Home, *Away;  ///< League only.
     QLabel* NumberOfTeams;   ///< Knock-out only.
@@ -35,12 +39,16 @@ class LegEditorWindow final : public ScreenWindow {
   QWidget* BuildSide(SideWidgets& widgets, EditorSide& side);
   QLayout* BuildTeams(SideWidgets& widgets, EditorSide& side, const QString& prefix);
   QLayout* BuildFixtures(SideWidgets& widgets, EditorSide& side, const QString& prefix);
-  QLayout* BuildFiles(SideWidgets& widgets, EditorSide& side, const QString& prefix);
+  QLayout* BuildNumberOfTeams(SideWidgets& widgets);
+  QLayout* BuildPairing(SideWidgets& widgets, EditorSide& side);
+  QWidget* BuildFiles(EditorSide& side, const QString& prefix);
   void OnSelect(QListWidget* list, ItemList& chooser);
+  static void OnActivate(QListWidget* list, QPushButton* move);
   static void ShowSide(const SideWidgets& widgets, const EditorSide& side);
 
   LegEditor& editor_;
   QComboBox* kind_;
+  QPushButton* exit_;
   SideWidgets league_{}, knockOut_{};
 };
 

@@ -1,6 +1,8 @@
 #include "ui/windows/screen_window.h"
 
+#include <QCloseEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <algorithm>
 #include <utility>
 
@@ -64,6 +66,11 @@ void ScreenWindow::reject() {
   Act([this] { Leave(); });
 }
 
+void ScreenWindow::closeEvent(QCloseEvent* event) {
+  if (isVisible()) Act([this] { Leave(); });
+  event->setAccepted(!isVisible());
+}
+
 void ScreenWindow::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   auto* const button = qobject_cast<QPushButton*>(focusWidget());
@@ -78,6 +85,14 @@ bool ScreenWindow::focusNextPrevChild(bool next) {
   const bool moved = QDialog::focusNextPrevChild(next);
   if (moved && focusWidget() != nullptr) area_->ScrollTo(focusWidget());
   return moved;
+}
+
+void ScreenWindow::GoTo(const std::string& control) {
+  auto* const widget = control.empty() ? nullptr : findChild<QWidget*>(control.c_str());
+  if (widget == nullptr) return;
+  widget->setFocus();
+  area_->ScrollTo(widget);
+  if (auto* const box = qobject_cast<QLineEdit*>(widget)) box->selectAll();
 }
 
 void ScreenWindow::Act(const std::function<void()>& action) {

@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <functional>
+#include <string>
 
 #include "ui/widgets/button_row.h"
 #include "ui/widgets/page_area.h"
@@ -26,6 +27,7 @@ class ScreenWindow : public QDialog {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;  ///< Enter presses the button that has the focus.
   bool focusNextPrevChild(bool next) override;    ///< Tab scrolls to what it reaches.
 
@@ -49,6 +51,10 @@ class ScreenWindow : public QDialog {
   /// Sets the buttons below the page, which never scroll out of sight. Tab reaches them last if the page is
   /// laid out before.
   void SetButtons(const WindowButtons& buttons) { buttons_->Add(buttons); }
+
+  /// Gives the focus to `control` and selects its text, so that the user can go on there. Nothing for an
+  /// empty name.
+  void GoTo(const std::string& control);
 
   /// Sets the size to open at: `width` by `height` pixels where type is of the usual size, more with larger
   /// type, but never more than fits on the desktop.

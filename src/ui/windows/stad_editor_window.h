@@ -2,11 +2,10 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 
 #include "editors/stad_editor.h"
+#include "ui/widgets/text_box.h"
 #include "ui/windows/screen_window.h"
 
 namespace kickwell {
@@ -23,11 +22,12 @@ class StadEditorWindow final : public ScreenWindow {
  private:
   QWidget* BuildRemoval();
   QWidget* BuildAddition();
+  static QWidget* BuildInstructions();
 
   StadEditor& editor_;
   QListWidget* list1_;
   QLabel* label8_;
-  QLineEdit *text1_, *text2_, *text3_;
+  TextBox *text1_, *text2_, *text3_;
   QComboBox* combo1_;
 };
 

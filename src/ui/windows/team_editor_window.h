@@ -2,11 +2,10 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 
 #include "editors/team_editor.h"
+#include "ui/widgets/squad_list.h"
+#include "ui/widgets/text_box.h"
 #include "ui/windows/screen_window.h"
 
 namespace kickwell {
@@ -19,6 +18,7 @@ class TeamEditorWindow final : public ScreenWindow {
   void Refresh() override;
   bool IsClosed() const override { return editor_.Closed; }
   void Leave() override { editor_.Command4_Click(); }
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   QComboBox* Combo(const char* name, void (TeamEditor::*action)(int));
@@ -29,8 +29,8 @@ class TeamEditorWindow final : public ScreenWindow {
   TeamEditor& editor_;
   QComboBox *combo1_, *combo2_, *combo3_;
   QLabel *label13_, *label14_, *label4_, *label5_;
-  QListWidget* list1_;
-  QLineEdit *text1_, *text2_, *text4_, *text5_;
+  SquadList* list1_;
+  TextBox *text1_, *text2_, *text4_, *text5_;
 };
 
 }  // namespace kickwell

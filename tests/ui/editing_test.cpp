@@ -1,0 +1,53 @@
+// How the editors' windows follow the hands of someone who builds a club or a championship.
+#include <QLineEdit>
+#include <QListWidget>
+#include <QtTest/QTest>
+
+#include "support/screen_test.h"
+#include "ui/windows/leg_editor_window.h"
+#include "ui/windows/team_editor_window.h"
+#include "user.h"
+
+namespace kickwell {
+namespace {
+
+using EditingTest = WindowTest;
+
+TEST_F(EditingTest, PlayersAreAddedFromTheKeyboardAlone) {
+  ASSERT_TRUE(SaveTeam(folder_.Folder, {"Rovers", "75", {}}).Ok());
+  TeamEditor editor(folder_.Folder, desktop_, "N/A");
+  TeamEditorWindow window(editor, nullptr);
+  window.show();
+  const auto type = [&window](const char* text) { QTest::keyClicks(window.focusWidget(), text); };
+  const auto next = [&window] { User::Press(window, Qt::Key_Tab); };
+  window.findChild<QLineEdit*>("Text2")->setFocus();
+  type("Ann");
+  next();
+  type("0");
+  User::Press(window, Qt::Key_Return);  // The skill is refused and typed over.
+  type("71");
+  next();
+  type("mr");
+  User::Press(window, Qt::Key_Return);
+  type("Bea");
+  EXPECT_EQ(User::TextOf(window, "Label5"), "MFR");
+  EXPECT_EQ(editor.Text2, "Bea");
+  auto* const squad = window.findChild<QListWidget*>("List1");
+  QTest::mouseClick(squad->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                    squad->visualItemRect(squad->item(0)).center());
+  EXPECT_EQ(editor.List1.Text(), "Ann");  // Still selected.
+}
+
+TEST_F(EditingTest, EscapeKeepsAnUnsavedChampionship) {
+  LegEditor editor(folder_.Folder, desktop_, random_);
+  LegEditorWindow window(editor, nullptr);
+  window.show();
+  QTest::keyClicks(window.findChild<QLineEdit*>("LeagueName"), "Cup");
+  QTest::keyClick(&window, Qt::Key_Escape);
+  EXPECT_TRUE(window.isVisible());
+  window.close();
+  EXPECT_TRUE(editor.Closed && !window.isVisible());
+}
+
+}  // namespace
+}  // namespace kickwell

@@ -19,6 +19,12 @@ void SetColours(QWidget* widget, const QColor& ground, const QColor& text) {
   widget->setPalette(palette);
 }
 
+QPen Chalk(const QPainter& painter, int alpha, int width) {
+  QPen chalk(QColor(255, 255, 255, alpha), width * painter.device()->devicePixelRatio());
+  chalk.setCosmetic(true);
+  return chalk;
+}
+
 int Twips(const QWidget* widget, int twips) {
   return twips * widget->logicalDpiX() / 1440;
 }

@@ -6,6 +6,7 @@
 #include <iterator>
 
 #include "ui/widgets/accessible.h"
+#include "ui/widgets/appearance.h"
 
 namespace kickwell {
 namespace {
@@ -48,13 +49,8 @@ void DrawStandAndGrass(QPainter& painter) {
 }
 
 void DrawGoal(QPainter& painter) {
-  const auto pen = [&painter](int alpha, int width) {
-    QPen chalk(QColor(255, 255, 255, alpha), width);
-    chalk.setCosmetic(true);
-    painter.setPen(chalk);
-  };
   painter.fillRect(Mouth, QColor(0, 0, 0, 130));
-  pen(70, 1);
+  painter.setPen(Chalk(painter, 70, 1));
   constexpr int Meshes = 28, MeshRows = 9;
   for (int i = 1; i < Meshes; ++i) {
     const qreal x = Mouth.left() + i * Mouth.width() / Meshes;
@@ -64,7 +60,7 @@ void DrawGoal(QPainter& painter) {
     const qreal y = Mouth.top() + i * Mouth.height() / MeshRows;
     painter.drawLine(QPointF(Mouth.left(), y), QPointF(Mouth.right(), y));
   }
-  pen(225, 2);
+  painter.setPen(Chalk(painter, 225, 2));
   painter.drawLine(QPointF(0, GoalLine), QPointF(1, GoalLine));
   const QPointF goalArea[] = {{GoalArea.left() + 0.02, GoalLine},
                               GoalArea.bottomLeft() - QPointF(0.07, 0),
@@ -73,7 +69,7 @@ void DrawGoal(QPainter& painter) {
   painter.drawPolyline(goalArea, 4);
   painter.setBrush(Qt::white);
   painter.drawEllipse(OnScene(QPointF(PenaltySpot.Left, PenaltySpot.Top)) + QPointF(0, 0.02), 0.014, 0.014);
-  pen(255, 4);
+  painter.setPen(Chalk(painter, 255, 4));
   const QPointF frame[] = {
       {Mouth.left(), GoalLine}, Mouth.topLeft(), Mouth.topRight(), {Mouth.right(), GoalLine}};
   painter.drawPolyline(frame, 4);

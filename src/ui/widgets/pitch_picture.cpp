@@ -6,6 +6,7 @@
 
 #include "engine/match_session.h"
 #include "ui/widgets/accessible.h"
+#include "ui/widgets/appearance.h"
 
 namespace kickwell {
 namespace {
@@ -56,9 +57,7 @@ void DrawHalf(QPainter& painter) {
 }
 
 void DrawLines(QPainter& painter) {
-  QPen chalk(QColor(255, 255, 255, 225), 2);
-  chalk.setCosmetic(true);
-  painter.setPen(chalk);
+  painter.setPen(Chalk(painter, 225, 2));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(Field);
   const QPointF centre(CentreSpotX, CentreSpotY);

@@ -179,6 +179,7 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   int row = 0;
   const auto fact = [&](const QString& heading, QAnyStringView name, const QString& text) {
     QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), FigureType);
+    figure->setContentsMargins(7, 0, 7, 0);  // Around the figure that lights up, so that all stand in line.
     grid->addWidget(MakeCaption(heading), row, 0);
     grid->addWidget(figure, row++, 1, Qt::AlignVCenter);
     return figure;
@@ -188,7 +189,6 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   side.Bookings = fact("Bookings", "Book" + n, "0");
   side.Fouls = fact("Fouls", "Foul" + n, "0");
   side.Possession = fact("Possesion", ArrayName("PosMet", number - 1), "0%");
-  side.Possession->setAlignment(Qt::AlignCenter);
   side.Possession->setAutoFillBackground(true);
   const QFontMetrics metrics = side.Possession->fontMetrics();
   side.Possession->setMinimumSize(metrics.horizontalAdvance("100%") + 14, metrics.height() + 8);

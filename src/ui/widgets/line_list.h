@@ -1,4 +1,4 @@
-// The running lists of the match.
+// Lists of lines: those of the match, and the results.
 #pragma once
 
 #include <QListWidget>

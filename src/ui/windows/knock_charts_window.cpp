@@ -3,6 +3,7 @@
 #include <QFontInfo>
 #include <QPainter>
 #include <QPushButton>
+#include <algorithm>
 
 #include "base/at.h"
 #include "ui/text.h"
@@ -13,10 +14,15 @@
 namespace kickwell {
 namespace {
 
-/// The part of the screen units that the chart shows.
-constexpr qreal ChartWidth = 8775, ChartTop = 360, ChartHeight = 5175;
+/// Around the chart, in screen units.
+constexpr qreal ChartMargin = 240;
 constexpr qreal SmallestType = 6;  ///< In points.
 constexpr int SmallestName = 14;   ///< Characters that a box has room for, at least.
+constexpr int LongestName = 30;    ///< That a box asks for room for; type gets smaller for longer ones.
+constexpr int BoxMargin = 4;       ///< Between a box and its name, in pixels.
+
+constexpr qreal Corner = 3;
+constexpr QMarginsF Frame(BoxMargin, BoxMargin, BoxMargin, BoxMargin);  ///< Around the champion's box.
 
 }  // namespace
 
@@ -30,11 +36,11 @@ BracketView::BracketView(const KnockCharts& charts) : charts_(charts) {
     label->setParent(this);
     label->setVisible(slot < charts.VisibleSlots);
     QFont font = label->font();
-    const bool known = PlaceholderNumber(charts.Text(slot)) == 0;
     const bool beyondFirstRound = At(ChartSlots(), slot).Left > ChartSlots().front().Left;
-    font.setBold(known && beyondFirstRound);  // Known winners stand out.
-    font.setItalic(!known);
+    font.setBold(IsKnown(slot) && beyondFirstRound);  // Known winners stand out.
+    font.setItalic(!IsKnown(slot));
     label->setFont(font);
+    if (IsChampion(slot)) label->setForegroundRole(QPalette::HighlightedText);
     At(team_, slot) = label;
   }
   NameSlots();
@@ -57,23 +63,58 @@ void BracketView::NameSlots() {
   setAccessibleDescription(matches.join("; "));
 }
 
+bool BracketView::IsKnown(int slot) const {
+  return PlaceholderNumber(charts_.Text(slot)) == 0;
+}
+
+/// Whether the slot names the winner of the final.
+bool BracketView::IsChampion(int slot) const {
+  return !charts_.Matches.empty() && slot == charts_.Matches.back().Winner && IsKnown(slot);
+}
+
+/// The part of the screen units that this bracket takes up.
+QRectF BracketView::Extent() const {
+  QRectF extent;
+  for (int slot = 0; slot < charts_.VisibleSlots; ++slot) {
+    const ChartSlot& place = At(ChartSlots(), slot);
+    extent |= QRectF(place.Left, place.Top, SlotWidth, SlotHeight);
+  }
+  return extent.adjusted(-ChartMargin, -ChartMargin, ChartMargin, ChartMargin);
+}
+
+/// The size of the chart with boxes of this size, in pixels.
+QSize BracketView::SizeWith(const QSize& box) const {
+  const QRectF extent = Extent();
+  return QSizeF(box.width() * extent.width() / SlotWidth, box.height() * extent.height() / SlotHeight)
+      .toSize();
+}
+
 QSize BracketView::minimumSizeHint() const {
   const QFontMetrics metrics = fontMetrics();
-  return {static_cast<int>(SmallestName * metrics.averageCharWidth() * ChartWidth / SlotWidth),
-          static_cast<int>((metrics.height() + 4) * ChartHeight / SlotHeight)};
+  return SizeWith({SmallestName * metrics.averageCharWidth(), metrics.height() + BoxMargin});
+}
+
+QSize BracketView::sizeHint() const {
+  int widest = SmallestName * fontMetrics().averageCharWidth();
+  for (int slot = 0; slot < charts_.VisibleSlots; ++slot) {
+    const QLabel* const label = At(team_, slot);
+    widest = std::max(widest, QFontMetrics(label->font()).horizontalAdvance(label->text().left(LongestName)));
+  }
+  return SizeWith({widest + 4 * BoxMargin, fontMetrics().height() + 2 * BoxMargin});
 }
 
 QRectF BracketView::BoxOf(int slot) const {
   const ChartSlot& place = At(ChartSlots(), slot);
-  const qreal x = width() / ChartWidth;
-  const qreal y = height() / ChartHeight;
-  return {place.Left * x, (place.Top - ChartTop) * y, SlotWidth * x, SlotHeight * y};
+  const QRectF extent = Extent();
+  const qreal x = width() / extent.width();
+  const qreal y = height() / extent.height();
+  return {(place.Left - extent.left()) * x, (place.Top - extent.top()) * y, SlotWidth * x, SlotHeight * y};
 }
 
 void BracketView::resizeEvent(QResizeEvent* /*event*/) {
   for (int slot = 0; slot < SlotTotal; ++slot) {
     QLabel* const label = At(team_, slot);
-    label->setGeometry(BoxOf(slot).toRect().adjusted(3, 1, -3, -1));
+    label->setGeometry(BoxOf(slot).toRect().adjusted(BoxMargin, 1, -BoxMargin, -1));
     // Smaller type makes a long name fit: its end may tell of a toss.
     QFont fitting = label->font();
     fitting.setPointSizeF(QFontInfo(font()).pointSizeF());
@@ -99,8 +140,13 @@ void BracketView::paintEvent(QPaintEvent* /*event*/) {
       painter.drawPolyline(corners, 3);
     }
   }
-  painter.setBrush(palette().base());
-  for (int slot = 0; slot < charts_.VisibleSlots; ++slot) painter.drawRoundedRect(BoxOf(slot), 3, 3);
+  for (int slot = 0; slot < charts_.VisibleSlots; ++slot) {
+    const QRectF box = BoxOf(slot);
+    painter.setBrush(IsChampion(slot) ? palette().highlight() : palette().base());
+    painter.drawRoundedRect(box, Corner, Corner);
+    painter.setBrush(Qt::NoBrush);
+    if (IsChampion(slot)) painter.drawRoundedRect(box.marginsAdded(Frame), Corner, Corner);
+  }
   DrawFocus(this);
 }
 
@@ -114,7 +160,7 @@ KnockChartsWindow::KnockChartsWindow(KnockCharts& charts, QWidget* parent)
   Page()->addWidget(new BracketView(charts), 1);
   SetButtons({.Right = {command3}});
   command3->setFocus();
-  OpenAt(980, 640);
+  OpenAt(420, 0);
 }
 
 }  // namespace kickwell

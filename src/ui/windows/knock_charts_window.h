@@ -15,12 +15,17 @@ class BracketView final : public QWidget {
   explicit BracketView(const KnockCharts& charts);
 
   QSize minimumSizeHint() const override;
+  QSize sizeHint() const override;  ///< Room for every name in usual type.
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  bool IsKnown(int slot) const;
+  bool IsChampion(int slot) const;
+  QRectF Extent() const;
+  QSize SizeWith(const QSize& box) const;
   QRectF BoxOf(int slot) const;
   void NameSlots();
 

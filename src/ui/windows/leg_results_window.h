@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
 
 #include "championship/leg_results.h"
+#include "ui/widgets/line_list.h"
 #include "ui/windows/screen_window.h"
 
 namespace kickwell {
@@ -16,12 +16,13 @@ class LegResultsWindow final : public ScreenWindow {
  protected:
   void Refresh() override;
   bool IsClosed() const override { return results_.Closed; }
+  void showEvent(QShowEvent* event) override;  ///< At the newest result.
   void Leave() override { results_.Command1_Click(); }
 
  private:
   LegResults& results_;
   QLabel* label1_;
-  QListWidget* list1_;
+  LineList* list1_;
   QPushButton* command2_;
 };
 

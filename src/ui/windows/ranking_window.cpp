@@ -42,7 +42,7 @@ RankingWindow::RankingWindow(Ranking& ranking, const RankingScreen& screen, QWid
   QPushButton* const close = Button(screen.CloseName, "Close", [this] { ranking_.Close_Click(); });
   close->setDefault(true);
   Page()->addWidget(label1_);
-  Page()->addWidget(BuildRows(), 1);
+  Page()->addWidget(BuildRows(screen.Empty), 1);
   SetButtons({.Left = {prevpage_, nextpage_}, .Right = {close}});
 
   nextpage_->setFocus();
@@ -56,7 +56,7 @@ RankingWindow::RankingWindow(Ranking& ranking, const RankingScreen& screen, QWid
   OpenAt(screen.Width, 0);
 }
 
-QWidget* RankingWindow::BuildRows() {
+QWidget* RankingWindow::BuildRows(const QString& empty) {
   rows_ = new QFrame;
   SetRole(rows_, QAccessible::List);
   rows_->setAccessibleName(windowTitle());
@@ -71,6 +71,10 @@ QWidget* RankingWindow::BuildRows() {
   for (const RankingColumn& column : columns_) {
     labels_.push_back(BuildColumn(grid, static_cast<int>(labels_.size()), column));
   }
+  empty_ = MakeCaption(empty);
+  empty_->setAlignment(Qt::AlignCenter);
+  empty_->setObjectName("Empty");
+  grid->addWidget(empty_, 1, 0, Paging::Rows, static_cast<int>(columns_.size()));
   for (int r = 1; r <= Paging::Rows; ++r) {
     auto* const marker = new Marker;
     marker->setObjectName(ArrayName("Marker", r));
@@ -141,6 +145,7 @@ void RankingWindow::PlaceBar() {
 void RankingWindow::Refresh() {
   label1_->setText(Shown(ranking_.Label1));
   const Paging& pages = ranking_.Pages;
+  empty_->setVisible(pages.RowCount() == 0);
   for (int r = 1; r <= Paging::Rows; ++r) {
     QStringList names, announced;
     for (int c = 0; c < static_cast<int>(columns_.size()); ++c) {
@@ -173,6 +178,7 @@ RankingScreen TableScreen() {
           .Caption = "Kickwell League Table",
           .CloseName = "Command1",
           .Width = 720,
+          .Empty = "There are no standings.",
           .Columns = {{"Pos", "Rank", true},
                       {"Team", "Team", false},
                       {"Played", "Played", true},
@@ -189,6 +195,7 @@ RankingScreen TopScorersScreen() {
           .Caption = "Kickwell Top Goal Scorers",
           .CloseName = "Command3",
           .Width = 620,
+          .Empty = "Nobody has scored yet.",
           .Columns = {{"Rank", "Rank", true},
                       {"Player", "Player", false},
                       {"Team", "Team", false},

@@ -26,6 +26,7 @@ struct RankingScreen {
   QString Caption;
   const char* CloseName;  ///< The name of the button that closes the screen.
   int Width;              ///< Of the window, where type is of the usual size.
+  QString Empty;          ///< What it says without any row.
   std::vector<RankingColumn> Columns;
 };
 
@@ -46,7 +47,7 @@ class RankingWindow final : public ScreenWindow {
  private:
   using Labels = std::array<QLabel*, Paging::Rows>;
 
-  QWidget* BuildRows();
+  QWidget* BuildRows(const QString& empty);
   Labels BuildColumn(QGridLayout* grid, int place, const RankingColumn& column);
   void MoveBar(int row);
   void PlaceBar();
@@ -54,6 +55,7 @@ class RankingWindow final : public ScreenWindow {
   Ranking& ranking_;
   std::vector<RankingColumn> columns_;
   QLabel* label1_;
+  QLabel* empty_ = nullptr;
   std::vector<Labels> labels_;  ///< By column.
   std::array<QWidget*, Paging::Rows> markers_{};
   QFrame* rows_ = nullptr;

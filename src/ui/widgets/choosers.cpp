@@ -9,6 +9,7 @@
 #include <QWheelEvent>
 
 #include "ui/text.h"
+#include "ui/widgets/hint.h"
 
 namespace kickwell {
 namespace {
@@ -74,6 +75,30 @@ SteadyList::SteadyList(const QString& objectName) {
   setUniformItemSizes(true);
 }
 
+void SteadyList::SetHint(const QString& hint) {
+  hint_ = hint;
+  TellHint();
+}
+
+void SteadyList::reset() {
+  QListWidget::reset();
+  TellHint();
+}
+
+void SteadyList::rowsInserted(const QModelIndex& parent, int start, int end) {
+  QListWidget::rowsInserted(parent, start, end);
+  TellHint();
+}
+
+void SteadyList::TellHint() {
+  setAccessibleDescription(count() == 0 ? hint_ : QString());
+}
+
+void SteadyList::paintEvent(QPaintEvent* event) {
+  if (count() == 0) PaintHint(this, hint_);
+  QListWidget::paintEvent(event);
+}
+
 QItemSelectionModel::SelectionFlags SteadyList::selectionCommand(const QModelIndex& index,
                                                                  const QEvent* event) const {
   const QItemSelectionModel::SelectionFlags command = QListWidget::selectionCommand(index, event);
@@ -81,7 +106,7 @@ QItemSelectionModel::SelectionFlags SteadyList::selectionCommand(const QModelInd
   return command.testFlag(QItemSelectionModel::Deselect) && last ? QItemSelectionModel::NoUpdate : command;
 }
 
-QListWidget* MakeList(const QString& objectName) {
+SteadyList* MakeList(const QString& objectName) {
   return new SteadyList(objectName);
 }
 

@@ -22,12 +22,24 @@ class SteadyList : public QListWidget {
  public:
   explicit SteadyList(const QString& objectName);
 
+  /// Says in faint text what the list is for, as long as it is empty.
+  void SetHint(const QString& hint);
+
+  void reset() override;
+
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
+  void rowsInserted(const QModelIndex& parent, int start, int end) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void TellHint();
+
+  QString hint_;
 };
 
-QListWidget* MakeList(const QString& objectName);
+SteadyList* MakeList(const QString& objectName);
 
 /// Makes `combo` show `chooser`. Only a user's own pick emits `activated`.
 void ShowChooser(QComboBox* combo, const ItemList& chooser);

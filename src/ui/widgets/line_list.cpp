@@ -8,15 +8,9 @@
 
 #include "base/at.h"
 #include "ui/text.h"
-#include "ui/widgets/appearance.h"
+#include "ui/widgets/hint.h"
 
 namespace kickwell {
-namespace {
-
-constexpr QMargins HintMargins(12, 6, 12, 6);
-
-}  // namespace
-
 LineList::LineList(const QString& objectName) {
   setObjectName(objectName);
   setUniformItemSizes(true);
@@ -132,15 +126,8 @@ QRegion LineList::visualRegionForSelection(const QItemSelection& selection) cons
   return region & viewport()->rect();
 }
 
-void LineList::PaintHint() {
-  QPainter painter(viewport());
-  painter.setPen(FaintText(palette()));
-  const QRect room = viewport()->rect().marginsRemoved(HintMargins);
-  painter.drawText(room, Qt::AlignCenter | Qt::TextWordWrap, hint_);
-}
-
 void LineList::paintEvent(QPaintEvent* event) {
-  if (count() == 0) PaintHint();
+  if (count() == 0) PaintHint(this, hint_);
   QPainter painter(viewport());
   QStyleOptionViewItem option;
   initViewItemOption(&option);

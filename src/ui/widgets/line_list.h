@@ -40,8 +40,6 @@ class LineList final : public QListWidget {
   QModelIndex IndexOf(int row) const { return model()->index(row, modelColumn()); }
   int WholeLines() const;  ///< How many lines have room in the list; at least 1.
 
-  void PaintHint();
-
   QSize lineSize_{0, 1};  ///< The first line's, which stands for all.
   int picked_ = ItemList::None;
   QString hint_;

@@ -18,6 +18,7 @@ constexpr int LineUp = 11;
 SquadList::SquadList(const QString& objectName) : SteadyList(objectName) {
   setItemDelegate(new SideTextDelegate(this));
   setAccessibleName("Players");
+  SetHint("Add the first player of the team on the right.");
 }
 
 void SquadList::ShowSquad(const ItemList& names, const std::vector<Player>& players) {

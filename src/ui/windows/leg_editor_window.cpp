@@ -13,6 +13,7 @@ namespace kickwell {
 namespace {
 
 constexpr int LongestName = 20;
+constexpr int UsualName = 22, FewestRows = 8;  ///< That a list of teams has room for, at least.
 
 bool IsLeague(const EditorSide& side) {
   return side.Kind == ChampionshipKind::League;
@@ -107,9 +108,15 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
 }
 
 QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
+  SteadyList* const selected = MakeList(prefix + "Selected");
+  selected->setAccessibleName("Selected teams");
+  selected->SetHint("Add teams from the left.");
+  widgets.Selected = selected;
   widgets.Available = MakeList(prefix + "Available");
-  widgets.Selected = MakeList(prefix + "Selected");
-  widgets.Selected->setAccessibleName("Selected teams");
+  for (QListWidget* const list : {widgets.Available, widgets.Selected}) {
+    const QFontMetrics metrics = list->fontMetrics();
+    list->setMinimumSize(UsualName * metrics.averageCharWidth(), FewestRows * metrics.height());
+  }
   widgets.TeamCount = MakeText(prefix + "TeamCount", "0");
   OnSelect(widgets.Available, side.Available);
   OnSelect(widgets.Selected, side.Selected);
@@ -155,7 +162,9 @@ QLayout* LegEditorWindow::BuildNumberOfTeams(SideWidgets& widgets) {
 }
 
 QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, const QString& prefix) {
-  widgets.Fixtures = MakeList(prefix + "Fixtures");
+  SteadyList* const list = MakeList(prefix + "Fixtures");
+  list->SetHint("The fixtures of the selected teams appear here.");
+  widgets.Fixtures = list;
   widgets.MatchCount = MakeText(prefix + "MatchCount", "0");
   OnSelect(widgets.Fixtures, side.FixtureList);
   auto* const captions = new QHBoxLayout;

@@ -71,9 +71,11 @@ QWidget* RankingWindow::BuildRows(const QString& empty) {
   for (const RankingColumn& column : columns_) {
     labels_.push_back(BuildColumn(grid, static_cast<int>(labels_.size()), column));
   }
-  empty_ = MakeCaption(empty);
-  empty_->setAlignment(Qt::AlignCenter);
-  empty_->setObjectName("Empty");
+  auto* const none = new TextLabel(empty);
+  none->SetFaint(true);
+  none->setObjectName("Empty");
+  none->setAlignment(Qt::AlignCenter);
+  empty_ = none;
   grid->addWidget(empty_, 1, 0, Paging::Rows, static_cast<int>(columns_.size()));
   for (int r = 1; r <= Paging::Rows; ++r) {
     auto* const marker = new Marker;

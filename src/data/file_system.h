@@ -27,14 +27,14 @@ class FileSystem {
   virtual FileKind Ask(const std::filesystem::path& file) = 0;
 
   /// Reads the whole of `file` into `bytes`. Gives std::errc::no_such_file_or_directory when there is none,
-  /// and an error when it is no regular file, larger than any file of the program, or not readable to its
-  /// end.
+  /// and another error when it is a link to nothing, no regular file, larger than any file of the program, or
+  /// not readable to its end.
   virtual std::error_code Read(const std::filesystem::path& file, std::string& bytes) = 0;
 
   /// Writes `bytes` to `temporary` and flushes them to the disk, so that Replace can put them in the place of
   /// `target`: with the permissions of an old `target`, and in a folder that exists, or is made. Refuses a
-  /// `target` that is protected, that cannot be read, or whose disk is another one than that of `temporary`
-  /// (std::errc::cross_device_link). Leaves nothing of `temporary` on failure.
+  /// `target` that is protected, that cannot be read, that is a link to nothing, or whose disk is another one
+  /// than that of `temporary` (std::errc::cross_device_link). Leaves nothing of `temporary` on failure.
   virtual std::error_code Prepare(const std::filesystem::path& temporary, std::string_view bytes,
                                   const std::filesystem::path& target) = 0;
 

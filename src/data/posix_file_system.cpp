@@ -75,7 +75,7 @@ std::error_code WriteWhole(const Descriptor& file, std::string_view bytes) {
   return ErrorUnless(::fsync(file.Number()) == 0);
 }
 
-/// The file that a symbolic link leads to, whether it exists or not.
+/// The file that a symbolic link leads to.
 fs::path BehindLinks(fs::path file) {
   constexpr int LongestChain = 40;
   std::error_code error;
@@ -83,6 +83,13 @@ fs::path BehindLinks(fs::path file) {
     file = file.parent_path() / fs::read_symlink(file, error);
   }
   return file;
+}
+
+/// Whether `file` is a link to nothing. What it led to may be on a disk that is away, so it is neither
+/// missing nor replaced.
+bool LeadsNowhere(const fs::path& file) {
+  std::error_code error;
+  return fs::is_symlink(file, error) && ::access(file.c_str(), F_OK) != 0 && errno == ENOENT;
 }
 
 fs::path FolderOf(const fs::path& file) {
@@ -123,13 +130,15 @@ std::error_code PosixFileSystem::Read(const fs::path& file, std::string& bytes) 
   // Without O_NONBLOCK, opening a named pipe would wait for its other end.
   const Descriptor descriptor(file, O_RDONLY | O_NONBLOCK);
   if (descriptor.IsOpen()) return ReadWhole(descriptor, bytes);
-  return Error(errno == ENOTDIR ? ENOENT : errno);
+  const int error = errno == ENOTDIR ? ENOENT : errno;
+  return Error(error == ENOENT && LeadsNowhere(file) ? ENOLINK : error);
 }
 
 std::error_code PosixFileSystem::Prepare(const fs::path& temporary, std::string_view bytes,
                                          const fs::path& target) {
   std::error_code error;
   fs::create_directories(FolderOf(target), error);  // What it could not make, the next line notices.
+  if (LeadsNowhere(target)) return Error(ENOLINK);
   const fs::path real = BehindLinks(target);
   error = MayReplace(real, FolderOf(temporary));
   if (error) return error;

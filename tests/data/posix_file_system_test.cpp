@@ -57,6 +57,7 @@ TEST_F(PosixFileSystemTest, ReadsWholeFilesAndTellsWhatThereIs) {
   EXPECT_EQ(Read("missing"), std::errc::no_such_file_or_directory);
   EXPECT_EQ(Read("file/within"), std::errc::no_such_file_or_directory);
   EXPECT_EQ(Read("folder"), std::errc::is_a_directory);
+  EXPECT_EQ(Read("broken link"), std::errc::no_link);
   EXPECT_EQ(folder_.Files.Ask(folder_ / "file"), FileKind::File);
   EXPECT_EQ(folder_.Files.Ask(folder_ / "folder"), FileKind::Other);
   EXPECT_EQ(folder_.Files.Ask(folder_ / "missing"), FileKind::Missing);
@@ -99,13 +100,13 @@ TEST_F(PosixFileSystemTest, FlushesAFileBeforeItsRenamingAndTheFolderAfterIt) {
 TEST_F(PosixFileSystemTest, AFailedSaveSaysWhyAndLeavesNothingBehind) {
   folder_.Write("file", "old");
   fs::create_directory(folder_ / "folder");
-  fs::create_symlink("away/file", folder_ / "link");
+  fs::create_symlink("missing", folder_ / "link");
   const auto why = [this](const std::string& file) {
     return "The file " + (folder_ / file).string() + " can't be ";
   };
   EXPECT_EQ(Save("folder", "new").Failure, why("folder") + "saved: Is a directory.");
   EXPECT_EQ(Save("file/within", "new").Failure, why("file/within") + "saved: Not a directory.");
-  EXPECT_EQ(Save("link", "new").Failure, why("link") + "saved: No such file or directory.");
+  EXPECT_EQ(Save("link", "new").Failure, why("link") + "saved: Link has been severed.");
   EXPECT_EQ(DeleteFile(folder_.Files, folder_ / "folder").Failure,
             why("folder") + "deleted: Is a directory.");
   EXPECT_EQ(FileCount(), 3);

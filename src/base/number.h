@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 namespace kickwell {
@@ -14,13 +15,33 @@ inline bool IsNumber(std::string_view text) {
   return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-/// The whole number that `text` spells in decimal digits, with at most one "-" before them; 0 when it is no
-/// such number or does not fit an int.
-inline int ToNumber(std::string_view text) {
+/// `text` without the blanks around it: spaces, tabs and no-break spaces.
+inline std::string_view WithoutBlanks(std::string_view text) {
+  constexpr std::string_view Blanks[] = {" ", "\t", "\u00A0"};
+  for (std::size_t before = text.size() + 1; text.size() < before;) {
+    before = text.size();
+    for (const std::string_view blank : Blanks) {
+      if (text.starts_with(blank)) text.remove_prefix(blank.size());
+      if (text.ends_with(blank)) text.remove_suffix(blank.size());
+    }
+  }
+  return text;
+}
+
+/// The whole number that `text` spells in decimal digits, with at most one "-" before them and blanks around
+/// them; none when it is no such number or does not fit an int.
+inline std::optional<int> NumberIn(std::string_view text) {
+  text = WithoutBlanks(text);
   int number = 0;
   const char* const end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(text.data(), end, number);
-  return error == std::errc() && stop == end ? number : 0;
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return number;
+}
+
+/// Likewise, with 0 for none.
+inline int ToNumber(std::string_view text) {
+  return NumberIn(text).value_or(0);
 }
 
 /// `figure` and `more`, which is not negative; at most the largest int, which a file may hold already.

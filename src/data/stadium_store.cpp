@@ -1,10 +1,10 @@
 #include "data/stadium_store.h"
 
 #include <algorithm>
-#include <charconv>
 #include <limits>
 #include <string_view>
 
+#include "base/number.h"
 #include "data/line_reader.h"
 #include "data/text_file.h"
 
@@ -15,10 +15,8 @@ constexpr std::size_t StadiumLines = 4;
 
 /// The count that line 1 states; no limit when it is not a whole number.
 std::size_t CountLimit(std::string_view line) {
-  std::size_t count = 0;
-  const char* const end = line.data() + line.size();
-  const auto [stop, error] = std::from_chars(line.data(), end, count);
-  return error == std::errc() && stop == end ? count : std::numeric_limits<std::size_t>::max();
+  const int count = NumberIn(line).value_or(-1);
+  return count >= 0 ? static_cast<std::size_t>(count) : std::numeric_limits<std::size_t>::max();
 }
 
 }  // namespace

@@ -1,7 +1,10 @@
 #include "data/text_encoding.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
+
+#include "base/at.h"
 
 namespace kickwell {
 namespace {
@@ -9,6 +12,7 @@ namespace {
 constexpr char32_t Replacement = 0xFFFD;
 constexpr std::string_view LineEnd("\r\0\n\0", 4);  ///< In UTF-16 little-endian.
 constexpr std::string_view Mark = "\xFF\xFE";       ///< Of UTF-16 little-endian.
+constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 
 bool IsHighSurrogate(char32_t c) {
   return c >= 0xD800 && c <= 0xDBFF;
@@ -36,31 +40,47 @@ void AppendUtf8(std::string& text, char32_t c) {
   }
 }
 
-/// The code point that starts at `place`, which moves behind it; a bad byte is passed over alone.
-char32_t NextCodePoint(std::string_view text, std::size_t& place) {
+/// The code point that starts at `place`, which moves behind it; none for a bad byte, which is passed over
+/// alone.
+std::optional<char32_t> TakeCodePoint(std::string_view text, std::size_t& place) {
   const auto at = [&text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const unsigned char lead = at(place++);
   if (lead < 0x80) return lead;
   const std::size_t more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : 1;
-  if (lead < 0xC2 || lead > 0xF4 || text.size() - place < more) return Replacement;
+  if (lead < 0xC2 || lead > 0xF4 || text.size() - place < more) return std::nullopt;
   char32_t c = lead & (0x3FU >> more);
   for (std::size_t i = 0; i < more; ++i) {
-    if ((at(place + i) & 0xC0U) != 0x80) return Replacement;
+    if ((at(place + i) & 0xC0U) != 0x80) return std::nullopt;
     c = c << 6 | (at(place + i) & 0x3FU);
   }
   constexpr char32_t Shortest[] = {0, 0x80, 0x800, 0x10000};  // Longer forms of a code point are refused.
-  if (c < Shortest[more] || c > 0x10FFFF) return Replacement;
+  if (c < Shortest[more] || c > 0x10FFFF) return std::nullopt;
   place += more;
   return c;
 }
 
-enum class Encoding { Utf8, Utf16Little, Utf16Big };
+char32_t NextCodePoint(std::string_view text, std::size_t& place) {
+  return TakeCodePoint(text, place).value_or(Replacement);
+}
+
+/// A byte as Windows-1252 has it. The five bytes that it does not use become control characters, so that no
+/// two bytes read alike.
+char32_t FromWindows1252(char byte) {
+  constexpr char32_t Own[] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                              0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                              0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                              0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+  const auto value = static_cast<unsigned char>(byte);
+  return value >= 0x80 && value < 0xA0 ? At(Own, value - 0x80) : value;
+}
+
+enum class Encoding { Bytes, Utf16Little, Utf16Big };
 
 /// Without a mark only UTF-16 holds zero bytes: the high bytes of digits and of line ends.
 Encoding GuessEncoding(std::string_view bytes) {
   std::size_t zeros[2] = {0, 0};
   for (std::size_t i = 0; i < bytes.size(); ++i) zeros[i % 2] += bytes[i] == '\0' ? 1 : 0;
-  if (zeros[0] == 0 && zeros[1] == 0) return Encoding::Utf8;
+  if (zeros[0] == 0 && zeros[1] == 0) return Encoding::Bytes;
   return zeros[0] > zeros[1] ? Encoding::Utf16Big : Encoding::Utf16Little;
 }
 
@@ -113,29 +133,43 @@ std::string DecodeUtf16(std::string_view bytes) {
   return text;
 }
 
-std::string DecodeUtf8(std::string_view bytes) {
+std::string DecodeWindows1252(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size());
-  for (std::size_t place = 0; place < bytes.size();) AppendUtf8(text, NextCodePoint(bytes, place));
+  for (const char byte : bytes) AppendUtf8(text, FromWindows1252(byte));
+  return text;
+}
+
+/// Without a mark, bytes that are not UTF-8 throughout are Windows-1252, where two of them can look like
+/// UTF-8. With one, only those that fit nowhere are.
+std::string DecodeUtf8(std::string_view bytes, bool marked) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (std::size_t place = 0; place < bytes.size();) {
+    const char byte = bytes[place];
+    const std::optional<char32_t> c = TakeCodePoint(bytes, place);
+    if (!c && !marked) return DecodeWindows1252(bytes);
+    AppendUtf8(text, c ? *c : FromWindows1252(byte));
+  }
   return text;
 }
 
 std::string ToUtf8(std::string_view bytes) {
-  Encoding encoding = Encoding::Utf8;
+  Encoding encoding{};
   if (bytes.starts_with(Mark)) {
     encoding = Encoding::Utf16Little;
     bytes.remove_prefix(2);
   } else if (bytes.starts_with("\xFE\xFF")) {
     encoding = Encoding::Utf16Big;
     bytes.remove_prefix(2);
-  } else if (bytes.starts_with("\xEF\xBB\xBF")) {
-    bytes.remove_prefix(3);
+  } else if (bytes.starts_with(Utf8Mark)) {
+    return DecodeUtf8(bytes.substr(Utf8Mark.size()), true);
   } else {
     encoding = GuessEncoding(bytes);
   }
   if (encoding == Encoding::Utf16Little) return DecodeUtf16<ByteOrder{0, 1}>(bytes);
   if (encoding == Encoding::Utf16Big) return DecodeUtf16<ByteOrder{1, 0}>(bytes);
-  return DecodeUtf8(bytes);
+  return DecodeUtf8(bytes, false);
 }
 
 /// Widens `count` characters to UTF-16 units. Returns whether all of them were ASCII.

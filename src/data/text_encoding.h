@@ -56,8 +56,9 @@ class TextLines {
   std::size_t size_ = 0;
 };
 
-/// The lines in `bytes`: UTF-16 in either byte order or UTF-8, with or without a byte-order mark, with CR LF
-/// or LF, the last line with or without an end. Never fails: what cannot be decoded reads as U+FFFD.
+/// The lines in `bytes`: UTF-16 in either byte order or UTF-8, with or without a byte-order mark, or
+/// Windows-1252; with CR LF or LF, the last line with or without an end. Never fails: no bytes are beyond
+/// Windows-1252.
 TextLines Decode(std::string_view bytes);
 
 /// Text in the making: UTF-16 little-endian with the byte-order mark, and CR LF after every line.

@@ -6,6 +6,7 @@
 #include "data/championship_store.h"
 #include "data/file_names.h"
 #include "data/knock_out.h"
+#include "data/name_order.h"
 #include "data/team_store.h"
 #include "data/tell_failure.h"
 

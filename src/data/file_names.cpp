@@ -3,35 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <locale>
-#include <stdexcept>
 #include <utility>
 
+#include "data/name_order.h"
 #include "data/text_encoding.h"
 
 namespace kickwell {
 namespace {
-
-/// The letter facts of all scripts, where the system has them; else those of ASCII.
-std::locale LetterLocale() {
-  try {
-    return std::locale("C.UTF-8");
-  } catch (const std::runtime_error&) {
-    return std::locale::classic();
-  }
-}
-
-/// Two texts have equal keys exactly when they differ in nothing but letter case.
-std::u32string CaseKey(std::string_view text) {
-  static const std::locale Letters = LetterLocale();
-  const auto& facet = std::use_facet<std::ctype<wchar_t>>(Letters);
-  std::u32string key = ToCodePoints(text);
-  for (char32_t& c : key) {
-    // Up and down again also joins letters with several lower-case forms, such as the final sigma.
-    c = static_cast<char32_t>(facet.tolower(facet.toupper(static_cast<wchar_t>(c))));
-  }
-  return key;
-}
 
 /// CON, NUL and their like, which some systems take for devices whatever extension follows.
 bool IsDeviceName(std::string_view name) {
@@ -70,15 +48,11 @@ bool StaysInFolder(std::string_view name) {
          std::filesystem::path(name).has_filename() && std::filesystem::path(name).filename() == name;
 }
 
-bool ListedBefore(std::string_view a, std::string_view b) {
-  return std::pair(CaseKey(a), a) < std::pair(CaseKey(b), b);
-}
-
 std::vector<std::string> ListFiles(FileSystem& files, const std::filesystem::path& folder,
                                    std::string_view extension) {
-  std::vector<std::pair<std::u32string, std::string>> found;  // With the case key, made once for each.
+  std::vector<std::pair<std::u32string, std::string>> found;  // With its key, made once for each.
   for (std::string& name : files.List(folder)) {
-    if (name.ends_with(extension)) found.emplace_back(CaseKey(name), std::move(name));
+    if (name.ends_with(extension)) found.emplace_back(OrderKey(name), std::move(name));
   }
   std::ranges::sort(found);
   std::vector<std::string> names;

@@ -21,10 +21,6 @@ std::string FileNameRefusal(std::string_view name);
 /// name by hand as this system allows can be read.
 bool StaysInFolder(std::string_view name);
 
-/// Whether `a` comes before `b` in a listing: alphabetical ignoring letter case in any script, then by exact
-/// text.
-bool ListedBefore(std::string_view a, std::string_view b);
-
 /// The names of all regular files in `folder` that end in `extension`, in the order of ListedBefore; none
 /// when the folder cannot be read.
 std::vector<std::string> ListFiles(FileSystem& files, const std::filesystem::path& folder,

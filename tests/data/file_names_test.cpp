@@ -24,9 +24,27 @@ TEST(FileNames, RefusesWhatSomeSystemCannotName) {
   EXPECT_EQ(FileNameRefusal("a:b"), "a:b can't be used as a file name.");
 }
 
-TEST(FileNames, ListsFilesIgnoringCaseInAnyScript) {
-  const std::vector<std::string> sorted = {".dot",  "A",    "a",         "a.leg",     "b",      "B.LEG",
-                                           "zebra", "Zulu", "\u00C9lan", "\u00E9lan", "\u0434", "\u0416"};
+TEST(FileNames, ListsFilesByTheirLettersWhateverTheirCaseAndAccents) {
+  const std::vector<std::string> sorted = {".dot",
+                                           "A",
+
+                                           "a.leg",
+                                           "A\u0301b",
+                                           "Arger",
+                                           "\u00C4rger",
+                                           "b",
+                                           "B.LEG",
+                                           "\u00C9lan",
+                                           "\u00E9lan",
+                                           "\u0218a",
+                                           "Stra\u00DFe",
+                                           "STRASSEN",
+                                           "zebra",
+                                           "Zulu",
+                                           "\u038C\u03C1\u03BF\u03C2",
+                                           "\u03BF\u03C3\u0391",
+                                           "\u0434",
+                                           "\u0416"};
   TestFolder folder;
   for (const std::string& name : sorted) folder.Write(name, "");
   EXPECT_EQ(ListFiles(folder.Files, folder.Folder.Root), sorted);

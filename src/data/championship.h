@@ -42,6 +42,7 @@ struct Championship {
   ChampionshipId Id;
   std::vector<std::string> Teams;
   std::vector<Fixture> Fixtures;  ///< Number k stands at place k - 1.
+  std::string Rest{};  ///< What a damaged file holds behind its fixtures, with CR LF after each line.
 
   bool operator==(const Championship&) const = default;
 };

@@ -1,6 +1,7 @@
 #include "data/championship_store.h"
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 #include "base/number.h"
@@ -112,6 +113,7 @@ Loaded<std::optional<Championship>> ReadChampionship(const ProgramFolder& folder
                                                  : std::min(static_cast<std::size_t>(std::max(promised, 0)),
                                                             reader.RecordsLeft(fixtureLines));
   read.Fixtures = TakeFixtures(reader, fixtures, id.Kind);
+  read.Rest = reader.Rest();
   return {std::move(read)};
 }
 
@@ -139,6 +141,7 @@ ChangedFile ChangedChampionship(const Championship& championship) {
     for (const std::string* line : {&fixture.Status, &fixture.Home, &fixture.Away}) text.Add(*line);
     if (!IsLeague(id.Kind)) text.Add(fixture.Winner);
   }
+  text.AddLines(championship.Rest);
   return {FileIn(id, MainExtension(id.Kind)), std::move(text).Bytes()};
 }
 
@@ -167,10 +170,12 @@ Loaded<std::vector<StandingsRow>> ReadStandings(const ProgramFolder& folder, con
     row.Team = reader.Text();
     for (const auto figure : StandingsRow::Figures()) row.*figure = reader.Number();
   }
+  std::map<std::string, int> missing;  // Rows by team; one listed twice has two.
+  for (const std::string& team : teams) ++missing[team];
+  for (const StandingsRow& row : standings) --missing[row.Team];
   for (const std::string& team : teams) {
     if (standings.size() == teams.size()) break;
-    if (std::ranges::find(standings, team, &StandingsRow::Team) == standings.end())
-      standings.push_back({team});
+    if (missing[team]-- > 0) standings.push_back({team});
   }
   return {std::move(standings), result};
 }
@@ -241,6 +246,7 @@ FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const
     text.Add(scored.Team);
     text.Add(scored.Goals);
   }
+  text.AddLines(reader.Rest());
   return WriteFile(folder, id, Scorers, text);
 }
 

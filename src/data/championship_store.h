@@ -2,7 +2,8 @@
 // is played.
 //
 // Readers take what is there: a count that is no number is 0, a file that ends early gives its complete
-// records, a figure that is no number is 0. A name that would leave the folder never becomes a path.
+// records, a figure that is no number is 0. What stands behind the complete records stays there when a match
+// is recorded. A name that would leave the folder never becomes a path.
 #pragma once
 
 #include <array>
@@ -24,7 +25,7 @@ std::string MainFileName(const ChampionshipId& id);
 /// The championship whose main file bears that name.
 ChampionshipId IdOfMainFile(ChampionshipKind kind, const std::string& fileName);
 
-/// The names of all main files of the kind, alphabetical ignoring letter case.
+/// The names of all main files of the kind, in the order of ListedBefore.
 std::vector<std::string> ListChampionships(const ProgramFolder& folder, ChampionshipKind kind);
 
 /// Whether there is such a main file, readable or not.
@@ -72,7 +73,7 @@ Loaded<std::vector<ScorerRow>> ReadScorers(const ProgramFolder& folder, const Ch
 FileResult PutScorersBy(const ProgramFolder& folder, const ChampionshipId& id);
 
 /// Raises the tally of every scorer called `scored.Player` by `scored.Goals`. If there is none, `scored`
-/// becomes the last scorer. The lines of the others stay as they are.
+/// becomes the last scorer. All other lines stay as they are.
 FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const ScorerRow& scored);
 
 /// The lines of the results log.

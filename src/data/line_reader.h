@@ -42,6 +42,12 @@ class LineReader {
     return std::min(static_cast<std::size_t>(count), RecordsLeft(lines));
   }
 
+  /// The lines that are left, with CR LF after each of them, but no blank ones at the end.
+  std::string_view Rest() const {
+    const std::size_t last = rest_.find_last_not_of(" \t\r\n");
+    return last == std::string_view::npos ? std::string_view() : rest_.substr(0, rest_.find('\n', last) + 1);
+  }
+
   /// The lines taken since the last call, with CR LF after each of them.
   std::string_view Passed() {
     const std::string_view text = lines_.Text();

@@ -1,5 +1,6 @@
 #include "data/team_store.h"
 
+#include "base/number.h"
 #include "data/file_names.h"
 #include "data/line_reader.h"
 #include "data/text_file.h"
@@ -8,6 +9,10 @@ namespace kickwell {
 namespace {
 
 constexpr std::size_t PlayerLines = 3;
+
+bool IsBlank(const Player& player) {
+  return WithoutBlanks(player.Name + player.Skill + player.Position).empty();
+}
 
 }  // namespace
 
@@ -28,16 +33,19 @@ Loaded<std::optional<Team>> LoadTeam(const ProgramFolder& folder, const std::str
   while (reader.RecordsLeft(PlayerLines) > 0) {
     team.Players.push_back({reader.Text(), reader.Text(), reader.Text()});
   }
+  team.Rest = reader.Rest();
+  while (team.Rest.empty() && !team.Players.empty() && IsBlank(team.Players.back())) team.Players.pop_back();
   return {std::move(team)};
 }
 
 FileResult SaveTeam(const ProgramFolder& folder, const Team& team) {
-  if (!IsFileName(team.Name)) return {FileNameRefusal(team.Name)};
+  if (!IsFileName(team.Name) && !TeamExists(folder, team.Name)) return {FileNameRefusal(team.Name)};
   EncodedText text;
   text.Add(team.Skill);
   for (const Player& player : team.Players) {
     for (const std::string* line : {&player.Name, &player.Skill, &player.Position}) text.Add(*line);
   }
+  text.AddLines(team.Rest);
   return ReplaceFile(folder.Files(), folder.Teams() / team.Name, text.Bytes(), folder.Root);
 }
 

@@ -22,21 +22,22 @@ struct Team {
   std::string Name;   ///< The name of its file; not stored inside.
   std::string Skill;  ///< The team's reputation, a whole number 1..99 as it was entered.
   std::vector<Player> Players;
+  std::string Rest{};  ///< The lines of a last player who is not complete, with CR LF after each.
 
   bool operator==(const Team&) const = default;
 };
 
-/// The names of all teams, alphabetical ignoring letter case. Every regular file of the folder is a team.
+/// The names of all teams, in the order of ListedBefore. Every regular file of the folder is a team.
 std::vector<std::string> ListTeams(const ProgramFolder& folder);
 
 /// Whether there is a team of that name, readable or not.
 bool TeamExists(const ProgramFolder& folder, const std::string& name);
 
-/// The team of that name; none when there is no such file. Texts stay as they were read. A last player
-/// without all three lines is left out.
+/// The team of that name; none when there is no such file. Texts stay as they were read. Blank lines at the
+/// end are no player.
 Loaded<std::optional<Team>> LoadTeam(const ProgramFolder& folder, const std::string& name);
 
-/// Writes the whole file of the team, new or not. Refuses a name that cannot be a file name.
+/// Writes the whole file of the team. Refuses a new one whose name cannot be a file name.
 FileResult SaveTeam(const ProgramFolder& folder, const Team& team);
 
 /// Deletes the team's file, then settings.cfg; either may be missing.

@@ -7,6 +7,7 @@
 #include "data/championship_store.h"
 #include "data/file_names.h"
 #include "data/tell_failure.h"
+#include "data/text_file.h"
 #include "engine/match_setup.h"
 
 namespace kickwell {
@@ -153,7 +154,8 @@ void TeamEditor::Command5_Click() {
   }
   const std::string name = Combo3.Text();
   if (name.empty() || !desktop_.Ask("Are you sure you want to delete " + name + "?", Enter::No)) return;
-  if (!TellFailure(desktop_, DeleteTeam(folder_, name))) return;
+  const bool deleted = TellFailure(desktop_, DeleteTeam(folder_, name));
+  if (!deleted && !FileIsMissing(folder_.Files(), folder_.Teams() / name)) return;
   Combo3.RemoveAt(Combo3.Picked);
   team_ = {};  // Gone for good, even if no other team can be loaded.
   ShowSquad(0);

@@ -34,9 +34,14 @@ TEST_F(StoresTest, ATeamIsReadAsItWasSaved) {
   EXPECT_TRUE(TeamExists(folder_, "Rovers"));
 }
 
-TEST_F(StoresTest, ATeamOfAnyNameIsReadAndDeletedButNoneIsMade) {
+TEST_F(StoresTest, ATeamOfAnyNameIsReadSavedAndDeletedButNoneIsMade) {
   at_.Write("Teams/F.C.", "50\nA\n60\nGK\nB\n61");  // The last player is cut short.
   at_.Write("settings.cfg", "");
+  const Team team = LoadTeam(folder_, "F.C.").Value.value();
+  EXPECT_EQ(team.Players, (std::vector<Player>{{"A", "60", "GK"}}));
+  EXPECT_TRUE(SaveTeam(folder_, team).Ok());
+  ExpectFile("Teams/F.C.", "50\nA\n60\nGK\nB\n61\n");
+  at_.Write("Teams/F.C.", "50\nA\n60\nGK\n\n \n\n\n");  // Blank lines are no player.
   EXPECT_EQ(LoadTeam(folder_, "F.C.").Value, (Team{"F.C.", "50", {{"A", "60", "GK"}}}));
   EXPECT_FALSE(SaveTeam(folder_, {"CON", "1", {}}).Ok());
   EXPECT_TRUE(DeleteTeam(folder_, "F.C.").Ok());
@@ -55,7 +60,7 @@ TEST_F(StoresTest, StadiumsAreReadAsTheyWereSaved) {
 
 TEST_F(StoresTest, AWrongCountOfStadiumsGivesTheCompleteOnes) {
   const std::pair<const char*, std::size_t> counts[] = {
-      {"0", 0}, {"1", 1}, {"2", 2}, {"3", 2}, {"99999999999999999999", 2}, {"many", 2}, {"-1", 2}};
+      {"0", 0}, {" 1\t\u00A0", 1}, {"2", 2}, {"3", 2}, {"99999999999999999999", 2}, {"many", 2}, {"-1", 2}};
   for (const auto& [count, expected] : counts) {
     at_.Write("stadiums.sim", std::string(count) + "\nA\nB\nC\n1\nD\nE\nF\n2\nG\nH");
     EXPECT_EQ(LoadStadiums(folder_).Value.size(), expected) << count;
@@ -98,15 +103,17 @@ TEST_F(StoresTest, ADamagedChampionshipGivesItsCompleteTeamsAndFixtures) {
   }
   at_.Write("Tournies/Cup.trn", "99\nCup\n2\nA\nB\nNP\nA\nB\nWinner 1\nNP\nA");
   EXPECT_EQ(Read(Cup).Fixtures.size(), 1U);
+  EXPECT_EQ(ChangedChampionship(Read(Cup)).Bytes,
+            AsWritten("1\nCup\n2\nA\nB\nNP\nA\nB\nWinner 1\nNP\nA\n"));  // The rest is kept.
 }
 
 TEST_F(StoresTest, StandingsHaveARowForEveryTeam) {
   const std::vector<StandingsRow> zeros = {{"A"}, {"B"}};
   EXPECT_EQ(ReadStandings(folder_, Top, {"A", "B"}).Value, zeros);
   at_.Write("Leagues/Top.rec",
-            "A\n1x\n1\n0\n0\n2\n1\n3\nB\n1");  // A figure is no number; B's row is cut short.
-  const std::vector<StandingsRow> complete = {{"A", 0, 1, 0, 0, 2, 1, 3}, {"B"}};
-  EXPECT_EQ(ReadStandings(folder_, Top, {"A", "B"}).Value, complete);
+            "A\n1x\n 1\n0\n0\n2\n1\n3\nB\n1");  // A figure is no number; B's row is cut short.
+  const std::vector<StandingsRow> complete = {{"A", 0, 1, 0, 0, 2, 1, 3}, {"B"}, {"B"}};
+  EXPECT_EQ(ReadStandings(folder_, Top, {"A", "B", "B"}).Value, complete);  // As often as it is listed.
 }
 
 TEST_F(StoresTest, ANewTeamsStandingsStandBehindTheCompleteRows) {
@@ -115,10 +122,12 @@ TEST_F(StoresTest, ANewTeamsStandingsStandBehindTheCompleteRows) {
   ExpectFile("Leagues/Top.rec", "A\n1\n1\n0\n0\n2\n1\n3\nC\n0\n0\n0\n0\n0\n0\n0\n");
 }
 
-TEST_F(StoresTest, ScorersAreTheCompleteOnes) {
+TEST_F(StoresTest, ScorersAreTheCompleteOnesAndTheRestIsKept) {
   EXPECT_TRUE(ReadScorers(folder_, Top).Value.empty());
   at_.Write("Leagues/Top.sco", "Ann\nA\nno\nBo\nB");
   EXPECT_EQ(ReadScorers(folder_, Top).Value, (std::vector<ScorerRow>{{"Ann", "A", 0}}));
+  for (const char* scorer : {"Ann", "Cy"}) EXPECT_TRUE(AddGoals(folder_, Top, {scorer, "A", 1}).Ok());
+  ExpectFile("Leagues/Top.sco", "Ann\nA\n1\nCy\nA\n1\nBo\nB\n");
 }
 
 TEST_F(StoresTest, ResultsStandBehindEachOtherWithAnEmptyLineBetween) {

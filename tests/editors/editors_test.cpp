@@ -161,7 +161,9 @@ TEST_F(EditorsTest, AFileThatCannotBeReadIsReportedOnceAndKept) {
   }
   StadEditor stadiums(folder_.Folder, desktop_);
   EXPECT_EQ(desktop_.Taken(), messages);
-  teams.Command5_Click();  // A goes, and B can't take its place.
+  Write("settings.cfg/in the way", "");  // Can't be deleted.
+  teams.Command5_Click();                // A goes, and B can't take its place.
+  EXPECT_EQ(teams.Combo3.Entries, (Texts{"B", "C"}));
   EXPECT_EQ(teams.List1.Count(), 0);
   folder_.Files.Unreadable.clear();
   AddStadium(stadiums, "Park", "5");

@@ -1,5 +1,6 @@
 #include "championship/leg_editor.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "base/at.h"
@@ -116,7 +117,11 @@ bool LegEditor::MayBeSaved(const EditorSide& side) {
     desktop_.Inform("Please enter a name for the championship");
   } else if (side.IsLeague() && side.Selected.Count() > MostTeamsOfLeague) {
     desktop_.Inform("A league can have at most " + std::to_string(MostTeamsOfLeague) + " teams");
-  } else if (!IsFileName(side.Name)) {
+  } else if (const auto placeholder = std::ranges::find_if(side.Selected.Entries, PlaceholderNumber);
+             !side.IsLeague() && placeholder != side.Selected.Entries.end()) {
+    desktop_.Inform("A knock-out can't be played with a team called " + *placeholder);
+  } else if (const ChampionshipId id{side.Kind, side.Name};
+             !IsFileName(MainFileName(id)) && !ChampionshipExists(folder_, id)) {
     Next = side.IsLeague() ? "LeagueName" : "KnockOutName";
     desktop_.Warn(FileNameRefusal(side.Name));
   } else {

@@ -25,7 +25,7 @@ struct EditorSide {
 
   ChampionshipKind Kind;
   std::string Name;              ///< In the name box, at most 20 characters.
-  ItemList Available, Selected;  ///< Team lists, alphabetical ignoring letter case.
+  ItemList Available, Selected;  ///< Team lists, in the order of ListedBefore.
   ItemList FixtureList;          ///< As the fixtures are shown.
   std::vector<Pairing> Table;    ///< The fixtures themselves.
   ItemList Load;                 ///< Main files of this kind.

@@ -67,7 +67,22 @@ TEST_F(LegEditorTest, TeamsMoveBetweenTheListsAndTheChoosers) {
   EXPECT_EQ(side.Home.Text(), "T101");  // Stays picked.
 }
 
+TEST_F(LegEditorTest, OnlyANewFileIsRefusedForItsName) {
+  Write("Leagues/Aux.leg", "Aux\n2\nT100\nT101\n1\nNP\nT100\nT101\n");
+  LegEditor editor = Open();
+  editor.Load_Click(editor.League, 0);
+  for (const char* name : {"Aux", "Div 1 res.", "Con"}) {
+    editor.League.Name = name;
+    editor.Save_Click(editor.League);
+  }
+  EXPECT_EQ(desktop_.Taken(),
+            (Texts{"? (No): Do you want to overwrite Aux?", "?: Are you sure you want to add Div 1 res.?",
+                   "!: Con can't be used as a file name."}));
+  EXPECT_TRUE(Exists("Leagues/Div 1 res..leg"));
+}
+
 TEST_F(LegEditorTest, EveryRefusalHasItsMessage) {
+  Write("Tournies/Cup.trn", "1\nCup\n2\nA\nWinner 1\nNP\nA\nWinner 1\nWinner 1\n");
   LegEditor editor = Open();
   EditorSide &league = editor.League, &knockOut = editor.KnockOut;
   Select(league, 1);
@@ -101,9 +116,12 @@ TEST_F(LegEditorTest, EveryRefusalHasItsMessage) {
   knockOut.Selected.Picked = 0;
   LegEditor::RemoveTeam_Click(knockOut);
   editor.Save_Click(knockOut);  // The fixture's home team is not selected any more.
+  editor.Load_Click(knockOut, 0);
+  editor.Save_Click(knockOut);
   EXPECT_EQ(desktop_.Taken(), (Texts{"i: Please add the championship fixtures properly",
                                      "i: Total teams selected doesn't match the number of teams",
-                                     "i: Please add the championship fixtures properly"}));
+                                     "i: Please add the championship fixtures properly",
+                                     "i: A knock-out can't be played with a team called Winner 1"}));
 }
 
 TEST_F(LegEditorTest, ALeagueIsKeptWithinItsLimits) {
@@ -203,7 +221,8 @@ TEST_F(LegEditorTest, TheLoadedChampionshipIsDeletedUnlessItIsTheLast) {
   league.Name = "";
   editor.Delete_Click(league);
   EXPECT_EQ(desktop_.Taken(),
-            (Texts{"? (No): Are you sure you want to remove B.leg?", "? (No): Are you sure you want to remove B.leg?",
+            (Texts{"? (No): Are you sure you want to remove B.leg?",
+                   "? (No): Are you sure you want to remove B.leg?",
                    "i: You can't delete any more championship", "i: Please load a championship to delete"}));
 }
 

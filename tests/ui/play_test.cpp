@@ -129,6 +129,9 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   user_.Click("Command1");
   user_.In("Main");
   user_.ExpectText("fixture", "Test, match 1");
+  user_.Do([](const QWidget& window) {
+    EXPECT_TRUE(window.findChild<QWidget*>("ven")->toolTip().contains("Weather: "));  // Drawn just now.
+  });
   user_.Click("halftime");
   ExpectTexts({{"halftime", "&Normal Time 2nd Half"}, {"Label3", "45:00"}});
   user_.Click("halftime");

@@ -25,26 +25,9 @@ TEST(FileNames, RefusesWhatSomeSystemCannotName) {
 }
 
 TEST(FileNames, ListsFilesByTheirLettersWhateverTheirCaseAndAccents) {
-  const std::vector<std::string> sorted = {".dot",
-                                           "A",
-
-                                           "a.leg",
-                                           "A\u0301b",
-                                           "Arger",
-                                           "\u00C4rger",
-                                           "b",
-                                           "B.LEG",
-                                           "\u00C9lan",
-                                           "\u00E9lan",
-                                           "\u0218a",
-                                           "Stra\u00DFe",
-                                           "STRASSEN",
-                                           "zebra",
-                                           "Zulu",
-                                           "\u038C\u03C1\u03BF\u03C2",
-                                           "\u03BF\u03C3\u0391",
-                                           "\u0434",
-                                           "\u0416"};
+  const std::vector<std::string> sorted = {
+      ".dot", "A",      "a.leg",    "A\u0301b", "Arger", "Ärger", "b",   "B.LEG", "Élan", "élan",
+      "Șa",   "Straße", "STRASSEN", "zebra",    "Zulu",  "Όρος",  "οσΑ", "д",     "Ж"};
   TestFolder folder;
   for (const std::string& name : sorted) folder.Write(name, "");
   EXPECT_EQ(ListFiles(folder.Files, folder.Folder.Root), sorted);

@@ -1,4 +1,4 @@
-// How a match opens, and its pages.
+// How a match opens, its instant result, and its pages.
 #include "engine/match.h"
 
 #include "engine/goal.h"
@@ -15,6 +15,14 @@ class MatchTest : public ScreenTest {
     return Match(folder_.Folder, desktop_, draws_, recording_, setup).Session();
   }
 
+  /// The session of a match that was played at once.
+  MatchSession Play(MatchMode mode, Random& random) {
+    Match match(folder_.Folder, desktop_, random, recording_, MakeSetup(mode));
+    match.instant_Click();
+    match.instant_Click();  // Played once only.
+    return match.Session();
+  }
+
   MatchDraws draws_;
 };
 
@@ -26,42 +34,50 @@ TEST_F(MatchTest, StrengthNarrowsTheRangeOfTheGoalDraw) {
 TEST_F(MatchTest, TheWeatherLimitsTheCrowdWhichIsDrawnUntilItIsHalfFull) {
   MatchSetup setup = MakeSetup();
   setup.Capacity = 100;
-  const std::array<WeatherKind, 5> limits = {
-      {{"Clear Skies", 100}, {"Overcast", 95}, {"Rainy", 85}, {"Warm & Humid", 90}, {"Windy", 80}}};
-  EXPECT_EQ(Weathers, limits);
-  for (const WeatherKind& weather : limits) {
-    setup.Weather = weather;
-    draws_.Expect({{weather.AttendanceFactor, 49}, {weather.AttendanceFactor, 57}});
-    draws_.DrawGoalNumber();
-    EXPECT_EQ(Open(setup).Attendance, 56);  // 0.57 x 100 lies just below 57.
-  }
+  setup.Weather = {"Windy", 80};
+  draws_.Expect({{80, 49}, {80, 57}});
+  draws_.DrawGoalNumber();
+  EXPECT_EQ(Open(setup).Attendance, 56);  // 0.57 x 100 lies just below 57.
 }
 
-TEST_F(MatchTest, ALeagueMatchIsPlayedAtTheFirstStadiumOfTheHomeTeam) {
-  Write("stadiums.sim",
-        "3\nNeutral\nBowl\nOss\n60000\nRovers\nThe Mill\nLeat\n4000\nRovers\nOld Mill\nLeat\n300\n");
-  draws_.Expect({{3, 2}, {5, 2}, {85, 60}});  // For the stadium before it; rainy; the crowd.
+TEST_F(MatchTest, ALeagueMatchIsPlayedAtTheFirstStadiumOfTheHomeTeamOrAtTheLastOneDrawn) {
+  const std::string bowl = "Neutral\nBowl\nOss\n60000\n", mill = "Rovers\nThe Mill\nLeat\n4000\n";
+  constexpr Draw Rainy{5, 2}, Crowd{85, 60};
+  Write("stadiums.sim", "3\n" + bowl + mill + "Rovers\nOld Mill\nLeat\n300\n");
+  draws_.Expect({{3, 2}, Rainy, Crowd});  // One is drawn for the stadium before it.
   draws_.DrawGoalNumber();
-  const MatchSession s = Open(MakeSetup(MatchMode::League));
-  EXPECT_EQ(s.Venue, "The Mill, Leat");
-  EXPECT_EQ(s.Attendance, 2400);
-  EXPECT_FALSE(s.ExtraTime || s.PenaltyShootOut);
+  const MatchSession home = Open(MakeSetup(MatchMode::League));
+  EXPECT_EQ(home.Venue, "The Mill, Leat");
+  EXPECT_EQ(home.Attendance, 2400);
+  EXPECT_FALSE(home.ExtraTime || home.PenaltyShootOut);
+  Write("stadiums.sim", "2\n" + bowl + "United\nPark\nLey\n300\n");
+  draws_.Expect({{2, 0}, {2, 1}, Rainy, Crowd});
+  draws_.DrawGoalNumber();
+  EXPECT_EQ(Open(MakeSetup(MatchMode::KnockOut)).Venue, "Park, Ley");
 }
 
-TEST_F(MatchTest, ATeamWithoutAStadiumPlaysAtTheLastOneDrawn) {
-  Write("stadiums.sim", "2\nNeutral\nBowl\nOss\n600\nUnited\nPark\nLey\n300\n");
-  draws_.Expect({{2, 0}, {2, 1}, {5, 3}, {90, 50}});  // Two stadiums; warm and humid; the crowd.
-  draws_.DrawGoalNumber();
-  const MatchSession s = Open(MakeSetup(MatchMode::KnockOut));
-  EXPECT_EQ(s.Venue, "Park, Ley");
-  EXPECT_TRUE(s.ExtraTime && s.PenaltyShootOut);
+TEST_F(MatchTest, AnInstantMatchIsPlayedToItsLastSecondOrToAGoldenGoal) {
+  random_.Goals = "1" + std::string(89 * 60 - 2, '.') + "1";
+  const MatchSession s = Play(MatchMode::Friendly, random_);
+  EXPECT_EQ(s.Summary.Entries, (Texts{"01:00 >> R5 (Rovers)", "89:59 >> R5 (Rovers)", "",
+                                      "Result:", "Rovers beats United 2-0"}));
+  EXPECT_EQ(s.Side1.Shots, 2);
+  random_.Goals = std::string(90 * 60, '.') + "22";
+  EXPECT_EQ(Play(MatchMode::KnockOut, random_).Summary.Entries,
+            (Texts{"92:00 >> U5 (United)", "GOLDEN GOAL!", "", "Result:", "United beats Rovers 1-0"}));
+  EXPECT_EQ(recording_.Calls,
+            (Texts{"scorer R5 of Rovers", "scorer R5 of Rovers", "scorer U5 of United", "result United"}));
 }
 
-TEST_F(MatchTest, NobodyComesWhenTheListOfStadiumsIsEmpty) {
-  Write("stadiums.sim", "0\n");
-  draws_.Expect({{5, 4}, {80, 50}});  // Weather and crowd are drawn all the same.
+TEST_F(MatchTest, ThirtyInstantKicksWithoutAWinnerAreFollowedByAToss) {
   draws_.DrawGoalNumber();
-  EXPECT_EQ(Open(MakeSetup(MatchMode::League)).Attendance, 0);
+  draws_.Expect(4000, MatchDraws::GoalNumber, 2 * (89 + 29) * 60);  // Equal draws never score.
+  for (int kick = 0; kick < 30; ++kick) draws_.InstantKick(true);
+  draws_.Expect({{2, 1}, {70, 64}, {4, 3}, {3, 0}, {4, 0}, {0, 0}, {5, 0, 4}});  // The toss; the facts.
+  const MatchSession s = Play(MatchMode::KnockOut, draws_);
+  EXPECT_EQ(s.Summary.Entries.front(), "PENALTY SHOOT OUT!");
+  EXPECT_EQ(s.Summary.Text(), "PSO was tied at 15-15");
+  EXPECT_EQ(recording_.Calls, Texts{"shoot-out United (By Toss)"});
 }
 
 TEST_F(MatchTest, PagesAreWrittenToTheLetter) {

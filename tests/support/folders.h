@@ -1,7 +1,6 @@
 // Program folders of a test's own.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -24,8 +23,10 @@ class TestFolder {
   std::filesystem::path operator/(const std::string& name) const { return Folder.Root / name; }
 
   void Write(const std::string& file, const std::string& bytes) { Files.Put(*this / file, bytes); }
-  std::string Bytes(const std::string& file) const { return Files.Bytes(*this / file); }
-  bool Exists(const std::string& file) const { return Files.Has(*this / file); }
+  std::string Bytes(const std::string& file) const {
+    return Exists(file) ? Files.All().at(*this / file) : "";
+  }
+  bool Exists(const std::string& file) const { return Files.All().contains(*this / file); }
   void Remove(const std::string& file) { Files.Remove(*this / file); }
 
   MemoryFiles Files;
@@ -83,11 +84,6 @@ inline Team MakeTeam(const std::string& name, const std::string& prefix, const s
     team.Players.push_back({prefix + std::to_string(team.Players.size()), skill, position});
   }
   return team;
-}
-
-/// Writes teams of eleven of skill 80, whose players are called after them: "A0" to "A10".
-inline void AddTeams(const ProgramFolder& folder, std::initializer_list<const char*> names) {
-  for (const char* name : names) EXPECT_TRUE(SaveTeam(folder, MakeTeam(name, name)).Ok());
 }
 
 }  // namespace kickwell

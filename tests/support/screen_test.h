@@ -9,7 +9,6 @@
 #include "support/fakes.h"
 #include "support/folders.h"
 #include "support/matches.h"
-#include "support/scripted_random.h"
 
 namespace kickwell {
 
@@ -27,7 +26,10 @@ class ScreenTestIn : public testing::Test {
     return "!: The file " + (folder_ / file).string() + " can't be read: Permission denied.";
   }
 
-  void AddTeams(std::initializer_list<const char*> names) { kickwell::AddTeams(folder_.Folder, names); }
+  /// Writes teams of eleven of skill 80, whose players are called after them: "A0" to "A10".
+  void AddTeams(std::initializer_list<const char*> names) {
+    for (const char* name : names) EXPECT_TRUE(SaveTeam(folder_.Folder, MakeTeam(name, name)).Ok());
+  }
 
   ProgramFolderOfTest folder_;
   FakeDesktop desktop_;

@@ -235,7 +235,7 @@ QLayout* MatchWindow::BuildLists() {
                         ? "Goals appear here. Select Commentary for the whole story."
                         : "Goals and the result appear here.");
   for (LineList* const list : {summary_, commentary_}) {
-    list->setMinimumHeight(5 * list->fontMetrics().height() + 8);
+    list->setMinimumHeight(3 * list->fontMetrics().height() + 8);
     layout->addWidget(list);
   }
   return layout;

@@ -101,7 +101,10 @@ void TeamEditor::Command7_Click() {
 }
 
 void TeamEditor::Command8_Click() {
-  if (Combo3.Picked == ItemList::None) return;
+  if (Combo3.Picked == ItemList::None) {
+    Next = Combo3.Entries.empty() ? "Text1" : "Combo3";  // First a team.
+    return;
+  }
   if (Text2.empty() || Text4.empty()) {
     Next = Text2.empty() ? "Text2" : "Text4";
     desktop_.Warn("Please enter all the Player Details properly.");

@@ -43,7 +43,7 @@ class TeamEditor {
   ItemList Combo1, Combo2;   ///< Line and side of a new player.
   std::string Text1, Text5;  ///< Name and skill of a new team.
   std::string Text2, Text4;  ///< Name and skill of a new player.
-  std::string Next;          ///< The box to type in after an action; empty for where the user is.
+  std::string Next;          ///< The control to go on in after an action; empty for where the user is.
   bool Closed = false;
 
  private:

@@ -21,6 +21,12 @@ QPalette::ColorGroup GroupOf(QStyle::State state) {
 
 }  // namespace
 
+void SideTextDelegate::Serve(QAbstractItemView* list) {
+  constexpr int UsualEntry = 36;  // Characters, with the side text.
+  list->setItemDelegate(new SideTextDelegate(list));
+  list->setMinimumWidth(UsualEntry * list->fontMetrics().averageCharWidth());
+}
+
 void SideTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
   const QString whole = index.data(SideTextRole).toString();

@@ -1,6 +1,7 @@
 // Lists that tell more about an entry, in faint text beside it.
 #pragma once
 
+#include <QAbstractItemView>
 #include <QStyledItemDelegate>
 
 namespace kickwell {
@@ -14,6 +15,9 @@ inline constexpr int SideTextRole = Qt::UserRole + 1;
 class SideTextDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
+
+  /// Paints the entries of `list`, which gets the room for usual ones.
+  static void Serve(QAbstractItemView* list);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -1,8 +1,10 @@
 #include "ui/windows/screen_window.h"
 
 #include <QCloseEvent>
+#include <QFrame>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <algorithm>
 #include <utility>
 
@@ -14,6 +16,20 @@ namespace {
 /// The property under which the main window keeps the place of a screen's window.
 QByteArray PlaceOf(const QWidget& window) {
   return "place of " + window.objectName().toLatin1();
+}
+
+/// A line under a page, as long as there is more of it.
+QFrame* EdgeOf(const PageArea& page) {
+  auto* const line = new QFrame;
+  line->setFrameShape(QFrame::HLine);
+  line->setForegroundRole(QPalette::Mid);
+  QSizePolicy steady = line->sizePolicy();
+  steady.setRetainSizeWhenHidden(true);
+  line->setSizePolicy(steady);
+  line->setVisible(false);
+  QObject::connect(page.verticalScrollBar(), &QScrollBar::rangeChanged, line,
+                   [line](int least, int most) { line->setVisible(least < most); });
+  return line;
 }
 
 }  // namespace
@@ -32,6 +48,7 @@ ScreenWindow::ScreenWindow(const char* name, const QString& caption, QWidget* pa
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(area_, 1);
+  layout->addWidget(EdgeOf(*area_));
   layout->addWidget(buttons_);
   page_->setContentsMargins(PageMargin, PageMargin, PageMargin, 0);
   page_->setSpacing(BetweenGroups);

@@ -18,18 +18,10 @@ TEST_F(EditingTest, PlayersAreAddedFromTheKeyboardAlone) {
   TeamEditor editor(folder_.Folder, desktop_, "N/A");
   TeamEditorWindow window(editor, nullptr);
   window.show();
-  const auto type = [&window](const char* text) { QTest::keyClicks(window.focusWidget(), text); };
-  const auto next = [&window] { User::Press(window, Qt::Key_Tab); };
   window.findChild<QLineEdit*>("Text2")->setFocus();
-  type("Ann");
-  next();
-  type("0");
-  User::Press(window, Qt::Key_Return);  // The skill is refused and typed over.
-  type("71");
-  next();
-  type("mr");
-  User::Press(window, Qt::Key_Return);
-  type("Bea");
+  // A skill of 0 is refused and typed over; the line takes the side behind it.
+  for (const char* keys : {"Ann\t", "0\r", "71\t", "mr\r", "Bea"})
+    QTest::keyClicks(window.focusWidget(), keys);
   EXPECT_EQ(User::TextOf(window, "Label5"), "MFR");
   EXPECT_EQ(editor.Text2, "Bea");
   auto* const squad = window.findChild<QListWidget*>("List1");

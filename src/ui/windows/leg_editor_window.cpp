@@ -95,7 +95,7 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   widgets.LoadCaption = MakeCaption("Open / Load", widgets.Load);
   fixtures->addLayout(Beside(widgets.LoadCaption, widgets.Load));
   fixtures->addLayout(BuildFixtures(widgets, side, prefix), 1);
-  auto* const columns = Spaced(new QHBoxLayout, 2 * BetweenColumns);
+  auto* const columns = Spaced(new QHBoxLayout, BetweenHalves);
   columns->addLayout(teams, 1);
   columns->addLayout(fixtures, 1);
 

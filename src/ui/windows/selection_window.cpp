@@ -56,7 +56,7 @@ SelectionWindow::SelectionWindow(Selection& selection, QWidget* parent)
       command1_(Button("Command1", "&Continue >>", [this] { selection_.Command1_Click(); })) {
   const MatchSetup& setup = selection.Setup();
   auto* const sides = new QHBoxLayout;
-  sides->setSpacing(BetweenColumns);
+  sides->setSpacing(BetweenHalves);
   sides->addWidget(BuildSide(side1_, 1, Shown(setup.Team1Name), &Selection::Combo1_Click), 1);
   sides->addWidget(BuildSide(side2_, 2, Shown(setup.Team2Name), &Selection::Combo2_Click), 1);
 

@@ -62,7 +62,7 @@ TEST_F(MatchTest, AnInstantMatchIsPlayedToItsLastSecondOrToAGoldenGoal) {
   EXPECT_EQ(s.Summary.Entries, (Texts{"01:00 >> R5 (Rovers)", "89:59 >> R5 (Rovers)", "",
                                       "Result:", "Rovers beats United 2-0"}));
   EXPECT_EQ(s.Side1.Shots, 2);
-  random_.Goals = std::string(90 * 60, '.') + "22";
+  random_.Goals = std::string(89 * 60 + 60, '.') + "22";
   EXPECT_EQ(Play(MatchMode::KnockOut, random_).Summary.Entries,
             (Texts{"92:00 >> U5 (United)", "GOLDEN GOAL!", "", "Result:", "United beats Rovers 1-0"}));
   EXPECT_EQ(recording_.Calls,

@@ -16,7 +16,7 @@
 namespace kickwell {
 namespace {
 
-constexpr QMargins CellMargins(BetweenColumns / 2, InGroup / 2, BetweenColumns / 2, InGroup / 2);
+constexpr QMargins CellMargins(InGroup, InGroup / 2, InGroup, InGroup / 2);
 
 /// Lies over the labels of a row: takes the mouse for them, and the focus that screen readers follow.
 class Marker final : public QWidget {

@@ -46,6 +46,9 @@ SettingsWindow::SettingsWindow(Settings& settings, QWidget* parent)
   Page()->addStretch();
   SetButtons({.Right = {command1, command2}});
 
+  constexpr int UsualName = 18;  // Two choosers stand side by side, on small screens, too.
+  for (QComboBox* const combo : {combo1_, combo2_, combo3_, combo4_, combo5_})
+    combo->setMinimumContentsLength(UsualName);
   OnPick(combo1_, [this](int entry) { settings_.Combo1_Click(entry); });
   OnPick(combo2_, [this](int entry) { settings_.Combo2_Click(entry); });
   OnPick(combo3_, [this](int entry) { settings_.Combo3_Click(entry); });

@@ -73,6 +73,24 @@ TEST_F(ChampionshipPlayTest, ARangeGoesOnIntoTheNextRound) {
   EXPECT_EQ(Play(play, 1, 3), Texts{"Match 1: A v C"});  // What the file has lost is passed over.
 }
 
+TEST_F(ChampionshipPlayTest, WhatIsRecordedInPartIsNotPlayedAgain) {
+  Write("Leagues/Top.leg", "Top\n2\nA\nB\n2\nNP\nA\nB\nNP\nB\nA\n");
+  ChampionshipPlay play = Open(League);
+  WhilePlayed = [this] {
+    Write("~kickwell-7-1.tmp", "");
+    Write("~kickwell-7-2.tmp", "Top\n2\nA\nB\n2\nP\nA\nB\nNP\nB\nA\n");
+    Write("unfinished.journal",
+          "Kickwell journal 1\n~kickwell-7-1.tmp\nLeagues/Top.rec\n"
+          "~kickwell-7-2.tmp\nLeagues/Top.leg\nEnd\n");
+    Write("Leagues/Top.rec/in the way", "");
+  };
+  EXPECT_EQ(Play(play, 1, 2), Texts{"Match 1: A v B"});
+  EXPECT_EQ(desktop_.Taken(), Texts{"!: The file /kickwell/Leagues/Top.rec can't be saved: Is a directory."});
+  Remove("Leagues/Top.rec");
+  EXPECT_EQ(Play(play, 1, 2), Texts{"Match 2: B v A"});
+  EXPECT_EQ(desktop_.Taken(), Texts{"i: Match 1 has been played already"});
+}
+
 TEST_F(ChampionshipPlayTest, OnlyAChampionshipUnderItsOwnNameIsPlayed) {
   Open(League).Command1_Click();  // There is none.
   Write("Leagues/Another.leg", "Other\n2\nA\nB\n1\nNP\nA\nB\n");

@@ -48,10 +48,21 @@ bool StaysInFolder(std::string_view name) {
          std::filesystem::path(name).has_filename() && std::filesystem::path(name).filename() == name;
 }
 
+FileResult FoldersCanBeRead(const ProgramFolder& folder) {
+  for (const std::filesystem::path& kept : {folder.Teams(), folder.Leagues(), folder.Tournies()}) {
+    std::vector<std::string> names;
+    if (const std::error_code error = folder.Files().List(kept, names))
+      return {"The folder " + kept.string() + " can't be read: " + error.message() + "."};
+  }
+  return {};
+}
+
 std::vector<std::string> ListFiles(FileSystem& files, const std::filesystem::path& folder,
                                    std::string_view extension) {
   std::vector<std::pair<std::u32string, std::string>> found;  // With its key, made once for each.
-  for (std::string& name : files.List(folder)) {
+  std::vector<std::string> listed;
+  files.List(folder, listed);
+  for (std::string& name : listed) {
     if (name.ends_with(extension)) found.emplace_back(OrderKey(name), std::move(name));
   }
   std::ranges::sort(found);

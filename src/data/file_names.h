@@ -5,7 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "data/file_result.h"
 #include "data/file_system.h"
+#include "data/program_folder.h"
 
 namespace kickwell {
 
@@ -20,6 +22,9 @@ std::string FileNameRefusal(std::string_view name);
 /// Whether `name` is an entry of its folder itself and nothing beyond it. Wider than IsFileName: what users
 /// name by hand as this system allows can be read.
 bool StaysInFolder(std::string_view name);
+
+/// Whether teams and championships can be listed. A missing folder has none.
+FileResult FoldersCanBeRead(const ProgramFolder& folder);
 
 /// The names of all regular files in `folder` that end in `extension`, in the order of ListedBefore; none
 /// when the folder cannot be read.

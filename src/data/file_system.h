@@ -50,8 +50,9 @@ class FileSystem {
   /// link. Errors are ignored: a disk that cannot flush a folder has still made the changes.
   virtual void FlushFolderOf(const std::filesystem::path& file) = 0;
 
-  /// The names of all regular files in `folder`, in any order; none when it cannot be read.
-  virtual std::vector<std::string> List(const std::filesystem::path& folder) = 0;
+  /// Adds the names of all regular files in `folder` to `names`, in any order. A missing folder has none; one
+  /// that cannot be read gives an error.
+  virtual std::error_code List(const std::filesystem::path& folder, std::vector<std::string>& names) = 0;
 
   virtual int Process() const = 0;  ///< Identifies the running program, above 0.
   virtual bool IsRunning(int process) const = 0;

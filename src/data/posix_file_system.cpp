@@ -165,14 +165,13 @@ void PosixFileSystem::FlushFolderOf(const fs::path& file) {
   if (folder.IsOpen()) ::fsync(folder.Number());
 }
 
-std::vector<std::string> PosixFileSystem::List(const fs::path& folder) {
-  std::vector<std::string> names;
+std::error_code PosixFileSystem::List(const fs::path& folder, std::vector<std::string>& names) {
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     std::error_code typeError;
     if (entry->is_regular_file(typeError)) names.push_back(entry->path().filename().string());
   }
-  return names;
+  return error == std::errc::no_such_file_or_directory ? std::error_code() : error;
 }
 
 int PosixFileSystem::Process() const {

@@ -15,7 +15,7 @@ class PosixFileSystem final : public FileSystem {
                           const std::filesystem::path& target) override;
   std::error_code Delete(const std::filesystem::path& file) override;
   void FlushFolderOf(const std::filesystem::path& file) override;
-  std::vector<std::string> List(const std::filesystem::path& folder) override;
+  std::error_code List(const std::filesystem::path& folder, std::vector<std::string>& names) override;
   int Process() const override;
   bool IsRunning(int process) const override;
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <vector>
 
 #include "data/file_names.h"
 
@@ -95,7 +96,9 @@ bool IsTemporaryName(std::string_view name) {
 }
 
 void DeleteLeftovers(FileSystem& files, const fs::path& folder) {
-  for (const std::string& name : files.List(folder)) {
+  std::vector<std::string> names;
+  if (files.List(folder, names)) return;
+  for (const std::string& name : names) {
     const int process = ProcessOf(name);
     if (process != 0 && !files.IsRunning(process)) files.Delete(folder / name);
   }

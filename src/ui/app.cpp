@@ -8,6 +8,7 @@
 #include "championship/leg_results.h"
 #include "championship/standings_table.h"
 #include "championship/top_scorers.h"
+#include "data/file_names.h"
 #include "data/journal.h"
 #include "data/tell_failure.h"
 #include "editors/stad_editor.h"
@@ -43,6 +44,7 @@ void App::Start() {
   const FileResult finished = CleanUp(folder_);
   window_->show();
   TellFailure(desktop_, finished);
+  TellFailure(desktop_, FoldersCanBeRead(folder_));
 }
 
 void App::ComeToFront() {

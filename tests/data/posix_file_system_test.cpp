@@ -8,6 +8,7 @@
 
 #include <csignal>
 
+#include "data/file_names.h"
 #include "data/text_file.h"
 #include "support/folders.h"
 
@@ -46,7 +47,11 @@ TEST_F(PosixFileSystemTest, TellsWhatThereIsAndReadsOnlyWhatCanBeAFileOfTheProgr
   EXPECT_EQ(Ask("folder"), FileKind::Other);
   EXPECT_EQ(Ask("missing"), FileKind::Missing);
   EXPECT_EQ(Ask(std::string(5000, 'x')), FileKind::Unknown);
-  EXPECT_EQ(folder_.Files.List(folder_.Folder.Root), std::vector<std::string>{"file"});
+  EXPECT_EQ(ListFiles(folder_.Files, folder_.Folder.Root), std::vector<std::string>{"file"});
+  EXPECT_TRUE(FoldersCanBeRead(folder_.Folder).Ok());  // None of them is there.
+  folder_.Write("Teams", "");
+  EXPECT_EQ(FoldersCanBeRead(folder_.Folder).Failure,
+            "The folder " + (folder_ / "Teams").string() + " can't be read: Not a directory.");
   EXPECT_EQ(Read("missing"), std::errc::no_such_file_or_directory);
   EXPECT_EQ(Read("file/within"), std::errc::no_such_file_or_directory);
   EXPECT_EQ(Read("folder"), std::errc::is_a_directory);
@@ -102,7 +107,7 @@ TEST_F(PosixFileSystemTest, AFullDiskLeavesTheOldFileAndNothingElse) {
   EXPECT_FALSE(Save("file", std::string(2000, 'x')).Ok());
   ::setrlimit(RLIMIT_FSIZE, &usual);
   EXPECT_EQ(folder_.Bytes("file"), "old");
-  EXPECT_EQ(folder_.Files.List(folder_.Folder.Root), std::vector<std::string>{"file"});
+  EXPECT_EQ(ListFiles(folder_.Files, folder_.Folder.Root), std::vector<std::string>{"file"});
 }
 
 TEST_F(PosixFileSystemTest, ReplacesNoFileThatIsProtected) {

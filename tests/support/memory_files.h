@@ -79,13 +79,12 @@ class MemoryFiles final : public FileSystem {
     std::erase_if(unflushed_, [](const Change& change) { return change.empty(); });
   }
 
-  std::vector<std::string> List(const Path& folder) override {
-    Begin(folder);  // The contract knows no failure.
-    std::vector<std::string> names;
+  std::error_code List(const Path& folder, std::vector<std::string>& names) override {
+    if (const std::error_code error = Begin(folder)) return error;
     for (const auto& [file, bytes] : entries_) {
       if (file.parent_path() == folder) names.push_back(file.filename().string());
     }
-    return names;
+    return {};
   }
 
   int Process() const override { return process_; }

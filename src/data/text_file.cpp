@@ -13,12 +13,16 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view TemporaryPrefix = "~kickwell-", TemporaryExtension = ".tmp";
 
+std::string Reason(std::error_code error) {
+  if (error == std::errc::cross_device_link) return "Its folder is on another disk than the program";
+  if (error == std::errc::no_link) return "It is a link to a file that is not there";
+  return error.message();
+}
+
 /// "The file X can't be `done`: " and why.
 FileResult Result(const fs::path& file, const char* done, std::error_code error) {
   if (!error) return {};
-  const bool otherDisk = error == std::errc::cross_device_link;
-  const std::string why = otherDisk ? "Its folder is on another disk than the program" : error.message();
-  return {"The file " + file.string() + " can't be " + done + ": " + why + "."};
+  return {"The file " + file.string() + " can't be " + done + ": " + Reason(error) + "."};
 }
 
 /// The process whose temporary file this is; 0 when it is none.

@@ -91,7 +91,8 @@ TEST_F(PosixFileSystemTest, SaysWhyAFileCannotBeSavedOrDeleted) {
   const auto begins = [this](const char* file) { return "The file " + (folder_ / file).string(); };
   EXPECT_EQ(Save("folder", "").Failure, begins("folder") + " can't be saved: Is a directory.");
   EXPECT_EQ(Save("file/within", "").Failure, begins("file/within") + " can't be saved: Not a directory.");
-  EXPECT_EQ(Save("link", "").Failure, begins("link") + " can't be saved: Link has been severed.");
+  EXPECT_EQ(Save("link", "").Failure,
+            begins("link") + " can't be saved: It is a link to a file that is not there.");
   EXPECT_EQ(DeleteFile(folder_.Files, folder_ / "folder").Failure,
             begins("folder") + " can't be deleted: Is a directory.");
   EXPECT_TRUE(DeleteFile(folder_.Files, folder_ / "missing").Ok());

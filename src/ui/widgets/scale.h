@@ -6,9 +6,10 @@
 namespace kickwell {
 
 // In pixels.
-inline constexpr int PageMargin = 16;     ///< Around a page and around the buttons below it.
-inline constexpr int InGroup = 6;         ///< Between a caption and its control, and between rows of a group.
-inline constexpr int BetweenGroups = 12;  ///< Between groups below one another.
+inline constexpr int PageMargin = 16;  ///< Around a page and around the buttons below it.
+inline constexpr int Tight = 3;        ///< Between the parts of one sign, and above and below a row of text.
+inline constexpr int InGroup = 6;      ///< Between a caption and its control, and between rows of a group.
+inline constexpr int BetweenGroups = 12;   ///< Between groups below one another.
 inline constexpr int BetweenColumns = 16;  ///< Between groups and figures side by side.
 inline constexpr int BetweenHalves = 32;   ///< Between the halves of a page that have no frame.
 

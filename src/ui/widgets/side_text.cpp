@@ -6,12 +6,13 @@
 #include <algorithm>
 
 #include "ui/widgets/appearance.h"
+#include "ui/widgets/scale.h"
 
 namespace kickwell {
 namespace {
 
-constexpr int Gap = 12;        ///< Between the text and the side text, in pixels.
-constexpr int Margin = 4;      ///< Between the side text and the edge.
+constexpr int Gap = BetweenGroups;  ///< Between the text and the side text, in pixels.
+constexpr int Margin = 4;           ///< Between the side text and the edge.
 constexpr int UsualText = 30;  ///< A longer text asks for no more room, so that rows seldom scroll sideways.
 
 QPalette::ColorGroup GroupOf(QStyle::State state) {

@@ -111,19 +111,19 @@ QWidget* MatchWindow::BuildScoreBoard() {
   label2_->setAutoFillBackground(true);
   SetFigureCaption(label3_, "Match Timer");
   Enlarged(label3_, BoardType);
-  label3_->setMinimumWidth(label3_->fontMetrics().horizontalAdvance("000:00") + 24);
+  label3_->setMinimumWidth(label3_->fontMetrics().horizontalAdvance("000:00") + 4 * InGroup);
   auto* const lamp = new QHBoxLayout(label2_);  // The clock's text is on the lamp.
-  lamp->setContentsMargins(InGroup, 2, InGroup, 2);
+  lamp->setContentsMargins(InGroup, Tight, InGroup, Tight);
   lamp->addWidget(label3_);
-  label2_->setMinimumSize(label3_->minimumWidth() + 12, label3_->fontMetrics().height() + 6);
+  label2_->setMinimumSize(label3_->minimumWidth() + 2 * InGroup, label3_->fontMetrics().height() + 2 * Tight);
   auto* const clock = new QVBoxLayout;
-  clock->setSpacing(2);
+  clock->setSpacing(Tight);
   clock->addWidget(label11);
   clock->addWidget(label2_);
 
   const auto name = [](SideWidgets& side) {
     auto* const column = new QVBoxLayout;
-    column->setSpacing(4);
+    column->setSpacing(Tight);
     side.Stripes[0] = MakeStripe(Qt::Horizontal, 6);
     side.Stripes[0]->setFrameStyle(QFrame::Box | QFrame::Plain);  // The board is neither light nor dark.
     column->addStretch();
@@ -155,10 +155,10 @@ void MatchWindow::BuildScore(SideWidgets& side, int number) {
   // start.
   const int penaltyWidth = side.Penalties->fontMetrics().horizontalAdvance("(00)");
   side.Score->setFixedWidth(side.Goals->minimumWidth() +
-                            std::max(penaltyWidth + 4, Twips(this, PenaltyRoom)));
+                            std::max(penaltyWidth + Tight, Twips(this, PenaltyRoom)));
   auto* const layout = new QHBoxLayout(side.Score);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(4);
+  layout->setSpacing(Tight);
   layout->addWidget(side.Goals);
   layout->addWidget(side.Penalties, 1);
   layout->addStretch();
@@ -174,12 +174,13 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   layout->addWidget(side.Stripes[1] = MakeStripe(Qt::Horizontal, 6));
   auto* const grid = new QGridLayout;
   layout->addLayout(grid, 1);
-  grid->setContentsMargins(9, 9, 9, 9);
+  grid->setContentsMargins(InGroup, InGroup, InGroup, InGroup);
   grid->setHorizontalSpacing(BetweenColumns);
   int row = 0;
   const auto fact = [&](const QString& heading, QAnyStringView name, const QString& text) {
     QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), FigureType);
-    figure->setContentsMargins(7, 0, 7, 0);  // Around the figure that lights up, so that all stand in line.
+    figure->setContentsMargins(InGroup, 0, InGroup,
+                               0);  // Around the figure that lights up, so that all stand in line.
     grid->addWidget(MakeCaption(heading), row, 0);
     grid->addWidget(figure, row++, 1, Qt::AlignVCenter);
     return figure;

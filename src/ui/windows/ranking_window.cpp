@@ -16,7 +16,7 @@
 namespace kickwell {
 namespace {
 
-constexpr QMargins CellMargins(InGroup, InGroup / 2, InGroup, InGroup / 2);
+constexpr QMargins CellMargins(InGroup, Tight, InGroup, Tight);
 
 /// Lies over the labels of a row: takes the mouse for them, and the focus that screen readers follow.
 class Marker final : public QWidget {
@@ -95,7 +95,7 @@ RankingWindow::Labels RankingWindow::BuildColumn(QGridLayout* grid, int place, c
   header->setObjectName(ArrayName(column.Name, 0));
   header->setAccessibleName(column.Announced);
   header->setAlignment(alignment | Qt::AlignVCenter);
-  header->setContentsMargins(CellMargins + QMargins(0, 0, 0, InGroup / 2));
+  header->setContentsMargins(CellMargins + QMargins(0, 0, 0, Tight));
   grid->addWidget(header, 0, place);
   grid->setColumnStretch(place, column.Figure ? 0 : 1);
   Labels labels{};

@@ -10,7 +10,7 @@ namespace {
 constexpr const char* RoleProperty = "accessibleRole";
 constexpr const char* CaptionProperty = "accessibleCaption";
 
-class Face final : public QAccessibleWidget {
+class Face : public QAccessibleWidget {
  public:
   Face(QWidget* widget, QAccessible::Role role) : QAccessibleWidget(widget, role) {}
 
@@ -25,10 +25,37 @@ class Face final : public QAccessibleWidget {
   }
 };
 
+/// A list of rows, each of which tells all that stands in it: what the rows lie over is not told again.
+class RowsFace final : public Face {
+ public:
+  explicit RowsFace(QWidget* widget) : Face(widget, QAccessible::List) {}
+
+  int childCount() const override { return static_cast<int>(Rows().size()); }
+  QAccessibleInterface* child(int index) const override {
+    return QAccessible::queryAccessibleInterface(Rows().value(index));
+  }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    return static_cast<int>(Rows().indexOf(child->object()));
+  }
+
+ private:
+  /// The rows on view, or else whatever stands in their place.
+  QObjectList Rows() const {
+    QObjectList rows, others;
+    for (QWidget* const inner : widget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+      if (!inner->isVisible()) continue;
+      const bool row = inner->property(RoleProperty).toInt() == QAccessible::ListItem;
+      (row ? rows : others).append(inner);
+    }
+    return rows.empty() ? others : rows;
+  }
+};
+
 QAccessibleInterface* MakeFace(const QString& /*className*/, QObject* object) {
   auto* const widget = qobject_cast<QWidget*>(object);
   const QVariant role = object->property(RoleProperty);
   if (widget == nullptr || !role.isValid()) return nullptr;
+  if (role.toInt() == QAccessible::List) return new RowsFace(widget);
   return new Face(widget, static_cast<QAccessible::Role>(role.toInt()));
 }
 

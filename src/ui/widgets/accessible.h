@@ -8,7 +8,8 @@
 
 namespace kickwell {
 
-/// Tells screen readers that `widget`, which paints itself, is a `role`.
+/// Tells screen readers that `widget`, which paints itself, is a `role`. Of a List they are told its
+/// ListItems only, while there are any.
 void SetRole(QWidget* widget, QAccessible::Role role);
 
 /// Names `figure` to screen readers by `caption` and its current text, for example "Shots: 3".

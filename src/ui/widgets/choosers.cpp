@@ -10,6 +10,7 @@
 
 #include "ui/text.h"
 #include "ui/widgets/hint.h"
+#include "ui/widgets/side_text.h"
 
 namespace kickwell {
 namespace {
@@ -58,6 +59,7 @@ QComboBox* MakeCombo(const QString& objectName) {
   auto* const combo = new Chooser;
   combo->setObjectName(objectName);
   combo->setMaxVisibleItems(MostRows);
+  combo->setItemDelegate(new SideTextDelegate(combo));
   // Some styles would cover the whole screen with the entries, as with a menu.
   combo->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
   combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -73,6 +75,12 @@ void Name(QComboBox* combo, const QString& name) {
 SteadyList::SteadyList(const QString& objectName) {
   setObjectName(objectName);
   setUniformItemSizes(true);
+  setItemDelegate(new SideTextDelegate(this));
+}
+
+void SteadyList::LeaveRoomForSideTexts() {
+  constexpr int UsualEntry = 36;  // Characters, with the side text.
+  setMinimumWidth(UsualEntry * fontMetrics().averageCharWidth());
 }
 
 void SteadyList::SetHint(const QString& hint) {

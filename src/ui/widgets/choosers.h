@@ -22,6 +22,9 @@ class SteadyList : public QListWidget {
  public:
   explicit SteadyList(const QString& objectName);
 
+  /// Asks for the room that usual entries need with their side texts.
+  void LeaveRoomForSideTexts();
+
   /// Says in faint text what the list is for, as long as it is empty.
   void SetHint(const QString& hint);
 

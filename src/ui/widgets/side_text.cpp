@@ -13,6 +13,7 @@ namespace {
 
 constexpr int Gap = BetweenGroups;  ///< Between the text and the side text, in pixels.
 constexpr int Margin = 4;           ///< Between the side text and the edge.
+constexpr int BetweenEntries = 4;
 constexpr int UsualText = 30;  ///< A longer text asks for no more room, so that rows seldom scroll sideways.
 
 QPalette::ColorGroup GroupOf(QStyle::State state) {
@@ -21,12 +22,6 @@ QPalette::ColorGroup GroupOf(QStyle::State state) {
 }
 
 }  // namespace
-
-void SideTextDelegate::Serve(QAbstractItemView* list) {
-  constexpr int UsualEntry = 36;  // Characters, with the side text.
-  list->setItemDelegate(new SideTextDelegate(list));
-  list->setMinimumWidth(UsualEntry * list->fontMetrics().averageCharWidth());
-}
 
 void SideTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                              const QModelIndex& index) const {
@@ -56,7 +51,7 @@ void SideTextDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opti
 }
 
 QSize SideTextDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-  QSize size = QStyledItemDelegate::sizeHint(option, index);
+  QSize size = QStyledItemDelegate::sizeHint(option, index) + QSize(0, BetweenEntries);
   const QString side = index.data(SideTextRole).toString();
   if (side.isEmpty()) return size;
   const int usual = UsualText * option.fontMetrics.averageCharWidth();

@@ -1,7 +1,6 @@
 // Lists that tell more about an entry, in faint text beside it.
 #pragma once
 
-#include <QAbstractItemView>
 #include <QStyledItemDelegate>
 
 namespace kickwell {
@@ -10,14 +9,11 @@ namespace kickwell {
 inline constexpr int SideTextRole = Qt::UserRole + 1;
 
 /// Paints entries as usual, with the side text at the right edge. The entry's own text is cut before it
-/// reaches the side text. Works in lists and in the lists of choosers. Screen readers are not told the side
+/// reaches the side text. All lists and the lists of all choosers use it. Screen readers are not told the side
 /// text: set Qt::AccessibleTextRole, too.
 class SideTextDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
-
-  /// Paints the entries of `list`, which gets the room for usual ones.
-  static void Serve(QAbstractItemView* list);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;

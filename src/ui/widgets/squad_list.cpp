@@ -16,7 +16,7 @@ constexpr int LineUp = 11;
 }  // namespace
 
 SquadList::SquadList(const QString& objectName) : SteadyList(objectName) {
-  SideTextDelegate::Serve(this);
+  LeaveRoomForSideTexts();
   setAccessibleName("Players");
   SetHint("Add the first player of the team on the right.");
 }

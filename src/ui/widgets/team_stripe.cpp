@@ -1,5 +1,6 @@
 #include "ui/widgets/team_stripe.h"
 
+#include "ui/widgets/accessible.h"
 #include "ui/widgets/appearance.h"
 
 namespace kickwell {
@@ -7,6 +8,7 @@ namespace kickwell {
 QFrame* MakeStripe(Qt::Orientation direction, int thickness) {
   auto* const stripe = new QFrame;
   stripe->setAutoFillBackground(true);
+  SetRole(stripe, QAccessible::Separator);
   if (direction == Qt::Horizontal) {
     stripe->setFixedHeight(thickness);
   } else {

@@ -166,9 +166,9 @@ void MatchWindow::BuildScore(SideWidgets& side, int number) {
 
 QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   const QString n = QString::number(number);
-  auto* const box = new QFrame;
-  box->setFrameShape(QFrame::StyledPanel);
-  auto* const layout = new QVBoxLayout(box);
+  side.Facts = new QFrame;
+  side.Facts->setFrameShape(QFrame::StyledPanel);
+  auto* const layout = new QVBoxLayout(side.Facts);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
   layout->addWidget(side.Stripes[1] = MakeStripe(Qt::Horizontal, 6));
@@ -193,7 +193,7 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   side.Possession->setAutoFillBackground(true);
   const QFontMetrics metrics = side.Possession->fontMetrics();
   side.Possession->setMinimumSize(metrics.horizontalAdvance("100%") + 14, metrics.height() + 8);
-  return box;
+  return side.Facts;
 }
 
 QWidget* MatchWindow::BuildShootOut() {
@@ -311,6 +311,7 @@ void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool ha
   SetFigureCaption(widgets.Bookings, team + ", bookings");
   SetFigureCaption(widgets.Fouls, team + ", fouls");
   SetFigureCaption(widgets.Possession, team + (hasBall ? ", has the ball, possession" : ", possession"));
+  widgets.Facts->setAccessibleName(team + ", facts");
   widgets.Team->setText(team);
   for (QFrame* const stripe : widgets.Stripes) ShowTeam(stripe, match_.Session(), side);
   widgets.Goals->setText(QString::number(side.Goals));

@@ -5,9 +5,11 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QSizeGrip>
 #include <algorithm>
 #include <utility>
 
+#include "ui/widgets/accessible.h"
 #include "ui/widgets/scale.h"
 
 namespace kickwell {
@@ -26,6 +28,7 @@ QFrame* EdgeOf(const PageArea& page) {
   QSizePolicy steady = line->sizePolicy();
   steady.setRetainSizeWhenHidden(true);
   line->setSizePolicy(steady);
+  SetRole(line, QAccessible::Separator);
   line->setVisible(false);
   QObject::connect(page.verticalScrollBar(), &QScrollBar::rangeChanged, line,
                    [line](int least, int most) { line->setVisible(least < most); });
@@ -44,6 +47,7 @@ ScreenWindow::ScreenWindow(const char* name, const QString& caption, QWidget* pa
   setWindowTitle(caption);
   setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
   setSizeGripEnabled(true);
+  findChild<QSizeGrip*>()->setAccessibleName("Size");
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);

@@ -92,7 +92,6 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   for (int i = 0; i < SlotCount; ++i) {
     QComboBox* const chooser = MakeCombo(ArrayName(combo, i));
     chooser->setModel(column.Squad);
-    chooser->setItemDelegate(new SideTextDelegate(chooser));
     const QString player = team + QStringLiteral(", player %1").arg(i + 1);
     Name(chooser, player);
     chooser->setMinimumContentsLength(UsualName);

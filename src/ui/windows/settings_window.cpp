@@ -75,7 +75,6 @@ QLayout* SettingsWindow::BuildDeciders() {
 
 /// Shows city and home team beside each stadium on offer.
 void SettingsWindow::TellStadiums() {
-  combo3_->setItemDelegate(new SideTextDelegate(combo3_));
   for (int i = 0; i < combo3_->count(); ++i) {
     const QString city = Shown(At(settings_.Combo7.Entries, i));
     const std::string& team = At(settings_.HomeTeams, i);

@@ -43,7 +43,7 @@ StadEditorWindow::StadEditorWindow(StadEditor& editor, QWidget* parent)
       text3_(new TextBox("Text3", LongestCapacity, editor.Text3)),
       combo1_(MakeCombo("Combo1")) {
   list1_->setAccessibleName("Stadiums");
-  SideTextDelegate::Serve(list1_);
+  list1_->LeaveRoomForSideTexts();
   connect(list1_, &QListWidget::itemSelectionChanged, this,
           [this] { Act([this] { editor_.List1_Click(SelectedRow(list1_)); }); });
   OnPick(combo1_, [this](int entry) { editor_.Combo1_Click(entry); });

@@ -2,9 +2,9 @@
 
 #include <QComboBox>
 #include <QLabel>
-#include <QListWidget>
 
 #include "editors/stad_editor.h"
+#include "ui/widgets/choosers.h"
 #include "ui/widgets/text_box.h"
 #include "ui/windows/screen_window.h"
 
@@ -25,7 +25,7 @@ class StadEditorWindow final : public ScreenWindow {
   static QWidget* BuildInstructions();
 
   StadEditor& editor_;
-  QListWidget* list1_;
+  SteadyList* list1_;
   QLabel* label8_;
   TextBox *text1_, *text2_, *text3_;
   QComboBox* combo1_;

@@ -69,6 +69,14 @@ void SetRole(QWidget* widget, QAccessible::Role role) {
   QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(former));
 }
 
+void SetName(QWidget* widget, const QString& name) {
+  if (widget->accessibleName() != name) widget->setAccessibleName(name);
+}
+
+void SetDescription(QWidget* widget, const QString& description) {
+  if (widget->accessibleDescription() != description) widget->setAccessibleDescription(description);
+}
+
 void SetFigureCaption(QLabel* figure, const QString& caption) {
   if (figure->property(CaptionProperty).toString() == caption) return;
   if (!figure->property(CaptionProperty).isValid()) SetRole(figure, QAccessible::StaticText);

@@ -12,6 +12,11 @@ namespace kickwell {
 /// ListItems only, while there are any.
 void SetRole(QWidget* widget, QAccessible::Role role);
 
+/// Names or describes `widget` to screen readers, which are told only if that is new: they may speak each
+/// time.
+void SetName(QWidget* widget, const QString& name);
+void SetDescription(QWidget* widget, const QString& description);
+
 /// Names `figure` to screen readers by `caption` and its current text, for example "Shots: 3".
 void SetFigureCaption(QLabel* figure, const QString& caption);
 

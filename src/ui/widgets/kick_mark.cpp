@@ -53,7 +53,7 @@ void KickMark::SetMarker(const KickMarker& marker, const QString& kick, bool onV
   onView_ = onView;
   setVisible(marker.Visible);
   const QString toCome = onView ? QStringLiteral("Next") : QStringLiteral("To come");
-  setAccessibleName(kick + ": " +
+  SetName(this, kick + ": " +
                     (colour_ == Lamp::Black   ? toCome
                      : colour_ == Lamp::Green ? QStringLiteral("Goal")
                                               : QStringLiteral("Miss")));

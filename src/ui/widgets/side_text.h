@@ -9,8 +9,8 @@ namespace kickwell {
 inline constexpr int SideTextRole = Qt::UserRole + 1;
 
 /// Paints entries as usual, with the side text at the right edge. The entry's own text is cut before it
-/// reaches the side text. All lists and the lists of all choosers use it. Screen readers are not told the side
-/// text: set Qt::AccessibleTextRole, too.
+/// reaches the side text. All lists and the lists of all choosers use it. Screen readers are not told the
+/// side text: set Qt::AccessibleTextRole, too.
 class SideTextDelegate final : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

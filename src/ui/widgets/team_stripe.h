@@ -11,7 +11,8 @@ namespace kickwell {
 /// `direction` is vertical.
 QFrame* MakeStripe(Qt::Orientation direction, int thickness);
 
-/// Gives `stripe` the colour of the team that plays on `side`. Each team keeps its colour for the whole match.
+/// Gives `stripe` the colour of the team that plays on `side`. Each team keeps its colour for the whole
+/// match.
 void ShowTeam(QFrame* stripe, const MatchSession& session, const Side& side);
 
 }  // namespace kickwell

@@ -277,13 +277,13 @@ void MatchWindow::ShowVenue(const MatchSession& session) {
   const QString weather = session.Weather ? ToQt(session.Weather->Text) : QString();
   ven_->setText(venue);
   ven_->setToolTip(weather.isEmpty() ? QString() : PlainTip(venue + ". Weather: " + weather));
-  ven_->setAccessibleDescription(weather);
+  SetDescription(ven_, weather);
 }
 
 void MatchWindow::TellState(const MatchSession& session) {
   const auto score = [](const Side& side) { return Shown(side.Team) + " " + QString::number(side.Goals); };
   QStringList state{score(session.Side1), score(session.Side2)};
-  scoreBoard_->setAccessibleName(state.join(", "));
+  SetName(scoreBoard_, state.join(", "));
   if (!session.Controls.Label3.empty()) state.append(Shown(session.Controls.Label3));
   if (session.BallSide != 0) {
     const bool first = session.BallSide == 1;
@@ -298,7 +298,7 @@ void MatchWindow::TellState(const MatchSession& session) {
   const ItemList& lines = session.Commentary.Entries.empty() ? session.Summary : session.Commentary;
   if (!lines.Entries.empty()) state.append(Shown(lines.Entries.back()));
   for (QWidget* const picture : {static_cast<QWidget*>(picture1_), static_cast<QWidget*>(picture2_)})
-    picture->setAccessibleDescription(state.join(", "));
+    SetDescription(picture, state.join(", "));
 }
 
 void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool hasBall) const {
@@ -311,7 +311,7 @@ void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool ha
   SetFigureCaption(widgets.Bookings, team + ", bookings");
   SetFigureCaption(widgets.Fouls, team + ", fouls");
   SetFigureCaption(widgets.Possession, team + (hasBall ? ", has the ball, possession" : ", possession"));
-  widgets.Facts->setAccessibleName(team + ", facts");
+  SetName(widgets.Facts, team + ", facts");
   widgets.Team->setText(team);
   for (QFrame* const stripe : widgets.Stripes) ShowTeam(stripe, match_.Session(), side);
   widgets.Goals->setText(QString::number(side.Goals));
@@ -330,7 +330,7 @@ void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool ha
 void MatchWindow::ShowClock(const MatchControls& controls) {
   label3_->setText(Shown(controls.Label3));
   const QString lamps[] = {"Lamp: dark", "Lamp: green", "Lamp: red"};
-  label2_->setAccessibleName(lamps[static_cast<std::size_t>(controls.Label2)]);
+  SetName(label2_, lamps[static_cast<std::size_t>(controls.Label2)]);
   const bool dark = controls.Label2 == Lamp::Black;
   SetColours(label2_, LampColour(controls.Label2), LampColour(dark ? Lamp::Green : Lamp::Black));
   if (!controls.Timer1Enabled) {

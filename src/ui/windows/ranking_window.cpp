@@ -159,7 +159,7 @@ void RankingWindow::Refresh() {
     }
     QWidget* const marker = At(markers_, r - 1);
     marker->setVisible(r <= pages.RowCount());
-    marker->setAccessibleName(announced.join(", "));
+    SetName(marker, announced.join(", "));
     marker->setToolTip(PlainTip(names.join(", ")));
   }
   // A page button that becomes disabled hands its focus to the other one, never to "Close".

@@ -179,8 +179,7 @@ void SelectionWindow::ShowSlot(const Column& column, const LineUp& lineUp, int s
   const bool twice = lineUp.IsChosenTwice(slot);
   QComboBox* const chooser = At(column.Combos, slot);
   chooser->setCurrentIndex(chosen.Player);
-  chooser->setAccessibleDescription(twice ? At(column.Twice, slot)->accessibleName()
-                                          : chooser->accessibleName());
+  SetDescription(chooser, twice ? At(column.Twice, slot)->accessibleName() : chooser->accessibleName());
   At(column.Twice, slot)->setVisible(twice);
   At(column.Posts, slot)->setText(Shown(chosen.Position));
   At(column.Skills, slot)->setText(Shown(chosen.Skill));

@@ -9,6 +9,7 @@
 #include "base/at.h"
 #include "data/stadium_store.h"
 #include "ui/text.h"
+#include "ui/widgets/accessible.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/scale.h"
@@ -99,7 +100,7 @@ void SettingsWindow::Refresh() {
           ? QString()
           : Shown(chosen.Combo3.Text() + ", " + chosen.Combo7.Text() + " (" + chosen.Combo6.Text() + ")");
   combo3_->setToolTip(PlainTip(stadium));
-  combo3_->setAccessibleDescription(stadium);
+  SetDescription(combo3_, stadium);
   check1_->setChecked(settings_.Check1);
   check2_->setChecked(settings_.Check2);
   check2_->setEnabled(settings_.Check2Enabled);

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "ui/text.h"
+#include "ui/widgets/accessible.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/scale.h"
@@ -175,7 +176,7 @@ void TeamEditorWindow::Refresh() {
   label4_->setText(Shown(editor_.Label4()));
   label5_->setText(Shown(editor_.Label5()));
   label5_->setToolTip(PositionWords(editor_.Label5()));
-  label5_->setAccessibleDescription(label5_->toolTip());
+  SetDescription(label5_, label5_->toolTip());
   for (TextBox* const box : {text1_, text2_, text4_, text5_}) box->ShowText();
   GoTo(std::exchange(editor_.Next, {}));
 }

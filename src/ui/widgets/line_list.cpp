@@ -8,6 +8,7 @@
 
 #include "base/at.h"
 #include "ui/text.h"
+#include "ui/widgets/accessible.h"
 #include "ui/widgets/hint.h"
 
 namespace kickwell {
@@ -21,7 +22,7 @@ void LineList::ShowLines(const ItemList& lines) {
   for (int i = count(); i < lines.Count(); ++i) addItem(Shown(At(lines.Entries, i)));
   if (std::exchange(picked_, lines.Picked) != lines.Picked) setCurrentRow(lines.Picked);
   scrollTo(IndexOf(count() - 1), EnsureVisible);
-  setAccessibleDescription({});
+  if (count() > 0) SetDescription(this, {});
 }
 
 void LineList::SetHint(const QString& hint) {

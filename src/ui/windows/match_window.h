@@ -38,7 +38,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   struct SideWidgets {
     QLabel *Team, *Goals, *Penalties;
     QWidget* Score;  ///< Holds the goals and, right of them, the penalties.
-    QFrame* Facts;  ///< Around the following.
+    QFrame* Facts;   ///< Around the following.
     QLabel *Shots, *Corners, *Bookings, *Fouls, *Possession;
     std::array<QFrame*, 2> Stripes;  ///< In the team's colour, below its name and above its facts.
   };

@@ -32,7 +32,7 @@ void LegEditor::AddTeam_Click(EditorSide& side) {
   if (side.Available.Picked == ItemList::None) return;
   const std::string team = side.Available.Text();
   for (ItemList* list : {&side.Selected, &side.Home, &side.Away}) list->Insert(team, ListedBefore);
-  side.Selected.Picked = side.Selected.PlaceOf(team);
+  if (side.Selected.Picked == ItemList::None) side.Selected.PickFirst();
   side.Available.RemoveAt(side.Available.Picked);
   side.Available.PickFirst();
 }

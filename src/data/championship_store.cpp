@@ -165,8 +165,9 @@ Loaded<std::vector<StandingsRow>> ReadStandings(const ProgramFolder& folder, con
                                                 const std::vector<std::string>& teams) {
   const auto [lines, result] = ReadFile(folder, league, Standings);
   LineReader reader(lines.value_or(TextLines()));
-  std::vector<StandingsRow> standings(std::min(teams.size(), reader.RecordsLeft(StandingsLines)));
-  for (StandingsRow& row : standings) {
+  std::vector<StandingsRow> standings;
+  while (standings.size() < teams.size() && !reader.Rest().empty()) {  // The last one may be incomplete.
+    StandingsRow& row = standings.emplace_back();
     row.Team = reader.Text();
     for (const auto figure : StandingsRow::Figures()) row.*figure = reader.Number();
   }
@@ -198,7 +199,11 @@ FileResult AppendStandings(const ProgramFolder& folder, const ChampionshipId& le
   LineReader reader(*lines);
   reader.Skip(reader.RecordsLeft(StandingsLines) * StandingsLines);
   EncodedText text;
-  text.AddLines(reader.Passed());  // What an incomplete row at the end holds is left out.
+  text.AddLines(reader.Passed());
+  if (!reader.Rest().empty()) {  // An incomplete row, which lacks figures at its end.
+    for (std::size_t line = 0; line < StandingsLines; ++line)
+      text.Add(reader.RecordsLeft(1) > 0 ? reader.View() : "0");
+  }
   text.Add(team);
   for (std::size_t i = 0; i < StandingsRow::Figures().size(); ++i) text.Add(0);
   return WriteFile(folder, league, Standings, text);

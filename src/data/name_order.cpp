@@ -18,7 +18,7 @@ constexpr PlainLetters Latin[] = {
      "aaaaaaAceeeeiiiidnooooo.ouuuuyTSaaaaaaAceeeeiiiidnooooo.ouuuuyTyaaaaaaccccccccdd"
      "ddeeeeeeeeeegggggggghhhhiiiiiiiiiiIIjjkkkllllllllllnnnnnnnnnooooooOOrrrrrrssssss"
      "ssttttttuuuuuuuuuuuuwwyyyzzzzzzsbbbb...cc.ddd....ffg...ikkl..nnooo..pp.....ttttu"
-     "u.vyyzz.............DdDLlLNnNaaiioouuuuuuuuuu.aaaaAAggggkkoooo..jDdDgg..nnaaAAoo"
+     "u.vyyzz.............DDDLLLNNNaaiioouuuuuuuuuu.aaaaAAggggkkoooo..jDDDgg..nnaaAAoo"
      "aaaaeeeeiiiioooorrrruuuusstt..hhnd..zzaaeeooooooooyylntj..accltsz..b..eejj.qrryy"},
     {0x1E00,
      "aabbbbbbccddddddddddeeeeeeeeeeffgghhhhhhhhhhiiiikkkkkkllllllllmm"
@@ -39,7 +39,10 @@ struct UpperCase {
   char32_t First, Last, Distance;
 };
 constexpr UpperCase UpperCases[] = {
-    {U'A', U'Z', 32}, {0x391, 0x3A9, 32}, {0x400, 0x40F, 80}, {0x410, 0x42F, 32}, {0x531, 0x556, 48}};
+    {U'A', U'Z', 32},    {0x186, 0x186, 206}, {0x18E, 0x18E, 79},  {0x18F, 0x18F, 202},
+    {0x190, 0x190, 203}, {0x194, 0x194, 207}, {0x196, 0x196, 211}, {0x19C, 0x19C, 211},
+    {0x19F, 0x19F, 214}, {0x1A9, 0x1A9, 218}, {0x1B1, 0x1B1, 217}, {0x1B7, 0x1B7, 219},
+    {0x391, 0x3A9, 32},  {0x400, 0x40F, 80},  {0x410, 0x42F, 32},  {0x531, 0x556, 48}};
 
 /// Cyrillic letters that are not Russian alternate between upper and lower case.
 bool IsAlternating(char32_t c) {

@@ -19,6 +19,15 @@ std::size_t CountLimit(std::string_view line) {
   return count >= 0 ? static_cast<std::size_t>(count) : std::numeric_limits<std::size_t>::max();
 }
 
+std::vector<Stadium> TakeStadiums(LineReader& reader) {
+  const std::size_t promised = CountLimit(reader.View());
+  std::vector<Stadium> stadiums(std::min(promised, reader.RecordsLeft(StadiumLines)));
+  for (Stadium& stadium : stadiums) {
+    stadium = {reader.Text(), reader.Text(), reader.Text(), reader.Text()};
+  }
+  return stadiums;
+}
+
 }  // namespace
 
 std::string VenueText(const Stadium& stadium) {
@@ -33,15 +42,14 @@ Loaded<std::vector<Stadium>> LoadStadiums(const ProgramFolder& folder) {
   const auto [lines, result] = ReadText(folder.Files(), folder.Stadiums());
   if (!lines) return {{}, result};
   LineReader reader(*lines);
-  const std::size_t promised = CountLimit(reader.View());
-  std::vector<Stadium> stadiums(std::min(promised, reader.RecordsLeft(StadiumLines)));
-  for (Stadium& stadium : stadiums) {
-    stadium = {reader.Text(), reader.Text(), reader.Text(), reader.Text()};
-  }
-  return {std::move(stadiums)};
+  return {TakeStadiums(reader)};
 }
 
 FileResult SaveStadiums(const ProgramFolder& folder, const std::vector<Stadium>& stadiums) {
+  const auto [lines, result] = ReadText(folder.Files(), folder.Stadiums());
+  if (!result.Ok()) return result;
+  LineReader former(lines.value_or(TextLines()));
+  TakeStadiums(former);
   EncodedText text;
   text.Add(static_cast<int>(stadiums.size()));
   for (const Stadium& stadium : stadiums) {
@@ -49,6 +57,7 @@ FileResult SaveStadiums(const ProgramFolder& folder, const std::vector<Stadium>&
       text.Add(*line);
     }
   }
+  text.AddLines(former.Rest());
   return ReplaceFile(folder.Files(), folder.Stadiums(), text.Bytes(), folder.Root);
 }
 

@@ -31,7 +31,7 @@ bool StadiumListExists(const ProgramFolder& folder);
 /// the file holds, all complete records.
 Loaded<std::vector<Stadium>> LoadStadiums(const ProgramFolder& folder);
 
-/// Rewrites the whole list.
+/// Rewrites the whole list. What the file holds behind its stadiums stays there.
 FileResult SaveStadiums(const ProgramFolder& folder, const std::vector<Stadium>& stadiums);
 
 }  // namespace kickwell

@@ -44,6 +44,8 @@ TEST_F(StoresTest, AWrongCountOfStadiumsGivesTheCompleteOnes) {
     at_.Write("stadiums.sim", std::string(count) + "\nA\nB\nC\n1\nD\nE\nF\n2\nG\nH");
     EXPECT_EQ(LoadStadiums(folder_).Value.size(), expected) << count;
   }
+  EXPECT_TRUE(SaveStadiums(folder_, {}).Ok());
+  EXPECT_EQ(at_.Bytes("stadiums.sim"), AsWritten("0\nG\nH\n"));  // The rest is kept.
 }
 
 TEST_F(StoresTest, ADamagedChampionshipGivesItsCompleteTeamsAndFixtures) {
@@ -67,17 +69,18 @@ TEST_F(StoresTest, ADamagedChampionshipGivesItsCompleteTeamsAndFixtures) {
 TEST_F(StoresTest, StandingsHaveARowForEveryTeam) {
   at_.Write("Leagues/Top.rec",
             "A\n1x\n 1\n0\n0\n2\n1\n3\nB\n1");  // A figure is no number; B's row is cut short.
-  const std::vector<StandingsRow> complete = {{"A", 0, 1, 0, 0, 2, 1, 3}, {"B"}, {"B"}};
+  const std::vector<StandingsRow> complete = {{"A", 0, 1, 0, 0, 2, 1, 3}, {"B", 1}, {"B"}};
   EXPECT_EQ(ReadStandings(folder_, Top, {"A", "B", "B"}).Value, complete);  // As often as it is listed.
 }
 
-TEST_F(StoresTest, ANewTeamsStandingsStandBehindTheCompleteRows) {
+TEST_F(StoresTest, ANewTeamsStandingsStandBehindAllRows) {
   at_.Write("Leagues/Top.rec", "A\n1\n1\n0\n0\n2\n1\n3\nB\n1");
   at_.Files.Unreadable = {at_ / "Leagues/Top.rec"};
   EXPECT_FALSE(AppendStandings(folder_, Top, "C").Ok());
   at_.Files.Unreadable.clear();
   EXPECT_TRUE(AppendStandings(folder_, Top, "C").Ok());
-  EXPECT_EQ(at_.Bytes("Leagues/Top.rec"), AsWritten("A\n1\n1\n0\n0\n2\n1\n3\nC\n0\n0\n0\n0\n0\n0\n0\n"));
+  EXPECT_EQ(at_.Bytes("Leagues/Top.rec"),
+            AsWritten("A\n1\n1\n0\n0\n2\n1\n3\nB\n1\n0\n0\n0\n0\n0\n0\nC\n0\n0\n0\n0\n0\n0\n0\n"));
 }
 
 TEST_F(StoresTest, ScorersAreTheCompleteOnesAndTheRestIsKept) {

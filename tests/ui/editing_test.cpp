@@ -4,6 +4,7 @@
 #include <QtTest/QTest>
 
 #include "support/screen_test.h"
+#include "ui/widgets/text_box.h"
 #include "ui/windows/leg_editor_window.h"
 #include "ui/windows/team_editor_window.h"
 #include "user.h"
@@ -28,6 +29,17 @@ TEST_F(EditingTest, PlayersAreAddedFromTheKeyboardAlone) {
   QTest::mouseClick(squad->viewport(), Qt::LeftButton, Qt::ControlModifier,
                     squad->visualItemRect(squad->item(0)).center());
   EXPECT_EQ(editor.List1.Text(), "Ann");  // Still selected.
+}
+
+TEST_F(EditingTest, ABoxTakesAnyTextThatFitsAndLosesNothingForMore) {
+  std::string text;
+  TextBox box("Text4", 2, text);
+  box.setText("75");  // As a tool does, without keys.
+  EXPECT_EQ(text, "75");
+  box.home(false);
+  QTest::keyClicks(&box, "9");
+  EXPECT_EQ(text, "75");
+  EXPECT_EQ(box.accessibleDescription(), "Only 2 characters fit.");
 }
 
 TEST_F(EditingTest, EscapeKeepsAnUnsavedChampionship) {

@@ -1,6 +1,7 @@
 #include "ui/widgets/text_box.h"
 
 #include <QAction>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QToolTip>
 #include <algorithm>
@@ -19,6 +20,13 @@ QString WithoutBreaks(QString text) {
   return text;
 }
 
+/// The first `count` characters, as a reader counts them.
+QString FirstOf(const QString& text, qsizetype count) {
+  const QList<uint> characters = text.toUcs4();
+  return QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()),
+                           std::min(count, characters.size()));
+}
+
 }  // namespace
 
 TextBox::TextBox(const QString& objectName, int length, std::string& text)
@@ -28,21 +36,25 @@ TextBox::TextBox(const QString& objectName, int length, std::string& text)
   setObjectName(objectName);
   cutSign_->setToolTip(QStringLiteral("Only %1 characters fit.").arg(length));
   cutSign_->setVisible(false);
-  connect(this, &QLineEdit::textEdited, this, &TextBox::Keep);
+  connect(this, &QLineEdit::textChanged, this, &TextBox::Keep);
 }
 
 void TextBox::Keep(const QString& typed) {
   QString kept = WithoutBreaks(typed);
-  const QList<uint> characters = kept.toUcs4();
-  const bool cut = characters.size() > length_;
-  if (cut) kept = QString::fromUcs4(reinterpret_cast<const char32_t*>(characters.constData()), length_);
+  QString before = kept.left(cursorPosition());
+  const auto excess = kept.toUcs4().size() - length_;
+  if (excess > 0) {  // What was typed last has no room.
+    const QString after = kept.mid(before.size());
+    before = FirstOf(before, std::max(before.toUcs4().size() - excess, qsizetype(0)));
+    kept = FirstOf(before + after, length_);
+  }
   if (kept != typed) {
-    const int cursor = cursorPosition();
+    const QSignalBlocker quiet(this);
     setText(kept);
-    setCursorPosition(std::min(cursor, static_cast<int>(kept.size())));
+    setCursorPosition(static_cast<int>(before.size()));
   }
   text_ = kept.toStdString();
-  TellCut(cut);
+  TellCut(excess > 0);
 }
 
 void TextBox::TellCut(bool cut) {
@@ -53,6 +65,7 @@ void TextBox::TellCut(bool cut) {
 
 void TextBox::ShowText() {
   if (text() == ToQt(text_)) return;
+  const QSignalBlocker quiet(this);
   setText(ToQt(text_));
   TellCut(false);
 }

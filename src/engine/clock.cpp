@@ -12,7 +12,7 @@ void Clock::Timer1_Timer(MatchScreen& screen) {
 
 void Clock::halftime_Click() {
   MatchSession& s = session_;
-  if (!s.Controls.halftimeEnabled) return;
+  if (!s.Controls.halftimeVisible || !s.Controls.halftimeEnabled) return;
   desktop_.PlaySound(Sound::Whistle);
   switch (s.Period) {
     case MatchPeriod::FirstHalf:

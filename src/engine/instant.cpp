@@ -11,7 +11,7 @@ constexpr int InstantKicks = 30;  ///< After so many a level shoot-out is over.
 }  // namespace
 
 void Instant::instant_Click() {
-  if (!session_.Controls.instantEnabled) return;
+  if (!session_.Controls.instantVisible || !session_.Controls.instantEnabled) return;
   InstantMain();
   DrawFacts();
 }

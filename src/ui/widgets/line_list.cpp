@@ -19,7 +19,10 @@ LineList::LineList(const QString& objectName) {
 
 void LineList::ShowLines(const ItemList& lines) {
   if (count() == lines.Count() && picked_ == lines.Picked) return;
-  for (int i = count(); i < lines.Count(); ++i) addItem(Shown(At(lines.Entries, i)));
+  for (int i = count(); i < lines.Count(); ++i) {
+    addItem(Shown(At(lines.Entries, i)));
+    if (item(i)->text().size() > item(longest_)->text().size()) longest_ = i;
+  }
   if (std::exchange(picked_, lines.Picked) != lines.Picked) setCurrentRow(lines.Picked);
   scrollTo(IndexOf(count() - 1), EnsureVisible);
   if (count() > 0) SetDescription(this, {});
@@ -76,7 +79,7 @@ void LineList::doItemsLayout() {
 
 void LineList::updateGeometries() {
   const bool atEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
-  if (count() > 0) lineSize_ = sizeHintForIndex(IndexOf(0)).expandedTo({0, 1});
+  if (count() > 0) lineSize_ = sizeHintForIndex(IndexOf(longest_)).expandedTo({0, 1});
   verticalScrollBar()->setSingleStep(1);
   verticalScrollBar()->setPageStep(WholeLines());
   verticalScrollBar()->setRange(0, count() - WholeLines());

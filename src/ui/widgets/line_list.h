@@ -40,7 +40,8 @@ class LineList final : public QListWidget {
   QModelIndex IndexOf(int row) const { return model()->index(row, modelColumn()); }
   int WholeLines() const;  ///< How many lines have room in the list; at least 1.
 
-  QSize lineSize_{0, 1};  ///< The first line's, which stands for all.
+  QSize lineSize_{0, 1};  ///< The longest line's, which stands for all.
+  int longest_ = 0;       ///< The line with the most characters.
   int picked_ = ItemList::None;
   QString hint_;
 };

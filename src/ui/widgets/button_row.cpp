@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <algorithm>
 
+#include "ui/widgets/page_area.h"
 #include "ui/widgets/scale.h"
 
 namespace kickwell {
@@ -27,7 +28,8 @@ void ButtonRow::Add(const WindowButtons& buttons) {
 QSize ButtonRow::minimumSizeHint() const {
   const QMargins margins = rows_->contentsMargins();
   const int widest = std::max(left_->minimumSize().width(), right_->minimumSize().width());
-  return {widest + margins.left() + margins.right(), rows_->minimumSize().height()};
+  const int wanted = widest + margins.left() + margins.right();
+  return {std::min(wanted, RoomOnScreen(this).width()), rows_->minimumSize().height()};
 }
 
 bool ButtonRow::event(QEvent* event) {

@@ -11,7 +11,8 @@ struct WindowButtons {
   QList<QWidget*> Left = {}, Right = {};
 };
 
-/// The buttons below a page. Where the window is too narrow for one row they stand in two.
+/// The buttons below a page. Where the window is too narrow for one row they stand in two, and on a screen
+/// that is too narrow for those they shrink.
 class ButtonRow final : public QWidget {
  public:
   ButtonRow();

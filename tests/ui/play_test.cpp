@@ -46,6 +46,8 @@ class PlayTest : public WindowTest {
     for (const QWidget* const window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
   }
 
+  void LookAtTheStatistics();
+
   User user_;
 };
 
@@ -105,6 +107,27 @@ TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
   EXPECT_TRUE(Exists("page.htm"));
 }
 
+/// Table, top scorers and results of the league of the following test.
+void PlayTest::LookAtTheStatistics() {
+  Choose(Qt::Key_S, Qt::Key_L);
+  user_.In("Table");
+  user_.ExpectText("Label1", "Test Standings");
+  ExpectTexts({{"Team(1)", "City"}, {"Won(1)", "2"}, {"GF(1)", "3"}, {"Points(1)", "7"}});
+  user_.Click("Command1");
+  Choose(Qt::Key_S, Qt::Key_T);
+  user_.In("TopScorers");
+  ExpectTexts({{"Rank(3)", "3"}, {"Player(3)", "Albion5"}, {"Team(3)", "Albion"}, {"Goals(3)", "2"}});
+  user_.Click("Command3");
+
+  Choose(Qt::Key_S, Qt::Key_M);
+  user_.In("LegResults");
+  user_.Do([](QWidget& window) {
+    const QStringList log = User::LinesOf(window, "List1");
+    EXPECT_EQ(log.last(), "Winner: Borough");
+  });
+  user_.Click("Command1");
+}
+
 TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   Choose(Qt::Key_E, Qt::Key_C);
   user_.In("LegEditor");
@@ -159,23 +182,7 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   PlayInstant("City", "Borough");
   user_.In("LegSettings").Click("Command2");
 
-  Choose(Qt::Key_S, Qt::Key_L);
-  user_.In("Table");
-  user_.ExpectText("Label1", "Test Standings");
-  ExpectTexts({{"Team(1)", "City"}, {"Won(1)", "2"}, {"GF(1)", "3"}, {"Points(1)", "7"}});
-  user_.Click("Command1");
-  Choose(Qt::Key_S, Qt::Key_T);
-  user_.In("TopScorers");
-  ExpectTexts({{"Rank(3)", "3"}, {"Player(3)", "Albion5"}, {"Team(3)", "Albion"}, {"Goals(3)", "2"}});
-  user_.Click("Command3");
-
-  Choose(Qt::Key_S, Qt::Key_M);
-  user_.In("LegResults");
-  user_.Do([](QWidget& window) {
-    const QStringList log = User::LinesOf(window, "List1");
-    EXPECT_EQ(log.last(), "Winner: Borough");
-  });
-  user_.Click("Command1");
+  LookAtTheStatistics();
   Run(desktop_);
 }
 

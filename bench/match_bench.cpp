@@ -147,7 +147,7 @@ void AddMatchFigures(Figures& figures) {
   const std::string early = "A tick of the match window, minutes 1 to 10";
   for (const auto& [name, last] : {std::pair(late, LastMinute), std::pair(early, Ticks)}) {
     const auto work = [first = last - Ticks](benchmark::State& state) { TickInWindow(state, first); };
-    Figures::Register(name, work)->Iterations(Ticks)->Repetitions(20);
+    Figures::Register(name, work)->Iterations(Ticks)->Repetitions(60);
   }
   figures.AtMost(late, 1.2, early);
   figures.AtMostMilliseconds(late, 100);

@@ -54,8 +54,8 @@ TEST(TextEncoding, ReadsWhateverBytesThereAre) {
   EXPECT_EQ(Decoded(Utf16(u"A") + "B"), Lines{"A"});  // Half a character at the end.
   EXPECT_EQ(Decoded("Fu\xDF\x92s \x80\x81\xFF\n"), Lines{"Fu\u00DF\u2019s \u20AC\u0081\u00FF"});  // No UTF-8.
   EXPECT_EQ(Decoded("\xEF\xBB\xBF\xC3\xA9\xE9\x80\xED\xA0"), Lines{"\u00E9\u00E9\u20AC\u00ED\u00A0"});
-  EXPECT_EQ(Decoded("\xC1\x81\n"), Lines{"\u00C1\u0081"});  // Longer than UTF-8 allows for an "A".
-  EXPECT_EQ(Decoded("one\rtwo\n"), Lines{"one\rtwo"});      // A lone CR ends no line.
+  EXPECT_EQ(Decoded("\xE0\x81\x81\n"), Lines{"\u00E0\u0081\u0081"});  // Longer than UTF-8 has an "A".
+  EXPECT_EQ(Decoded("one\rtwo\n"), Lines{"one\rtwo"});                // A lone CR ends no line.
 }
 
 TEST(TextEncoding, KeepsLoneSurrogates) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "data/name_order.h"
 #include "support/folders.h"
 
 namespace kickwell {
@@ -31,6 +34,7 @@ TEST(FileNames, ListsFilesByTheirLettersWhateverTheirCaseAndAccents) {
   TestFolder folder;
   for (const std::string& name : sorted) folder.Write(name, "");
   EXPECT_EQ(ListFiles(folder.Files, folder.Folder.Root), sorted);
+  EXPECT_TRUE(std::ranges::is_sorted(sorted, ListedBefore));
   EXPECT_EQ(ListFiles(folder.Files, folder.Folder.Root, ".leg"), std::vector<std::string>{"a.leg"});
 }
 

@@ -71,6 +71,7 @@ TEST_F(StoresTest, StandingsHaveARowForEveryTeam) {
             "A\n1x\n 1\n0\n0\n2\n1\n3\nB\n1");  // A figure is no number; B's row is cut short.
   const std::vector<StandingsRow> complete = {{"A", 0, 1, 0, 0, 2, 1, 3}, {"B", 1}, {"B"}};
   EXPECT_EQ(ReadStandings(folder_, Top, {"A", "B", "B"}).Value, complete);  // As often as it is listed.
+  EXPECT_EQ(ReadStandings(folder_, Top, {"A"}).Value.size(), 1U);
 }
 
 TEST_F(StoresTest, ANewTeamsStandingsStandBehindAllRows) {

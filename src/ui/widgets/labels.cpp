@@ -32,7 +32,7 @@ QLabel* MakeHeading(const QString& objectName) {
 
 QLabel* MakeFixtureLine(const MatchSetup& setup) {
   auto* const line =
-      new TextLabel(QStringLiteral("%1, match %2").arg(Shown(setup.ChampionshipName)).arg(setup.MatchNumber));
+      new TextLabel(Shown(setup.ChampionshipName) + QStringLiteral(", match %1").arg(setup.MatchNumber));
   line->setObjectName("fixture");
   line->setAlignment(Qt::AlignCenter);
   line->SetFaint(true);

@@ -179,8 +179,8 @@ QWidget* MatchWindow::BuildFacts(SideWidgets& side, int number) {
   int row = 0;
   const auto fact = [&](const QString& heading, QAnyStringView name, const QString& text) {
     QLabel* const figure = Enlarged(MakeText(name, text, Qt::AlignRight), FigureType);
-    figure->setContentsMargins(InGroup, 0, InGroup,
-                               0);  // Around the figure that lights up, so that all stand in line.
+    // Room around the figure that lights up, so that all stand in line.
+    figure->setContentsMargins(InGroup, 0, InGroup, 0);
     grid->addWidget(MakeCaption(heading), row, 0);
     grid->addWidget(figure, row++, 1, Qt::AlignVCenter);
     return figure;

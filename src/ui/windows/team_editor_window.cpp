@@ -20,8 +20,7 @@ constexpr int LongestTeamName = 16, LongestPlayerName = 25, LongestSkill = 2;
 const char* const Warning =
     "Before deleting any team from the existing list of teams, please make sure that the team doesn't appear "
     "on any of the existing leagues otherwise all the data will become corrupted and unexpected bugs may "
-    "creep "
-    "in. Please be very careful.";
+    "creep in. Please be very careful.";
 
 /// Lets the codes that `combo` offers explain themselves.
 void ExplainCodes(QComboBox* combo) {

@@ -1,6 +1,7 @@
 #include "championship/championship_play.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 #include "data/championship_store.h"
@@ -50,6 +51,22 @@ void ChampionshipPlay::Fixtures_Click(int first, int last) {
 int ChampionshipPlay::FirstUnplayed() const {
   const auto unplayed = std::ranges::find(fixtures_, NotPlayed, &Fixture::Status);
   return unplayed == fixtures_.end() ? ItemList::None : static_cast<int>(unplayed - fixtures_.begin());
+}
+
+std::string ChampionshipPlay::RangeText() const {
+  const int count = To.Picked - From.Picked + 1;
+  if (From.Picked == ItemList::None || count < 1) return {};
+  const auto range =
+      std::span(fixtures_).subspan(static_cast<std::size_t>(From.Picked), static_cast<std::size_t>(count));
+  const auto left = std::ranges::count(range, NotPlayed, &Fixture::Status);
+  const std::string matches =
+      count == 1 ? "Match " + From.Text() : "Matches " + From.Text() + " to " + To.Text();
+  if (left == count) return matches + (count == 1 ? " is" : " are") + " to be played.";
+  if (left > 0)
+    return matches + ": " + std::to_string(left) + " of " + std::to_string(count) + " to be played.";
+  const int next = FirstUnplayed();
+  return matches + (count == 1 ? " has" : " have") + " been played." +
+         (next == ItemList::None ? "" : " The next one is match " + std::to_string(next + 1) + ".");
 }
 
 void ChampionshipPlay::Load(const std::string& fileName) {

@@ -42,6 +42,9 @@ class ChampionshipPlay {
   /// The place of the first fixture that is still to be played, or ItemList::None.
   int FirstUnplayed() const;
 
+  /// What has been played of the range, in words. Empty unless the range holds a match.
+  std::string RangeText() const;
+
   /// Whether the fixture at `place` of the list (from 0) has been played.
   bool IsPlayed(int place) const { return At(fixtures_, place).Status != NotPlayed; }
 

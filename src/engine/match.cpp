@@ -148,7 +148,7 @@ void Match::ComSave_Click() {
 
 void Match::Command1_Click() {
   const Waiting question(waiting_);
-  if (!desktop_.Ask("Do you really want to exit?", Enter::Yes)) return;
+  if (!desktop_.Ask("Do you really want to exit?", session_.IsOver() ? Enter::Yes : Enter::No)) return;
   session_.UserLeft = true;
   recording_.MatchLeft();
 }

@@ -174,7 +174,7 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   user_.In("Selection").Do([](const QWidget& window) {
     const auto* const fixtures = window.parentWidget()->findChild<QListWidget*>("Fixtures");
     EXPECT_EQ(fixtures->item(1)->toolTip(), "Played");
-    EXPECT_EQ(fixtures->item(2)->toolTip(), "");
+    EXPECT_EQ(fixtures->item(2)->toolTip(), "Next");
   });
   PlayInstant("Albion", "City");
   PlayInstant("City", "Albion");

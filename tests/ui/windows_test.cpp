@@ -82,7 +82,7 @@ TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
   window.exec();
   EXPECT_LT(time.elapsed(), 20000);  // The pause does not hold it.
   EXPECT_TRUE(Exists("page.htm"));
-  EXPECT_EQ(desktop_.Taken(), (Texts{"* loaded", "* whistle", "* goal", "?: Do you really want to exit?"}));
+  EXPECT_EQ(desktop_.Taken(), (Texts{"* loaded", "* whistle", "* goal", "? (No): Do you really want to exit?"}));
 }
 
 TEST_F(WindowsTest, AClosedChooserIgnoresTheWheelAndFindsWhatIsTyped) {

@@ -59,9 +59,10 @@ QComboBox* MakeCombo(const QString& objectName) {
   auto* const combo = new Chooser;
   combo->setObjectName(objectName);
   combo->setMaxVisibleItems(MostRows);
-  combo->setItemDelegate(new SideTextDelegate(combo));
-  // Some styles would cover the whole screen with the entries, as with a menu.
+  // Some styles would cover the whole screen with the entries, as with a menu, and show no scroll bar. The
+  // style must be known before the list is made, which the delegate needs.
   combo->setStyleSheet(QStringLiteral("QComboBox { combobox-popup: 0; }"));
+  combo->setItemDelegate(new SideTextDelegate(combo));
   combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   combo->setMinimumContentsLength(UsualName);
   return combo;
@@ -137,6 +138,7 @@ void ShowEntries(QListWidget* list, const ItemList& chooser) {
   if (!same) {
     list->clear();
     list->addItems(entries);
+    list->keyboardSearch({});  // What is typed from now on begins a new search.
   }
 }
 

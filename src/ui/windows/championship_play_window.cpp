@@ -2,13 +2,13 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QSignalBlocker>
-#include <algorithm>
 
+#include "ui/text.h"
 #include "ui/widgets/appearance.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/scale.h"
+#include "ui/widgets/side_text.h"
 
 namespace kickwell {
 
@@ -20,7 +20,8 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
       from_(MakeCombo("From")),
       to_(MakeCombo("To")),
       simulationType_(MakeCombo("SimulationType")),
-      fixtures_(MakeList("Fixtures")) {
+      fixtures_(new FixtureList("Fixtures")),
+      rangeText_(MakeText("RangeText", {})) {
   const bool league = kind == ChampionshipKind::League;
   for (QComboBox* const number : {from_, to_}) number->setMinimumContentsLength(6);
   auto* const range = new QHBoxLayout;
@@ -38,6 +39,7 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   matches->setSpacing(InGroup);
   matches->addWidget(MakeCaption("Play Matches:", from_));
   matches->addLayout(range);
+  matches->addWidget(rangeText_);
   Name(from_, "Play Matches from");
   Name(to_, "Play Matches to");
   to->setAccessibleName("Play Matches to");
@@ -50,65 +52,50 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   OnPick(championships_, [this](int entry) { play_.Championships_Click(entry); });
   OnPick(from_, [this](int entry) { play_.From_Click(entry); });
   OnPick(to_, [this](int entry) { play_.To_Click(entry); });
-  fixtures_->setSelectionMode(QAbstractItemView::ContiguousSelection);
   connect(fixtures_, &QListWidget::itemSelectionChanged, this, [this] { Act([this] { PickRange(); }); });
   connect(fixtures_, &QListWidget::itemDoubleClicked, this,
           [this] { Act([this] { play_.Command1_Click(); }); });
   OnPick(simulationType_, [this](int entry) { play_.SimulationType_Click(entry); });
-  play_.Changed = [this] {
+  const auto show = [this] {
     Refresh();
-    ShowNext();
+    fixtures_->Frame(play_.FirstUnplayed());
   };
-  Refresh();
+  play_.Changed = show;
+  show();
   OpenAt(560, 720);
-  ShowNext();
-}
-
-/// The first and the last selected row; ItemList::None without any.
-std::pair<int, int> ChampionshipPlayWindow::SelectedRange() const {
-  const QModelIndexList picked = fixtures_->selectionModel()->selectedIndexes();
-  if (picked.isEmpty()) return {ItemList::None, ItemList::None};
-  const auto [first, last] = std::ranges::minmax(picked, {}, &QModelIndex::row);
-  return {first.row(), last.row()};
+  fixtures_->Frame(play_.FirstUnplayed());
 }
 
 void ChampionshipPlayWindow::PickRange() {
-  const auto [first, last] = SelectedRange();
+  const auto [first, last] = fixtures_->Range();
   if (first != ItemList::None) play_.Fixtures_Click(first, last);
 }
 
-/// Selects the fixtures of the range without the signals of a user's pick.
-void ChampionshipPlayWindow::ShowRange() {
-  if (SelectedRange() == std::pair(play_.From.Picked, play_.To.Picked)) return;
-  const QSignalBlocker quiet(fixtures_);
-  fixtures_->clearSelection();
-  for (int place = std::max(play_.From.Picked, 0); place <= play_.To.Picked; ++place)
-    fixtures_->item(place)->setSelected(true);
-}
-
-/// Scrolls to the first fixture that is still to be played, below the last results.
-void ChampionshipPlayWindow::ShowNext() {
-  constexpr int Before = 2;
+/// Says beside each fixture whether it has been played, also where it is selected, and marks the next one.
+void ChampionshipPlayWindow::ShowFixtures() {
+  ShowEntries(fixtures_, play_.FixtureList);
   const int next = play_.FirstUnplayed();
-  if (next == ItemList::None) return fixtures_->scrollToBottom();
-  fixtures_->selectionModel()->setCurrentIndex(fixtures_->model()->index(next, 0),
-                                               QItemSelectionModel::NoUpdate);
-  fixtures_->scrollToItem(fixtures_->item(std::max(next - Before, 0)), QAbstractItemView::PositionAtTop);
+  QFont bold = fixtures_->font();
+  bold.setBold(true);
+  for (int i = 0; i < fixtures_->count(); ++i) {
+    const bool played = play_.IsPlayed(i);
+    const QString state = played ? "Played" : i == next ? "Next" : "";
+    QListWidgetItem* const item = fixtures_->item(i);
+    item->setForeground(played ? FaintText(palette()) : palette().color(QPalette::Text));
+    item->setFont(i == next ? bold : fixtures_->font());
+    item->setToolTip(state);
+    item->setData(SideTextRole, state);
+    item->setData(Qt::AccessibleTextRole, state.isEmpty() ? item->text() : item->text() + ", " + state);
+  }
+  fixtures_->SelectRange(play_.From.Picked, play_.To.Picked);
 }
 
 void ChampionshipPlayWindow::Refresh() {
   ShowChooser(championships_, play_.Championships);
-  ShowEntries(fixtures_, play_.FixtureList);
-  for (int i = 0; i < fixtures_->count(); ++i) {
-    const bool played = play_.IsPlayed(i);
-    fixtures_->item(i)->setForeground(played ? FaintText(palette()) : palette().color(QPalette::Text));
-    fixtures_->item(i)->setToolTip(played ? "Played" : QString());
-    fixtures_->item(i)->setData(Qt::AccessibleTextRole,
-                                fixtures_->item(i)->text() + (played ? ", Played" : QString()));
-  }
-  ShowRange();
+  ShowFixtures();
   ShowChooser(from_, play_.From);
   ShowChooser(to_, play_.To);
+  rangeText_->setText(Shown(play_.RangeText()));
   ShowChooser(simulationType_, play_.SimulationType);
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QComboBox>
-#include <QListWidget>
-#include <utility>
+#include <QLabel>
 
 #include "championship/championship_play.h"
+#include "ui/widgets/fixture_list.h"
 #include "ui/windows/screen_window.h"
 
 namespace kickwell {
@@ -20,14 +20,13 @@ class ChampionshipPlayWindow final : public ScreenWindow {
   void Leave() override { play_.Command2_Click(); }
 
  private:
-  std::pair<int, int> SelectedRange() const;
   void PickRange();
-  void ShowRange();
-  void ShowNext();
+  void ShowFixtures();
 
   ChampionshipPlay& play_;
   QComboBox *championships_, *from_, *to_, *simulationType_;
-  QListWidget* fixtures_;
+  FixtureList* fixtures_;
+  QLabel* rangeText_;
 };
 
 }  // namespace kickwell

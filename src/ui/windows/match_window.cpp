@@ -7,6 +7,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <algorithm>
+#include <utility>
 
 #include "base/at.h"
 #include "ui/text.h"
@@ -385,7 +386,16 @@ void MatchWindow::ShowButtons(const MatchControls& controls) {
     play.Button->setEnabled(play.Enabled);
     if (play.Visible && play.Enabled) play.Button->setDefault(true);
   }
-  if (match_.Session().IsOver()) command1_->setDefault(true);
+  if (match_.Session().IsOver()) ShowEnd();
+}
+
+/// The exit button takes Enter over only when the result could be seen: whoever kicks by Enter presses it
+/// once more than there are kicks. The result of an instant match was asked for.
+void MatchWindow::ShowEnd() {
+  if (std::exchange(wasOver_, true)) return;
+  if (match_.Session().Setup.SimulationType == SimulationKind::InstantResult)
+    return command1_->setDefault(true);
+  QTimer::singleShot(timings_.ResultPause, this, [this] { command1_->setDefault(true); });
 }
 
 }  // namespace kickwell

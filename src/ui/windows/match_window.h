@@ -18,8 +18,9 @@ namespace kickwell {
 
 /// How long things take, in milliseconds. Tests use shorter times.
 struct MatchTimings {
-  int Tick = 1000;       ///< Of the clock: a minute of play.
-  int GoalPause = 3000;  ///< After every goal.
+  int Tick = 1000;         ///< Of the clock: a minute of play.
+  int GoalPause = 3000;    ///< After every goal.
+  int ResultPause = 2000;  ///< Before Enter can leave a match that has just ended in play.
 };
 
 class MatchWindow final : public ScreenWindow, public MatchScreen {
@@ -56,11 +57,13 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   void ShowLists(const MatchSession& session);
   LineList* ListOnView() const;
   void ShowButtons(const MatchControls& controls);
+  void ShowEnd();
   void TellState(const MatchSession& session);
 
   Match& match_;
   MatchTimings timings_;
   QTimer timer1_{this};
+  bool wasOver_ = false;
   SideWidgets side1_{}, side2_{};
   QLabel *label1_, *ven_, *label2_, *label3_;
   PitchPicture* picture2_;

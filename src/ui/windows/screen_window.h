@@ -28,7 +28,7 @@ class ScreenWindow : public QDialog {
  protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;  ///< Enter presses the button that has the focus.
+  void keyPressEvent(QKeyEvent* event) override;  ///< Enter presses the focused button, or else the default.
   bool focusNextPrevChild(bool next) override;    ///< Tab scrolls to what it reaches.
 
   /// Runs an action of the user, then shows the state or closes the window.

@@ -1,0 +1,84 @@
+#include "ui/widgets/fixture_list.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <utility>
+
+namespace kickwell {
+
+FixtureList::FixtureList(const QString& objectName) : SteadyList(objectName) {
+  setSelectionMode(QAbstractItemView::ContiguousSelection);
+}
+
+std::pair<int, int> FixtureList::Range() const {
+  const QModelIndexList selected = selectionModel()->selectedIndexes();
+  if (selected.isEmpty()) return {ItemList::None, ItemList::None};
+  const auto [first, last] = std::ranges::minmax(selected, {}, &QModelIndex::row);
+  return {first.row(), last.row()};
+}
+
+void FixtureList::SelectRange(int first, int last) {
+  const auto count = selectionModel()->selectedIndexes().size();
+  if (Range() == std::pair(first, last) && count == last - first + 1) return;
+  extends_ = false;
+  const QSignalBlocker quiet(this);
+  clearSelection();
+  if (first < 0 || last < first || last >= this->count()) return;
+  selectionModel()->select({model()->index(first, 0), model()->index(last, 0)}, QItemSelectionModel::Select);
+  for (const int row : {last, first}) scrollToItem(item(row));
+}
+
+void FixtureList::Frame(int row) {
+  constexpr int Before = 2;
+  extends_ = false;
+  if (row == ItemList::None) return scrollToBottom();
+  selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::NoUpdate);
+  scrollToItem(item(std::max(row - Before, 0)), PositionAtTop);
+}
+
+void FixtureList::SelectFramed() {
+  extends_ = false;
+  selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
+}
+
+/// Makes the range that is selected the one that Shift extends, at its end.
+void FixtureList::ExtendFromRange() {
+  if (std::exchange(extends_, true)) return;
+  const auto [first, last] = Range();
+  if (first == ItemList::None) return;
+  const QSignalBlocker quiet(this);
+  setCurrentIndex(model()->index(first, 0));  // Qt extends from here.
+  SelectRange(first, last);
+  selectionModel()->setCurrentIndex(model()->index(last, 0), QItemSelectionModel::NoUpdate);
+  extends_ = true;
+}
+
+void FixtureList::keyPressEvent(QKeyEvent* event) {
+  const bool framed = currentIndex().isValid();
+  const bool apart = framed && !selectionModel()->isSelected(currentIndex());
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (apart) SelectFramed();
+      return event->ignore();
+    case Qt::Key_Space:
+      if (framed) SelectFramed();
+      return;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      if (apart && event->modifiers() == Qt::NoModifier) return SelectFramed();
+      [[fallthrough]];
+    default:
+      if (event->modifiers().testFlag(Qt::ShiftModifier)) ExtendFromRange();
+      SteadyList::keyPressEvent(event);
+  }
+}
+
+void FixtureList::mousePressEvent(QMouseEvent* event) {
+  if (event->modifiers().testFlag(Qt::ShiftModifier)) ExtendFromRange();
+  SteadyList::mousePressEvent(event);
+}
+
+}  // namespace kickwell

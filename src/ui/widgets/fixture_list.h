@@ -1,0 +1,38 @@
+// The fixtures of a championship, to choose from.
+#pragma once
+
+#include <utility>
+
+#include "ui/widgets/choosers.h"
+
+namespace kickwell {
+
+/// A list whose selection is always one range of rows, without holes: whatever the user selects, all rows
+/// from the first to the last of it are selected. The row with the frame need not be among them. The first
+/// arrow key or a blank selects it; Enter selects it, too, and goes on to the window.
+class FixtureList final : public SteadyList {
+ public:
+  explicit FixtureList(const QString& objectName);
+
+  /// The first and the last selected row; ItemList::None for both without any.
+  std::pair<int, int> Range() const;
+
+  /// Selects these rows and scrolls to them, without the signals of a user's selection. Nothing if they are
+  /// selected already.
+  void SelectRange(int first, int last);
+
+  /// Puts the frame on `row`, below some of the rows before it, and selects nothing.
+  void Frame(int row);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  void SelectFramed();
+  void ExtendFromRange();
+
+  bool extends_ = false;  ///< Shift goes on from what the user selected here.
+};
+
+}  // namespace kickwell

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "ui/widgets/enter_key.h"
+
 namespace kickwell {
 
 FixtureList::FixtureList(const QString& objectName) : SteadyList(objectName) {
@@ -49,20 +51,27 @@ void FixtureList::ExtendFromRange() {
   const auto [first, last] = Range();
   if (first == ItemList::None) return;
   const QSignalBlocker quiet(this);
+  starts_ = true;
   setCurrentIndex(model()->index(first, 0));  // Qt extends from here.
+  starts_ = false;
   SelectRange(first, last);
   selectionModel()->setCurrentIndex(model()->index(last, 0), QItemSelectionModel::NoUpdate);
   extends_ = true;
 }
 
+QItemSelectionModel::SelectionFlags FixtureList::selectionCommand(const QModelIndex& index,
+                                                                  const QEvent* event) const {
+  return starts_ ? QItemSelectionModel::ClearAndSelect : SteadyList::selectionCommand(index, event);
+}
+
 void FixtureList::keyPressEvent(QKeyEvent* event) {
   const bool framed = currentIndex().isValid();
   const bool apart = framed && !selectionModel()->isSelected(currentIndex());
+  if (IsEnterPress(*event)) {
+    if (apart) SelectFramed();
+    return event->ignore();
+  }
   switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      if (apart) SelectFramed();
-      return event->ignore();
     case Qt::Key_Space:
       if (framed) SelectFramed();
       return;
@@ -77,7 +86,7 @@ void FixtureList::keyPressEvent(QKeyEvent* event) {
 }
 
 void FixtureList::mousePressEvent(QMouseEvent* event) {
-  if (event->modifiers().testFlag(Qt::ShiftModifier)) ExtendFromRange();
+  if (event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) ExtendFromRange();
   SteadyList::mousePressEvent(event);
 }
 

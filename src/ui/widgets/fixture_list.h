@@ -27,12 +27,15 @@ class FixtureList final : public SteadyList {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
 
  private:
   void SelectFramed();
   void ExtendFromRange();
 
-  bool extends_ = false;  ///< Shift goes on from what the user selected here.
+  bool extends_ = false;  ///< Qt extends the selection from an end of the range.
+  bool starts_ = false;   ///< A selection starts, whatever keys are held.
 };
 
 }  // namespace kickwell

@@ -1,8 +1,7 @@
 #include "ui/widgets/section.h"
 
-#include <QKeyEvent>
-
 #include "ui/widgets/choosers.h"
+#include "ui/widgets/enter_key.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/scale.h"
 
@@ -40,10 +39,12 @@ void Section::AddButton(QPushButton* button) {
   form_->addRow(row);
 }
 
-void Section::keyPressEvent(QKeyEvent* event) {
-  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!enter || button_ == nullptr) return QGroupBox::keyPressEvent(event);
+bool Section::event(QEvent* event) {
+  if (!IsEnterPress(*event)) return QGroupBox::event(event);
+  // A group box without a button leaves Enter to the window; QGroupBox would keep it on some desktops.
+  if (button_ == nullptr) return QWidget::event(event);
   button_->click();
+  return true;
 }
 
 }  // namespace kickwell

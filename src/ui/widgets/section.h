@@ -25,7 +25,7 @@ class Section final : public QGroupBox {
   void AddButton(QPushButton* button);
 
  protected:
-  void keyPressEvent(QKeyEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   QFormLayout* form_;

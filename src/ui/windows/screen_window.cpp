@@ -1,6 +1,5 @@
 #include "ui/windows/screen_window.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QFrame>
 #include <QKeyEvent>
@@ -11,6 +10,7 @@
 #include <utility>
 
 #include "ui/widgets/accessible.h"
+#include "ui/widgets/enter_key.h"
 #include "ui/widgets/scale.h"
 
 namespace kickwell {
@@ -20,29 +20,6 @@ namespace {
 QByteArray PlaceOf(const QWidget& window) {
   return "place of " + window.objectName().toLatin1();
 }
-
-bool IsEnter(const QKeyEvent* key) {
-  return key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-}
-
-/// Takes Enter past the controls of a window. On some desktops the theme lets Enter open a drop-down list,
-/// tick a box or press a button by itself; here Section and ScreenWindow alone decide what it does.
-class EnterKey final : public QObject {
- public:
-  explicit EnterKey(QWidget* window) : QObject(window), window_(window) { qApp->installEventFilter(this); }
-
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() != QEvent::KeyPress || !IsEnter(static_cast<QKeyEvent*>(event))) return false;
-    const auto* const control = qobject_cast<QWidget*>(watched);
-    const bool takesEnter = watched->inherits("QComboBox") || watched->inherits("QAbstractButton");
-    if (control == nullptr || !takesEnter || control->window() != window_) return false;
-    event->ignore();  // Qt passes it on to the control's parents.
-    return true;
-  }
-
- private:
-  QWidget* window_;
-};
 
 /// A line under a page, as long as there is more of it.
 QFrame* EdgeOf(const PageArea& page) {
@@ -70,7 +47,7 @@ ScreenWindow::ScreenWindow(const char* name, const QString& caption, QWidget* pa
   setObjectName(QLatin1String(name));
   setWindowTitle(caption);
   setWindowFlags(windowFlags() & ~Qt::WindowContextHelpButtonHint);
-  new EnterKey(this);
+  TakeEnterPastControls(this);
   setSizeGripEnabled(true);
   findChild<QSizeGrip*>()->setAccessibleName("Size");
   auto* const layout = new QVBoxLayout(this);
@@ -119,8 +96,9 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
 
 void ScreenWindow::keyPressEvent(QKeyEvent* event) {
   auto* const button = qobject_cast<QPushButton*>(focusWidget());
-  if (IsEnter(event) && event->isAutoRepeat()) return;  // A key held down must not run through the screens.
-  if (IsEnter(event) && button != nullptr) {
+  const bool enter = IsEnterPress(*event);
+  if (enter && event->isAutoRepeat()) return;  // A key held down must not run through the screens.
+  if (enter && button != nullptr) {
     button->click();
   } else {
     QDialog::keyPressEvent(event);

@@ -17,7 +17,6 @@ constexpr const char* Scorers = ".sco";
 constexpr const char* Results = ".lrs";
 
 constexpr std::size_t StandingsLines = 8, ScorerLines = 3;  ///< Of a row.
-constexpr std::size_t BlockSize = 200;  ///< Bytes that a block of the results log rarely exceeds.
 
 bool IsLeague(ChampionshipKind kind) {
   return kind == ChampionshipKind::League;
@@ -45,8 +44,8 @@ std::string FileIn(const ChampionshipId& id, const char* extension) {
 }
 
 /// The lines of a championship's file; none when there is no such file.
-Loaded<std::optional<TextLines>> ReadFile(const ProgramFolder& folder, const ChampionshipId& id,
-                                          const char* extension) {
+Loaded<std::optional<std::string>> ReadFile(const ProgramFolder& folder, const ChampionshipId& id,
+                                            const char* extension) {
   if (!StaysInFolder(id.Name + extension)) return {};
   return ReadText(folder.Files(), PathOf(folder, id, extension));
 }
@@ -164,7 +163,7 @@ FileResult DeleteChampionship(const ProgramFolder& folder, const ChampionshipId&
 Loaded<std::vector<StandingsRow>> ReadStandings(const ProgramFolder& folder, const ChampionshipId& league,
                                                 const std::vector<std::string>& teams) {
   const auto [lines, result] = ReadFile(folder, league, Standings);
-  LineReader reader(lines.value_or(TextLines()));
+  LineReader reader(lines.value_or(std::string()));
   std::vector<StandingsRow> standings;
   while (standings.size() < teams.size() && !reader.Rest().empty()) {  // The last one may be incomplete.
     StandingsRow& row = standings.emplace_back();
@@ -211,7 +210,7 @@ FileResult AppendStandings(const ProgramFolder& folder, const ChampionshipId& le
 
 Loaded<std::vector<ScorerRow>> ReadScorers(const ProgramFolder& folder, const ChampionshipId& id) {
   const auto [lines, result] = ReadFile(folder, id, Scorers);
-  LineReader reader(lines.value_or(TextLines()));
+  LineReader reader(lines.value_or(std::string()));
   std::vector<ScorerRow> scorers(reader.RecordsLeft(ScorerLines));
   for (ScorerRow& row : scorers) {
     row.Player = reader.Text();
@@ -230,8 +229,8 @@ FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const
   if (!finished.Ok()) return finished;
   const auto [lines, result] = ReadFile(folder, id, Scorers);
   if (!result.Ok()) return result;
-  LineReader reader(lines.value_or(TextLines()));
-  EncodedText text(lines ? lines->Text().size() : 0);
+  LineReader reader(lines.value_or(std::string()));
+  EncodedText text;
   bool known = false;
   while (reader.RecordsLeft(ScorerLines) > 0) {
     const std::string_view player = reader.View();
@@ -256,17 +255,19 @@ FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const
 }
 
 Loaded<Lines> ReadResults(const ProgramFolder& folder, const ChampionshipId& id) {
-  const auto [lines, result] = ReadFile(folder, id, Results);
-  if (!lines) return {{}, result};
-  return {Lines(lines->begin(), lines->end())};
+  const auto [text, result] = ReadFile(folder, id, Results);
+  LineReader reader(text.value_or(std::string()));
+  Lines lines;
+  while (reader.RecordsLeft(1) > 0) lines.push_back(reader.Text());
+  return {std::move(lines), result};
 }
 
 Loaded<ChangedFile> ChangedResults(const ProgramFolder& folder, const ChampionshipId& id,
                                    const std::array<std::string, 5>& block) {
   const auto [lines, result] = ReadFile(folder, id, Results);
-  EncodedText text(lines ? lines->Text().size() + BlockSize : 0);
+  EncodedText text;
   if (lines && !lines->empty()) {
-    text.AddLines(lines->Text());
+    text.AddLines(*lines);
     text.Add("");
   }
   for (const std::string& line : block) text.Add(line);

@@ -14,8 +14,13 @@ namespace kickwell {
 /// Takes the lines of a file one by one.
 class LineReader {
  public:
-  explicit LineReader(TextLines lines)
-      : lines_(std::move(lines)), rest_(lines_.Text()), left_(lines_.size()) {}
+  /// `text` has CR LF after each line, as Decode returns it.
+  explicit LineReader(std::string text)
+      : text_(std::move(text)),
+        rest_(text_),
+        left_(static_cast<std::size_t>(std::ranges::count(text_, '\n'))) {}
+  LineReader(const LineReader&) = delete;
+  LineReader& operator=(const LineReader&) = delete;
 
   /// The next line; empty after the last.
   std::string_view View() {
@@ -50,13 +55,12 @@ class LineReader {
 
   /// The lines taken since the last call, with CR LF after each of them.
   std::string_view Passed() {
-    const std::string_view text = lines_.Text();
-    const std::size_t from = std::exchange(passed_, text.size() - rest_.size());
-    return text.substr(from, passed_ - from);
+    const std::size_t from = std::exchange(passed_, text_.size() - rest_.size());
+    return std::string_view(text_).substr(from, passed_ - from);
   }
 
  private:
-  TextLines lines_;
+  std::string text_;
   std::string_view rest_;   ///< What has not been taken.
   std::size_t left_;        ///< How many lines that is.
   std::size_t passed_ = 0;  ///< Where Passed goes on.

@@ -48,7 +48,7 @@ Loaded<std::vector<Stadium>> LoadStadiums(const ProgramFolder& folder) {
 FileResult SaveStadiums(const ProgramFolder& folder, const std::vector<Stadium>& stadiums) {
   const auto [lines, result] = ReadText(folder.Files(), folder.Stadiums());
   if (!result.Ok()) return result;
-  LineReader former(lines.value_or(TextLines()));
+  LineReader former(lines.value_or(std::string()));
   TakeStadiums(former);
   EncodedText text;
   text.Add(static_cast<int>(stadiums.size()));

@@ -1,8 +1,6 @@
 #include "data/text_encoding.h"
 
-#include <algorithm>
 #include <optional>
-#include <utility>
 
 #include "base/at.h"
 
@@ -74,61 +72,32 @@ char32_t FromWindows1252(char byte) {
   return value >= 0x80 && value < 0xA0 ? At(Own, value - 0x80) : value;
 }
 
-enum class Encoding { Bytes, Utf16Little, Utf16Big };
+enum class ByteOrder { Little, Big };
 
-/// Without a mark only UTF-16 holds zero bytes: the high bytes of digits and of line ends.
-Encoding GuessEncoding(std::string_view bytes) {
+/// The byte order of UTF-16 without a mark; none for other text, since only UTF-16 holds zero bytes: the high
+/// bytes of digits and of line ends.
+std::optional<ByteOrder> GuessByteOrder(std::string_view bytes) {
   std::size_t zeros[2] = {0, 0};
   for (std::size_t i = 0; i < bytes.size(); ++i) zeros[i % 2] += bytes[i] == '\0' ? 1 : 0;
-  if (zeros[0] == 0 && zeros[1] == 0) return Encoding::Bytes;
-  return zeros[0] > zeros[1] ? Encoding::Utf16Big : Encoding::Utf16Little;
+  if (zeros[0] == 0 && zeros[1] == 0) return std::nullopt;
+  return zeros[0] > zeros[1] ? ByteOrder::Big : ByteOrder::Little;
 }
 
-/// Nearly all text is ASCII. Compilers turn the loops over a block of it into vector instructions.
-constexpr std::size_t Block = 64;
-
-/// Where the low and the high byte of a UTF-16 unit lie.
-struct ByteOrder {
-  std::size_t Low, High;
-};
-
-template <ByteOrder Order>
-char32_t UnitAt(std::string_view bytes, std::size_t place) {
-  const auto at = [&](std::size_t i) { return static_cast<unsigned char>(bytes[place + i]); };
-  return static_cast<char32_t>(at(Order.Low) | at(Order.High) << 8);
-}
-
-/// Narrows `count` UTF-16 units. Returns whether all of them were ASCII.
-template <ByteOrder Order>
-bool NarrowAscii(const char* units, std::size_t count, char* ascii) {
-  char others = 0;
-  for (std::size_t i = 0; i < count; ++i) {
-    ascii[i] = units[2 * i + Order.Low];
-    others = static_cast<char>(others | (ascii[i] & '\x80') | units[2 * i + Order.High]);
-  }
-  return others == 0;
-}
-
-template <ByteOrder Order>
-std::string DecodeUtf16(std::string_view bytes) {
+std::string DecodeUtf16(std::string_view bytes, ByteOrder order) {
+  const std::size_t low = order == ByteOrder::Little ? 0 : 1;
+  const auto byte = [&bytes](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+  const auto unit = [&](std::size_t i) {
+    return static_cast<char32_t>(byte(i + low) | byte(i + 1 - low) << 8);
+  };
   std::string text;
   text.reserve(bytes.size() / 2);
-  char ascii[Block];
-  for (std::size_t i = 0; i + 1 < bytes.size();) {
-    const std::size_t count = std::min(Block, (bytes.size() - i) / 2), end = i + 2 * count;
-    if (NarrowAscii<Order>(bytes.data() + i, count, ascii)) {
-      text.append(ascii, count);
-      i = end;
-    }
-    while (i < end) {
-      char32_t c = UnitAt<Order>(bytes, i);
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    char32_t c = unit(i);
+    if (IsHighSurrogate(c) && i + 3 < bytes.size() && IsLowSurrogate(unit(i + 2))) {
       i += 2;
-      if (IsHighSurrogate(c) && i + 1 < bytes.size() && IsLowSurrogate(UnitAt<Order>(bytes, i))) {
-        c = 0x10000 + ((c - 0xD800) << 10) + (UnitAt<Order>(bytes, i) - 0xDC00);
-        i += 2;
-      }
-      AppendUtf8(text, c);
+      c = 0x10000 + ((c - 0xD800) << 10) + (unit(i) - 0xDC00);
     }
+    AppendUtf8(text, c);
   }
   return text;
 }
@@ -155,32 +124,11 @@ std::string DecodeUtf8(std::string_view bytes, bool marked) {
 }
 
 std::string ToUtf8(std::string_view bytes) {
-  Encoding encoding{};
-  if (bytes.starts_with(Mark)) {
-    encoding = Encoding::Utf16Little;
-    bytes.remove_prefix(2);
-  } else if (bytes.starts_with("\xFE\xFF")) {
-    encoding = Encoding::Utf16Big;
-    bytes.remove_prefix(2);
-  } else if (bytes.starts_with(Utf8Mark)) {
-    return DecodeUtf8(bytes.substr(Utf8Mark.size()), true);
-  } else {
-    encoding = GuessEncoding(bytes);
-  }
-  if (encoding == Encoding::Utf16Little) return DecodeUtf16<ByteOrder{0, 1}>(bytes);
-  if (encoding == Encoding::Utf16Big) return DecodeUtf16<ByteOrder{1, 0}>(bytes);
-  return DecodeUtf8(bytes, false);
-}
-
-/// Widens `count` characters to UTF-16 units. Returns whether all of them were ASCII.
-bool WidenAscii(const char* ascii, std::size_t count, char* units) {
-  char others = 0;
-  for (std::size_t i = 0; i < count; ++i) {
-    units[2 * i] = ascii[i];
-    units[2 * i + 1] = '\0';
-    others = static_cast<char>(others | (ascii[i] & '\x80'));
-  }
-  return others == 0;
+  if (bytes.starts_with(Mark)) return DecodeUtf16(bytes.substr(2), ByteOrder::Little);
+  if (bytes.starts_with("\xFE\xFF")) return DecodeUtf16(bytes.substr(2), ByteOrder::Big);
+  if (bytes.starts_with(Utf8Mark)) return DecodeUtf8(bytes.substr(Utf8Mark.size()), true);
+  const std::optional<ByteOrder> order = GuessByteOrder(bytes);
+  return order ? DecodeUtf16(bytes, *order) : DecodeUtf8(bytes, false);
 }
 
 void AppendUnit(std::string& bytes, char32_t unit) {
@@ -189,74 +137,31 @@ void AppendUnit(std::string& bytes, char32_t unit) {
 }
 
 void AppendUtf16(std::string& bytes, std::string_view text) {
-  char units[2 * Block];
-  for (std::size_t place = 0; place < text.size();) {
-    const std::size_t count = std::min(Block, text.size() - place), end = place + count;
-    if (WidenAscii(text.data() + place, count, units)) {
-      bytes.append(units, 2 * count);
-      place = end;
-    }
-    while (place < end) {
-      const char32_t c = NextCodePoint(text, place);
-      if (c >= 0x10000) {
-        AppendUnit(bytes, 0xD800 + ((c - 0x10000) >> 10));
-        AppendUnit(bytes, 0xDC00 + ((c - 0x10000) & 0x3FF));
-      } else {
-        AppendUnit(bytes, c);
-      }
+  for (std::size_t i = 0; i < text.size();) {
+    const char32_t c = NextCodePoint(text, i);
+    if (c >= 0x10000) {
+      AppendUnit(bytes, 0xD800 + ((c - 0x10000) >> 10));
+      AppendUnit(bytes, 0xDC00 + ((c - 0x10000) & 0x3FF));
+    } else {
+      AppendUnit(bytes, c);
     }
   }
-}
-
-struct LineFeeds {
-  std::size_t Count = 0;
-  bool Bare = false;  ///< Whether any of them has no CR before it.
-};
-
-LineFeeds FindLineFeeds(std::string_view text) {
-  LineFeeds found{0, text.starts_with('\n')};
-  found.Count = found.Bare ? 1 : 0;
-  for (std::size_t place = 1; place < text.size(); place += Block) {
-    const std::size_t end = std::min(place + Block, text.size());
-    unsigned char count = 0, bare = 0;
-    for (std::size_t i = place; i < end; ++i) {
-      const bool feed = text[i] == '\n', afterOther = text[i - 1] != '\r';
-      count = static_cast<unsigned char>(count + feed);
-      bare = static_cast<unsigned char>(bare | (feed & afterOther));
-    }
-    found.Count += count;
-    found.Bare |= bare != 0;
-  }
-  return found;
-}
-
-/// `text` with CR LF in the place of each LF.
-std::string WithCrLf(std::string_view text) {
-  std::string ended;
-  for (const char c : text) {
-    if (c == '\n' && !ended.ends_with('\r')) ended += '\r';
-    ended += c;
-  }
-  return ended;
 }
 
 }  // namespace
 
-TextLines::TextLines(std::string text) {
-  if (!text.empty() && !text.ends_with('\n')) text += '\n';
-  const LineFeeds feeds = FindLineFeeds(text);
-  size_ = feeds.Count;
-  text_ = std::make_shared<const std::string>(feeds.Bare ? WithCrLf(text) : std::move(text));
+std::string Decode(std::string_view bytes) {
+  std::string text;
+  text.reserve(bytes.size());
+  for (const char c : ToUtf8(bytes)) {
+    if (c == '\n' && !text.ends_with('\r')) text += '\r';
+    text += c;
+  }
+  if (!text.empty() && !text.ends_with('\n')) text += "\r\n";
+  return text;
 }
 
-TextLines Decode(std::string_view bytes) {
-  return TextLines(ToUtf8(bytes));
-}
-
-EncodedText::EncodedText(std::size_t expected) {
-  bytes_.reserve(Mark.size() + 2 * expected);
-  bytes_ = Mark;
-}
+EncodedText::EncodedText() : bytes_(Mark) {}
 
 void EncodedText::Add(std::string_view line) {
   for (std::size_t end = line.find('\n'); end != std::string_view::npos; end = line.find('\n')) {

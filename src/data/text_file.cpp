@@ -48,7 +48,7 @@ Loaded<std::optional<std::string>> ReadBytesOf(FileSystem& files, const fs::path
   return {std::nullopt, Result(file, "read", error)};
 }
 
-Loaded<std::optional<TextLines>> ReadText(FileSystem& files, const fs::path& file) {
+Loaded<std::optional<std::string>> ReadText(FileSystem& files, const fs::path& file) {
   const auto [bytes, result] = ReadBytesOf(files, file);
   if (!bytes) return {std::nullopt, result};
   return {Decode(*bytes)};

@@ -17,7 +17,7 @@ namespace kickwell {
 Loaded<std::optional<std::string>> ReadBytesOf(FileSystem& files, const std::filesystem::path& file);
 
 /// The lines of `file`, likewise.
-Loaded<std::optional<TextLines>> ReadText(FileSystem& files, const std::filesystem::path& file);
+Loaded<std::optional<std::string>> ReadText(FileSystem& files, const std::filesystem::path& file);
 
 /// Whether there is anything of that name, readable or not.
 bool FileExists(FileSystem& files, const std::filesystem::path& file);

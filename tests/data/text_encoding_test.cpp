@@ -1,4 +1,4 @@
-#include "data/text_encoding.h"
+#include "data/line_reader.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,10 @@ namespace {
 using namespace std::string_literals;
 
 Lines Decoded(std::string_view bytes) {
-  const TextLines lines = Decode(bytes);
-  return {lines.begin(), lines.end()};
+  LineReader reader(Decode(bytes));
+  Lines lines;
+  while (reader.RecordsLeft(1) > 0) lines.push_back(reader.Text());
+  return lines;
 }
 
 /// UTF-16 little-endian with the mark.

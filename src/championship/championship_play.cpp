@@ -6,7 +6,6 @@
 
 #include "data/championship_store.h"
 #include "data/knock_out.h"
-#include "data/team_store.h"
 #include "data/tell_failure.h"
 
 namespace kickwell {
@@ -134,14 +133,10 @@ void ChampionshipPlay::HandOver(int number) {
   setup.Mode = ModeOf(kind_);
   setup.ChampionshipName = name_;
   setup.MatchNumber = number;
-  setup.Team1Name = TeamOf(fixture.Home);
-  setup.Team2Name = TeamOf(fixture.Away);
+  setup.Team1Name = TeamOf(folder_, kind_, fixture.Home);
+  setup.Team2Name = TeamOf(folder_, kind_, fixture.Away);
   setup.SimulationType = static_cast<SimulationKind>(SimulationType.Picked);
   openSelection_(setup);
-}
-
-std::string ChampionshipPlay::TeamOf(const std::string& entry) const {
-  return TeamExists(folder_, entry) ? entry : WithoutToss(entry);
 }
 
 }  // namespace kickwell

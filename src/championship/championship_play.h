@@ -65,9 +65,6 @@ class ChampionshipPlay {
   /// and read first; where that fails, the user is told.
   bool IsUpToDate();
 
-  /// The team that plays for a fixture's entry: a winner by toss plays under its own name.
-  std::string TeamOf(const std::string& entry) const;
-
   ChampionshipKind kind_;
   ProgramFolder folder_;
   Desktop& desktop_;

@@ -7,6 +7,7 @@
 #include "base/number.h"
 #include "data/file_names.h"
 #include "data/line_reader.h"
+#include "data/team_store.h"
 #include "data/text_file.h"
 
 namespace kickwell {
@@ -92,6 +93,11 @@ ChampionshipId IdOfMainFile(ChampionshipKind kind, const std::string& fileName) 
 
 std::vector<std::string> ListChampionships(const ProgramFolder& folder, ChampionshipKind kind) {
   return ListFiles(folder.Files(), FolderOf(folder, kind), MainExtension(kind));
+}
+
+std::string TeamOf(const ProgramFolder& folder, ChampionshipKind kind, const std::string& entry) {
+  const bool mayBeToss = !IsLeague(kind) && entry.ends_with(TossSuffix);
+  return mayBeToss && !TeamExists(folder, entry) ? WithoutToss(entry) : entry;
 }
 
 bool ChampionshipExists(const ProgramFolder& folder, const ChampionshipId& id) {

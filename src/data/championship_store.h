@@ -31,6 +31,10 @@ std::vector<std::string> ListChampionships(const ProgramFolder& folder, Champion
 /// Whether there is such a main file, readable or not.
 bool ChampionshipExists(const ProgramFolder& folder, const ChampionshipId& id);
 
+/// The team that plays for a fixture's entry. In a knock-out a winner by toss plays under its own name,
+/// unless a team is really called so.
+std::string TeamOf(const ProgramFolder& folder, ChampionshipKind kind, const std::string& entry);
+
 /// The championship in the main file, under the name stored there; none without such a file.
 Loaded<std::optional<Championship>> ReadChampionship(const ProgramFolder& folder, const ChampionshipId& id);
 

@@ -7,7 +7,6 @@
 
 #include "base/number.h"
 #include "data/knock_out.h"
-#include "data/team_store.h"
 #include "data/tell_failure.h"
 
 namespace kickwell {
@@ -140,12 +139,9 @@ FileResult FileRecording::Record(const MatchSession& session, const Championship
 void FileRecording::FileChanges(const MatchSession& session, const ChampionshipId& id) {
   if (!match_.Main) return;
   const MatchSetup& setup = session.Setup;
-  // A team that came through by toss plays without the suffix, unless a team is really called so.
-  const auto names = [&](const std::string& entry, const std::string& team) {
-    return entry == team || (WithoutToss(entry) == team && !TeamExists(folder_, entry));
-  };
   for (Fixture& fixture : match_.Main->Fixtures) {
-    if (!names(fixture.Home, setup.Team1Name) || !names(fixture.Away, setup.Team2Name)) continue;
+    const Pairing teams{TeamOf(folder_, id.Kind, fixture.Home), TeamOf(folder_, id.Kind, fixture.Away)};
+    if (teams != Pairing{setup.Team1Name, setup.Team2Name}) continue;
     fixture.Status = Played;
     fixture.Winner = session.ResultText;
   }

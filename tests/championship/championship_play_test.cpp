@@ -34,9 +34,12 @@ class ChampionshipPlayTest : public ScreenTest {
 
 TEST_F(ChampionshipPlayTest, OffersAndPlaysTheFixturesOfALeague) {
   Write("Leagues/Short.leg", "Short\n2\nA\nB\n1\nNP\nB\nA\n");
+  Write("Leagues/Toss.leg", "Toss\n2\nA\nB (By Toss)\n1\nNP\nA\nB (By Toss)\n");
   Write("Leagues/Top.leg", "Top\n2\nA\nB\n3\nNP\nA\nB\nx\nB\nA\nNP\nA\nB\n");
   ChampionshipPlay play = Open(League);
   EXPECT_EQ(play.To.Text(), "1");
+  play.Championships_Click(2);
+  EXPECT_EQ(Play(play, 1, 1), Texts{"Match 1: A v B (By Toss)"});  // A league has no tosses.
   play.Championships_Click(1);
   EXPECT_EQ(play.To.Text(), "2");
   EXPECT_EQ(play.FixtureList.Entries, (Texts{"Match 1: A v B", "Match 2: B v A", "Match 3: A v B"}));

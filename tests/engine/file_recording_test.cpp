@@ -50,7 +50,8 @@ TEST_F(FileRecordingTest, GoalsAddUpByThePlayersName) {
 }
 
 TEST_F(FileRecordingTest, ALeagueMatchUpdatesStandingsResultsAndItsFixture) {
-  const std::string teams = "Cup\n3\nAlbion\nRovers\nUnited\n2\n", other = "NP\nRovers\nAlbion\n";
+  const std::string teams = "Cup\n3\nAlbion\nRovers\nUnited\n3\n";
+  const std::string other = "NP\nRovers\nAlbion\nNP\nRovers (By Toss)\nUnited\n";  // A league has no tosses.
   Write("Leagues/Cup.leg", teams + other + "NP\nRovers\nUnited\n");
   Play(MatchMode::League, 3, 1);
   ExpectFile("Leagues/Cup.leg", teams + other + "P\nRovers\nUnited\n");

@@ -6,8 +6,8 @@
 
 namespace kickwell {
 
-/// What decides the order: the letters in lower case, those of Latin and Greek without their accents. Letter
-/// case is known of Latin, Greek, Cyrillic and Armenian.
+/// What decides the order: the letters in lower case, those of Latin and Greek without their accents, and
+/// then the same with them. Letter case is known of Latin, Greek, Cyrillic and Armenian.
 std::u32string OrderKey(std::string_view name);
 
 /// Whether `a` comes before `b`: by OrderKey, then by exact text.

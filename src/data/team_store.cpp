@@ -38,6 +38,10 @@ Loaded<std::optional<Team>> LoadTeam(const ProgramFolder& folder, const std::str
   return {std::move(team)};
 }
 
+FileResult CreateTeam(const ProgramFolder& folder, const std::string& name, const std::string& skill) {
+  return SaveTeam(folder, {name, skill, {}});
+}
+
 FileResult SaveTeam(const ProgramFolder& folder, const Team& team) {
   if (!IsFileName(team.Name) && !TeamExists(folder, team.Name)) return {FileNameRefusal(team.Name)};
   EncodedText text;

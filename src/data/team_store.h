@@ -37,6 +37,9 @@ bool TeamExists(const ProgramFolder& folder, const std::string& name);
 /// end are no player.
 Loaded<std::optional<Team>> LoadTeam(const ProgramFolder& folder, const std::string& name);
 
+/// Makes a team without players, in the place of one of that name if there is one. Otherwise as SaveTeam.
+FileResult CreateTeam(const ProgramFolder& folder, const std::string& name, const std::string& skill);
+
 /// Writes the whole file of the team. Refuses a new one whose name cannot be a file name.
 FileResult SaveTeam(const ProgramFolder& folder, const Team& team);
 

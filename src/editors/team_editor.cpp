@@ -90,7 +90,7 @@ void TeamEditor::Command7_Click() {
     return;
   }
   if (!desktop_.Ask("Are you sure you want to add " + name + "?", Enter::Yes)) return;
-  if (!TellFailure(desktop_, SaveTeam(folder_, {name, Text5, {}}))) return;
+  if (!TellFailure(desktop_, CreateTeam(folder_, name, Text5))) return;
   Combo3.Add(name);
   if (league_ != NoChampionship)
     TellFailure(desktop_, AppendStandings(folder_, {ChampionshipKind::League, league_}, name));

@@ -31,7 +31,9 @@ TEST_F(StoresTest, ATeamOfAnyNameIsReadSavedAndDeletedButNoneIsMade) {
   EXPECT_EQ(at_.Bytes("Teams/F.C."), AsWritten("50\nA\n60\nGK\nB\n61\n"));
   at_.Write("Teams/F.C.", "50\nA\n60\nGK\n\n \n\n\n");  // Blank lines are no player.
   EXPECT_EQ(LoadTeam(folder_, "F.C.").Value, (Team{"F.C.", "50", {{"A", "60", "GK"}}}));
-  EXPECT_FALSE(SaveTeam(folder_, {"CON", "1", {}}).Ok());
+  EXPECT_TRUE(CreateTeam(folder_, "F.C.", "05").Ok());  // In its place.
+  EXPECT_EQ(at_.Bytes("Teams/F.C."), AsWritten("05\n"));
+  EXPECT_FALSE(CreateTeam(folder_, "CON", "1").Ok());
   EXPECT_TRUE(DeleteTeam(folder_, "F.C.").Ok());
   EXPECT_TRUE(at_.Files.All().empty());
   EXPECT_TRUE(DeleteTeam(folder_, "F.C.").Ok());  // Neither file is there any more.

@@ -15,8 +15,8 @@
 
 namespace kickwell {
 
-/// One end of the pitch and the team that plays there now. When the teams change ends, all of it goes with
-/// the team.
+/// One end of the pitch and the team that plays there now. When the teams change ends, each takes along all
+/// that Simulation::SwapData names.
 struct Side {
   std::string Team{};
   int Goals = 0;

@@ -100,7 +100,12 @@ void Simulation::TryFoul() {
 }
 
 void Simulation::SwapData() {
-  std::swap(session_.Side1, session_.Side2);
+  Side &a = session_.Side1, &b = session_.Side2;
+  std::swap(a.Team, b.Team);
+  std::swap(a.Outfield, b.Outfield);
+  for (int Side::*const figure : {&Side::Goals, &Side::GoalRange, &Side::Shots, &Side::Corners,
+                                  &Side::Bookings, &Side::Fouls, &Side::PossessionPercent})
+    std::swap(a.*figure, b.*figure);
   session_.CentreBall();
 }
 

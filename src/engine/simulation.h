@@ -24,7 +24,8 @@ class Simulation {
   /// played.
   void MainFunction(MatchScreen& screen);
 
-  /// The teams change ends, each with its score, figures and players; the ball goes to the centre spot.
+  /// The teams change ends, each with its score, goal range, facts and players; the ball goes to the centre
+  /// spot. The last draws stay, and so does who has the ball.
   void SwapData();
 
   /// The ball goes to the centre spot and nobody has it.

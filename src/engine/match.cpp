@@ -13,7 +13,6 @@
 namespace kickwell {
 namespace {
 
-constexpr int SmallestCrowd = 50;  ///< Percent of the capacity.
 constexpr int GoalNumbers = 100;
 
 constexpr int CommentaryView = 0;

@@ -1,6 +1,7 @@
 // What the set-up screens hand to the match screen.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -54,6 +55,8 @@ struct WeatherKind {
   bool operator==(const WeatherKind&) const = default;
 };
 
+inline constexpr int SmallestCrowd = 50;  ///< Percent of the capacity. A smaller draw is drawn again.
+
 /// All weathers, in the order in which choosers offer them.
 inline constexpr auto Weathers = std::to_array<WeatherKind>({
     {"Clear Skies", 100},
@@ -62,6 +65,10 @@ inline constexpr auto Weathers = std::to_array<WeatherKind>({
     {"Warm & Humid", 90},
     {"Windy", 80},
 });
+static_assert(std::ranges::all_of(
+                  Weathers, [](int factor) { return factor > SmallestCrowd; },
+                  &WeatherKind::AttendanceFactor),
+              "The crowd would be drawn for ever.");
 
 /// What `ChampionshipName` says while no championship is chosen.
 inline constexpr std::string_view NoChampionship = "N/A";

@@ -29,6 +29,7 @@ struct LineUpSlot {
 struct LineUp {
   std::string Reputation = "0";
   std::vector<Player> Squad;  ///< In file order.
+  std::string Note;           ///< Why there is no squad, where its team has no file.
   std::array<LineUpSlot, SlotCount> Slots;
 
   std::string Formation = "0-0-0";  ///< Defenders, midfielders and forwards.

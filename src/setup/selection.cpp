@@ -22,7 +22,10 @@ void Selection::Timer1_Timer() {
 void Selection::LoadSquad(LineUp& side, const std::string& team) {
   auto [loaded, result] = LoadTeam(folder_, team);
   if (!TellFailure(desktop_, result)) Command1Enabled = false;
-  if (!loaded) return;
+  if (!loaded) {
+    if (result.Ok()) side.Note = "There is no file \"" + team + "\" in \"Teams\".";
+    return;
+  }
   side.Reputation = loaded->Skill + "%";
   side.Squad = std::move(loaded->Players);
   if (!side.CanPlay()) {

@@ -21,7 +21,7 @@ class Selection {
 
   /// Loads both squads, once the screen has been drawn, and puts the first eleven players of each into the
   /// slots. A squad that is too small or can't be read is reported and disables "Continue" for good; a
-  /// missing one stays empty. Later calls do nothing.
+  /// missing one stays empty, which its note explains. Later calls do nothing.
   void Timer1_Timer();
 
   /// Puts player `entry` of the squad into slot `slot` (0..10) of side 1 or 2.

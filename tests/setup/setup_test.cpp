@@ -88,7 +88,9 @@ TEST_F(SetupTest, TheFirstElevenAreShownWithTheirFiguresAndHandedOverInSlotOrder
 }
 
 TEST_F(SetupTest, OnlyElevenPlayersCanPlay) {
-  OpenSelection().Command1_Click();  // Without squads all names are empty.
+  Selection empty = OpenSelection();
+  empty.Command1_Click();  // Without squads all names are empty.
+  EXPECT_EQ(empty.Side1.Note, "There is no file \"Rovers\" in \"Teams\".");
   Team rovers = MakeTeam("Rovers", "R");
   rovers.Players.pop_back();
   ASSERT_TRUE(SaveTeam(folder_.Folder, rovers).Ok());
@@ -142,8 +144,10 @@ TEST_F(SetupTest, AFileThatCannotBeReadIsReportedOnce) {
   AddTeams({"Rovers", "United"});
   const Texts messages = {MakeUnreadable("stadiums.sim"), MakeUnreadable("Teams/United")};
   OpenSettings();
-  OpenSelection().Command1_Click();
+  Selection selection = OpenSelection();
+  selection.Command1_Click();
   EXPECT_EQ(desktop_.Taken(), messages);
+  EXPECT_EQ(selection.Side2.Note, "");  // There is one.
 }
 
 }  // namespace

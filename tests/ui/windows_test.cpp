@@ -22,6 +22,7 @@
 #include "ui/windows/championship_play_window.h"
 #include "ui/windows/match_window.h"
 #include "ui/windows/ranking_window.h"
+#include "ui/windows/selection_window.h"
 #include "user.h"
 
 namespace kickwell {
@@ -83,6 +84,19 @@ TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
   EXPECT_LT(time.elapsed(), 20000);  // The pause does not hold it.
   EXPECT_TRUE(Exists("page.htm"));
   EXPECT_EQ(desktop_.Taken(), (Texts{"* loaded", "* whistle", "* goal", "? (No): Do you really want to exit?"}));
+}
+
+TEST_F(WindowsTest, ATeamWithoutAFileIsToldInItsColumn) {
+  AddTeams({"Rovers"});
+  Selection selection(
+      folder_.Folder, desktop_, [](auto&) {}, MakeSetup());
+  SelectionWindow window(selection, nullptr);
+  window.show();
+  const auto* const note = window.findChild<QLabel*>("Note2");
+  EXPECT_TRUE(QTest::qWaitFor([note] { return note->isVisible(); }));
+  EXPECT_EQ(note->text(), "There is no file \"United\" in \"Teams\".");
+  EXPECT_EQ(window.findChild<QLabel*>("Note1")->text(), "");
+  EXPECT_TRUE(window.findChild<QComboBox*>("Combo2(0)")->accessibleDescription().endsWith(note->text()));
 }
 
 TEST_F(WindowsTest, AClosedChooserIgnoresTheWheelAndFindsWhatIsTyped) {

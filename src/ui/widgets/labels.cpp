@@ -17,6 +17,12 @@ QLabel* MakeText(QAnyStringView objectName, const QString& text, Qt::Alignment a
   return label;
 }
 
+QLabel* MakeFaint(QAnyStringView objectName, Qt::Alignment alignment) {
+  QLabel* const label = MakeText(objectName, {}, alignment);
+  static_cast<TextLabel*>(label)->SetFaint(true);
+  return label;
+}
+
 QLabel* Enlarged(QLabel* label, qreal factor) {
   QFont font = label->font();
   font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
@@ -31,11 +37,8 @@ QLabel* MakeHeading(const QString& objectName) {
 }
 
 QLabel* MakeFixtureLine(const MatchSetup& setup) {
-  auto* const line =
-      new TextLabel(Shown(setup.ChampionshipName) + QStringLiteral(", match %1").arg(setup.MatchNumber));
-  line->setObjectName("fixture");
-  line->setAlignment(Qt::AlignCenter);
-  line->SetFaint(true);
+  QLabel* const line = MakeFaint("fixture", Qt::AlignHCenter);
+  line->setText(Shown(setup.ChampionshipName) + QStringLiteral(", match %1").arg(setup.MatchNumber));
   line->setVisible(setup.Mode != MatchMode::Friendly);
   return line;
 }

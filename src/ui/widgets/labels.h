@@ -13,6 +13,9 @@ namespace kickwell {
 /// A label for a figure or for a text from the user's files.
 QLabel* MakeText(QAnyStringView objectName, const QString& text, Qt::Alignment alignment = Qt::AlignLeft);
 
+/// The same for a text that matters less.
+QLabel* MakeFaint(QAnyStringView objectName, Qt::Alignment alignment = Qt::AlignLeft);
+
 /// Gives `label` bold type of `factor` times the usual size.
 QLabel* Enlarged(QLabel* label, qreal factor);
 

@@ -80,6 +80,8 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   auto* const box = new QWidget;
   QLabel* const name = Enlarged(MakeText("Team" + number, team, Qt::AlignHCenter), HeadingType);
 
+  column.Note = MakeFaint("Note" + number, Qt::AlignHCenter);
+
   auto* const grid = new QGridLayout;
   grid->setVerticalSpacing(InGroup);
   grid->setHorizontalSpacing(BetweenColumns / 2);
@@ -117,6 +119,7 @@ QWidget* SelectionWindow::BuildSide(Column& column, int side, const QString& tea
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(BetweenGroups);
   layout->addWidget(name);
+  layout->addWidget(column.Note);
   layout->addLayout(grid);
   layout->addWidget(BuildFigures(column, side, team));
   return box;
@@ -171,6 +174,8 @@ bool SelectionWindow::eventFilter(QObject* watched, QEvent* event) {
 void SelectionWindow::Refresh() {
   ShowSide(side1_, selection_.Side1);
   ShowSide(side2_, selection_.Side2);
+  const bool noted = !selection_.Side1.Note.empty() || !selection_.Side2.Note.empty();
+  for (const Column* const column : {&side1_, &side2_}) column->Note->setVisible(noted);  // Rows stay level.
   command1_->setEnabled(selection_.Command1Enabled);
 }
 
@@ -179,7 +184,9 @@ void SelectionWindow::ShowSlot(const Column& column, const LineUp& lineUp, int s
   const bool twice = lineUp.IsChosenTwice(slot);
   QComboBox* const chooser = At(column.Combos, slot);
   chooser->setCurrentIndex(chosen.Player);
-  SetDescription(chooser, twice ? At(column.Twice, slot)->accessibleName() : chooser->accessibleName());
+  const QString empty = lineUp.Note.empty() ? QString() : ". " + Shown(lineUp.Note);
+  SetDescription(chooser,
+                 twice ? At(column.Twice, slot)->accessibleName() : chooser->accessibleName() + empty);
   At(column.Twice, slot)->setVisible(twice);
   At(column.Posts, slot)->setText(Shown(chosen.Position));
   At(column.Skills, slot)->setText(Shown(chosen.Skill));
@@ -191,6 +198,7 @@ void SelectionWindow::ShowSide(const Column& column, const LineUp& lineUp) {
     for (const Player& player : lineUp.Squad) players.append(Offer(player));
     column.Squad->invisibleRootItem()->appendRows(players);
   }
+  column.Note->setText(Shown(lineUp.Note));
   for (int slot = 0; slot < SlotCount; ++slot) ShowSlot(column, lineUp, slot);
   column.Formation->setText(Shown(lineUp.Formation));
   column.Skill->setText(QString::number(lineUp.OverallSkill));

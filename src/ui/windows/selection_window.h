@@ -25,6 +25,7 @@ class SelectionWindow final : public ScreenWindow {
  private:
   /// One side's widgets: eleven choosers with position and skill, and the figures.
   struct Column {
+    QLabel* Note;               ///< Why there is no squad.
     QStandardItemModel* Squad;  ///< The players, whom all eleven choosers offer.
     std::array<QComboBox*, SlotCount> Combos;
     std::array<QLabel*, SlotCount> Twice;  ///< Marks beside the choosers of a player chosen twice.

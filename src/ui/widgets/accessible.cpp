@@ -89,10 +89,10 @@ void DrawFocus(QWidget* widget) {
   if (!widget->hasFocus()) return;
   constexpr int Width = 2;
   QPainter painter(widget);
-  painter.setPen(QPen(Qt::white, 2 * Width));  // Black on white is visible on any picture.
-  painter.drawRect(widget->rect());
-  painter.setPen(QPen(Qt::black, Width, Qt::DotLine));
+  painter.setPen(QPen(widget->palette().color(QPalette::Highlight), Width));
   painter.drawRect(widget->rect().adjusted(1, 1, -1, -1));
+  painter.setPen(widget->palette().color(QPalette::HighlightedText));  // Shows on the highlight, too.
+  painter.drawRect(widget->rect().adjusted(Width, Width, -Width - 1, -Width - 1));
 }
 
 }  // namespace kickwell

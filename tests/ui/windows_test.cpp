@@ -18,7 +18,9 @@
 #include "ui/text.h"
 #include "ui/widgets/appearance.h"
 #include "ui/widgets/choosers.h"
+#include "ui/widgets/goal_picture.h"
 #include "ui/widgets/line_list.h"
+#include "ui/widgets/pitch_picture.h"
 #include "ui/windows/championship_play_window.h"
 #include "ui/windows/match_window.h"
 #include "ui/windows/ranking_window.h"
@@ -97,6 +99,49 @@ TEST_F(WindowsTest, ATeamWithoutAFileIsToldInItsColumn) {
   EXPECT_EQ(note->text(), "There is no file \"United\" in \"Teams\".");
   EXPECT_EQ(window.findChild<QLabel*>("Note1")->text(), "");
   EXPECT_TRUE(window.findChild<QComboBox*>("Combo2(0)")->accessibleDescription().endsWith(note->text()));
+}
+
+/// The first and the last chalk-white pixel in the row of `picture` at this part of its height.
+std::pair<int, int> Chalked(const QImage& picture, qreal part) {
+  int first = picture.width(), last = 0;
+  for (int x = 0; x < picture.width(); ++x) {
+    if (picture.pixelColor(x, static_cast<int>(picture.height() * part)).lightness() < 200) continue;
+    first = std::min(first, x);
+    last = x;
+  }
+  return {first, last};
+}
+
+TEST_F(WindowsTest, ThePitchKeepsItsShapeInAnyWindow) {
+  for (const QSize size : {QSize(700, 200), QSize(300, 300)}) {
+    PitchPicture pitch(0);
+    pitch.resize(size);
+    const QImage picture = pitch.grab().toImage();
+    const auto [left, right] = Chalked(picture, 0.4);
+    const auto [top, bottom] = Chalked(picture.transformed(QTransform().rotate(90)), 0.4);
+    EXPECT_NEAR(qreal(right - left) / (bottom - top), 105.0 / 68, 0.03);
+    EXPECT_NEAR(left + right, picture.width(), 3);
+  }
+}
+
+TEST_F(WindowsTest, PenaltiesGoFromTheMiddleIntoTheNetOrBesideTheGoal) {
+  GoalPicture goal(0);
+  goal.resize(600, 240);
+  const QImage before = goal.grab().toImage();
+  const auto [left, right] = Chalked(before, 0.4);  // The posts.
+  EXPECT_NEAR(left + right, before.width(), 2);
+  const auto arrival = [&](int place) {
+    goal.SetBall({place, 0});
+    const QImage after = goal.grab().toImage();
+    const auto [spotLeft, spotRight] = Chalked(after, 0.95);
+    EXPECT_NEAR(spotLeft + spotRight, before.width(), 2);
+    const int y = before.height() * 3 / 10;
+    int x = 0;
+    while (x < before.width() && after.pixel(x, y) == before.pixel(x, y)) ++x;
+    return x;
+  };
+  EXPECT_TRUE(arrival(1200) > left && arrival(1200) < right);
+  EXPECT_TRUE(arrival(480) > 0 && arrival(480) < arrival(1040) && arrival(1040) < left - 20);
 }
 
 TEST_F(WindowsTest, AClosedChooserIgnoresTheWheelAndFindsWhatIsTyped) {

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QTransform>
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 #include "ui/widgets/accessible.h"
@@ -11,22 +12,21 @@
 namespace kickwell {
 namespace {
 
-// The scene, in parts of the picture's width and height, seen from behind the taker's right shoulder.
-constexpr qreal GoalLine = 0.52;
-/// The left post stands between the net and the near miss.
-constexpr QRectF Mouth(0.381, 0.12, 0.42, GoalLine - 0.12);
-constexpr QRectF GoalArea(0.28, GoalLine, 0.62, 0.14);
+// The scene, in parts of the picture's width and height, seen from behind the taker.
+constexpr qreal Middle = 0.5, GoalLine = 0.52;
+constexpr QRectF Mouth(0.3, 0.12, 0.4, GoalLine - 0.12);
+constexpr QRectF GoalArea(0.07, GoalLine, 0.86, 0.14);  ///< Wider towards the taker.
+constexpr qreal Narrowing = 0.08;                       ///< Of its sides, up to the goal line.
 constexpr qreal SpotHeight = 0.93;
 constexpr qreal FlightHeight = 0.30;  ///< Of a ball that has arrived, in the net or beside it.
 
-// The part of the ball's screen units that the picture's width shows.
-constexpr qreal ViewLeft = 380, ViewWidth = 2140, BallSize = 240;
-
-/// Where the scene shows a ball at this place.
+/// Where the scene shows a ball at this place. The net and both misses are left of the spot, the net only a
+/// little: the cube root keeps the misses in sight and brings the net's ball away from the middle.
 QPointF OnScene(const QPointF& ball) {
+  constexpr qreal LeftOfSpot = 770, LeftOfMiddle = 0.4;  // The wider miss.
   const qreal near = ball.y() / PenaltySpot.Top;
-  return {(ball.x() + BallSize / 2 - ViewLeft) / ViewWidth,
-          FlightHeight + near * (SpotHeight - FlightHeight)};
+  const qreal aside = std::cbrt((ball.x() - PenaltySpot.Left) / LeftOfSpot) * LeftOfMiddle;
+  return {Middle + (1 - near) * aside, FlightHeight + near * (SpotHeight - FlightHeight)};
 }
 
 void DrawStandAndGrass(QPainter& painter) {
@@ -62,10 +62,8 @@ void DrawGoal(QPainter& painter) {
   }
   painter.setPen(Chalk(painter, 225, 2));
   painter.drawLine(QPointF(0, GoalLine), QPointF(1, GoalLine));
-  const QPointF goalArea[] = {{GoalArea.left() + 0.02, GoalLine},
-                              GoalArea.bottomLeft() - QPointF(0.07, 0),
-                              GoalArea.bottomRight() - QPointF(0.03, 0),
-                              {GoalArea.right(), GoalLine}};
+  const QPointF goalArea[] = {GoalArea.topLeft() + QPointF(Narrowing, 0), GoalArea.bottomLeft(),
+                              GoalArea.bottomRight(), GoalArea.topRight() - QPointF(Narrowing, 0)};
   painter.drawPolyline(goalArea, 4);
   painter.setBrush(Qt::white);
   painter.drawEllipse(OnScene(QPointF(PenaltySpot.Left, PenaltySpot.Top)) + QPointF(0, 0.02), 0.014, 0.014);

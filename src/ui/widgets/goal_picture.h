@@ -8,8 +8,9 @@
 
 namespace kickwell {
 
-/// The goal as seen from behind the penalty taker. The ball's place is given in the picture's screen units:
-/// the penalty spot is at 1250, 1400; the net and the places beside the goal are at the top.
+/// The goal as seen from behind the penalty taker. The ball's place is given in screen units: the penalty
+/// spot is at 1250, 1400; the net and the places beside the goal are at the top. The picture decides how far
+/// aside it shows them.
 class GoalPicture final : public QWidget {
  public:
   explicit GoalPicture(int glide);  ///< How long the ball flies, in milliseconds.

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QTransform>
 #include <algorithm>
+#include <cmath>
 
 #include "engine/match_session.h"
 #include "ui/widgets/accessible.h"
@@ -14,21 +15,24 @@ namespace {
 /// The field between the goal lines in screen units, around the centre spot. The goal spots are behind the
 /// lines.
 constexpr QRectF Field(40, 10, 4960, 760);
-constexpr QMarginsF Run(170, 36, 170, 36);  ///< Grass around the field, with room for the goals.
 
-/// A metre in screen units, along the field and across it: the field is 105 by 68 metres.
-constexpr qreal Long = Field.width() / 105;
-constexpr qreal Wide = Field.height() / 68;
+constexpr qreal Length = 105, Width = 68;  ///< Of the field, in metres.
+constexpr qreal Run = 3.5;                 ///< Grass around it, at least, with room for the goals.
+
+/// A metre in screen units, along the field and across it.
+constexpr qreal Long = Field.width() / Length;
+constexpr qreal Wide = Field.height() / Width;
 
 const QColor LightStripe(0x3f, 0x9b, 0x46);
 const QColor DarkStripe(0x36, 0x8a, 0x3e);
 
 void DrawGrass(QPainter& painter, const QRectF& whole) {
-  constexpr int Stripes = 14;
+  constexpr qreal Stripe = Field.width() / 14;
   painter.fillRect(whole, DarkStripe);
-  const qreal width = Field.width() / Stripes;
-  for (int i = 0; i < Stripes; i += 2) {
-    painter.fillRect(QRectF(Field.left() + i * width, whole.top(), width, whole.height()), LightStripe);
+  const auto pairs = [](qreal grass) { return static_cast<int>(std::ceil(grass / (2 * Stripe))); };
+  for (int i = -pairs(Field.left() - whole.left()); i < pairs(whole.right() - Field.left()); ++i) {
+    const qreal left = Field.left() + i * 2 * Stripe;
+    painter.fillRect(QRectF(left, whole.top(), Stripe, whole.height()), LightStripe);
   }
 }
 
@@ -86,17 +90,18 @@ void PitchPicture::SetBall(int x, int y) {
 }
 
 void PitchPicture::paintEvent(QPaintEvent* /*event*/) {
-  const QRectF whole = Field.marginsAdded(Run);
+  const qreal metre = std::min(width() / (Length + 2 * Run), height() / (Width + 2 * Run));
   QTransform units;
-  units.scale(width() / whole.width(), height() / whole.height());
-  units.translate(-whole.left(), -whole.top());
+  units.translate(width() / 2.0, height() / 2.0);
+  units.scale(metre / Long, metre / Wide);
+  units.translate(-Field.center().x(), -Field.center().y());
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setTransform(units);
-  DrawGrass(painter, whole);
+  DrawGrass(painter, units.inverted().mapRect(QRectF(rect())));
   DrawLines(painter);
   painter.resetTransform();
-  DrawBall(painter, units.map(ball_.Place()), std::clamp(height() / 34.0, 4.0, 10.0));
+  DrawBall(painter, units.map(ball_.Place()), std::clamp(2.2 * metre, 4.0, 10.0));
   DrawFocus(this);
 }
 

@@ -8,7 +8,7 @@
 namespace kickwell {
 
 /// The pitch as seen from the stand, with the ball on it. The ball's place is given in the match's screen
-/// units (0..5090 by 0..740, centre spot 2520, 390), which the picture scales to its size.
+/// units (0..5090 by 0..740, centre spot 2520, 390). The field keeps its shape; grass fills the rest.
 class PitchPicture final : public QWidget {
  public:
   explicit PitchPicture(int glide);  ///< How long the ball glides, in milliseconds.

@@ -50,10 +50,12 @@ TEST_F(WindowsTest, TheGoalsMakeRoomForTheShootOutAndTheFactsStandInTheirPlaces)
   const auto left = [&window] { return window.findChild<QLabel*>("Inn1")->mapTo(&window, QPoint()).x(); };
   const int before = left();
   EXPECT_FALSE(window.findChild<QLabel*>("Pen1")->isVisible());
+  EXPECT_FALSE(window.findChild<QLabel*>("Over")->isVisible());
   User::Click(window, "instant");
   QTest::qWait(20);
   EXPECT_TRUE(window.findChild<QLabel*>("Pen1")->isVisible());
   EXPECT_EQ(before - left(), Twips(&window, 360));
+  EXPECT_TRUE(window.findChild<QLabel*>("Over")->isVisible());  // On the lamp, whose clock is empty.
   const auto* const summary = window.findChild<QListWidget*>("List1(0)");
   EXPECT_EQ(summary->currentRow(), summary->count() - 1);  // The newest line.
   const std::pair<const char*, const char*> facts[] = {

@@ -60,6 +60,7 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
       ven_(MakeText("ven", "Match Venue")),
       label2_(MakeCaption({})),
       label3_(MakeText("Label3", {}, Qt::AlignHCenter)),
+      over_(MakeText("Over", "Match over", Qt::AlignHCenter)),
       picture2_(new PitchPicture(Glide(timings))),
       picture1_(new GoalPicture(Glide(timings))),
       kicks_(new KickRows),
@@ -113,9 +114,11 @@ QWidget* MatchWindow::BuildScoreBoard() {
   SetFigureCaption(label3_, "Match Timer");
   Enlarged(label3_, BoardType);
   label3_->setMinimumWidth(label3_->fontMetrics().horizontalAdvance("000:00") + 4 * InGroup);
-  auto* const lamp = new QHBoxLayout(label2_);  // The clock's text is on the lamp.
+  auto* const lamp = new QGridLayout(label2_);  // The clock's text is on the lamp.
   lamp->setContentsMargins(InGroup, Tight, InGroup, Tight);
-  lamp->addWidget(label3_);
+  lamp->addWidget(label3_, 0, 0);
+  lamp->addWidget(over_, 0, 0);
+  SetColours(over_, Qt::black, QColor(0, 0xc0, 0));  // Fainter than the clock.
   label2_->setMinimumSize(label3_->minimumWidth() + 2 * InGroup, label3_->fontMetrics().height() + 2 * Tight);
   auto* const clock = new QVBoxLayout;
   clock->setSpacing(Tight);
@@ -330,6 +333,7 @@ void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool ha
 
 void MatchWindow::ShowClock(const MatchControls& controls) {
   label3_->setText(Shown(controls.Label3));
+  over_->setVisible(match_.Session().IsOver() && controls.Label3.empty());
   const QString lamps[] = {"Lamp: dark", "Lamp: green", "Lamp: red"};
   SetName(label2_, lamps[static_cast<std::size_t>(controls.Label2)]);
   const bool dark = controls.Label2 == Lamp::Black;

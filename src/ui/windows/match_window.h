@@ -66,6 +66,7 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   bool wasOver_ = false;
   SideWidgets side1_{}, side2_{};
   QLabel *label1_, *ven_, *label2_, *label3_;
+  QLabel* over_;  ///< Says on the lamp that the match is over, when the clock is empty.
   PitchPicture* picture2_;
   GoalPicture* picture1_;
   KickRows* kicks_;

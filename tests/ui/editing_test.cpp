@@ -42,6 +42,27 @@ TEST_F(EditingTest, ABoxTakesAnyTextThatFitsAndLosesNothingForMore) {
   EXPECT_EQ(box.accessibleDescription(), "Only 2 characters fit.");
 }
 
+TEST_F(EditingTest, WhatABoxHasCutIsSaidBelowItUntilThereIsRoomAgain) {
+  AddTeams({"Rovers"});
+  TeamEditor teams(folder_.Folder, desktop_, "N/A");
+  TeamEditorWindow players(teams, nullptr);
+  LegEditor championships(folder_.Folder, desktop_, random_);
+  LegEditorWindow leagues(championships, nullptr);
+  const std::pair<QWidget*, QString> boxes[] = {{&players, "Text4"}, {&leagues, "LeagueName"}};
+  for (const auto& [window, name] : boxes) {
+    window->show();
+    auto* const box = window->findChild<QLineEdit*>(name);
+    const auto* const line = window->findChild<QLabel*>(name + "Cut");
+    QTest::keyClicks(box, "100000000000000000000");
+    EXPECT_TRUE(line->isVisible() && line->text().startsWith("Only "));
+    QTest::qWait(20);
+    EXPECT_GT(line->mapTo(window, QPoint()).y(), box->mapTo(window, QPoint(0, box->height() - 1)).y());
+    EXPECT_GE(line->width(), line->sizeHint().width());
+    QTest::keyClick(box, Qt::Key_Backspace);
+    EXPECT_FALSE(line->isVisible());
+  }
+}
+
 TEST_F(EditingTest, EscapeKeepsAnUnsavedChampionship) {
   LegEditor editor(folder_.Folder, desktop_, random_);
   LegEditorWindow window(editor, nullptr);

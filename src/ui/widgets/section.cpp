@@ -23,6 +23,11 @@ void Section::Add(const QString& caption, QWidget* control) {
   if (auto* const combo = qobject_cast<QComboBox*>(control)) Name(combo, name);
 }
 
+void Section::Add(const QString& caption, TextBox* box) {
+  Add(caption, static_cast<QWidget*>(box));
+  form_->addRow(nullptr, box->CutLine());
+}
+
 void Section::AddFigure(const QString& caption, QLabel* figure) {
   form_->addRow(MakeFigureCaption(caption, figure), figure);
 }

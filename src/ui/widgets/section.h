@@ -8,6 +8,8 @@
 #include <QPushButton>
 #include <QString>
 
+#include "ui/widgets/text_box.h"
+
 namespace kickwell {
 
 /// A box with a title, its captions in a column.
@@ -16,6 +18,7 @@ class Section final : public QGroupBox {
   explicit Section(const QString& title);
 
   void Add(const QString& caption, QWidget* control);  ///< The caption names the control to screen readers.
+  void Add(const QString& caption, TextBox* box);      ///< Says below the box what it has cut, too.
   void AddFigure(const QString& caption, QLabel* figure);  ///< The caption is announced with the figure.
   void AddWide(QWidget* widget);                           ///< Over both columns.
 

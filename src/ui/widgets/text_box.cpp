@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QSignalBlocker>
 #include <QStyle>
-#include <QToolTip>
 #include <algorithm>
 
 #include "ui/text.h"
@@ -32,10 +31,11 @@ QString FirstOf(const QString& text, qsizetype count) {
 TextBox::TextBox(const QString& objectName, int length, std::string& text)
     : length_(length),
       text_(text),
-      cutSign_(addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), TrailingPosition)) {
+      cutSign_(addAction(style()->standardIcon(QStyle::SP_MessageBoxWarning), TrailingPosition)),
+      cutLine_(new QLabel(QStringLiteral("Only %1 characters fit.").arg(length), this)) {
   setObjectName(objectName);
-  cutSign_->setToolTip(QStringLiteral("Only %1 characters fit.").arg(length));
-  cutSign_->setVisible(false);
+  cutLine_->setObjectName(objectName + "Cut");
+  TellCut(false);
   connect(this, &QLineEdit::textChanged, this, &TextBox::Keep);
 }
 
@@ -59,8 +59,8 @@ void TextBox::Keep(const QString& typed) {
 
 void TextBox::TellCut(bool cut) {
   cutSign_->setVisible(cut);
-  setAccessibleDescription(cut ? cutSign_->toolTip() : QString());
-  if (cut) QToolTip::showText(mapToGlobal(rect().bottomLeft()), cutSign_->toolTip(), this);
+  cutLine_->setVisible(cut);
+  setAccessibleDescription(cut ? cutLine_->text() : QString());
 }
 
 void TextBox::ShowText() {

@@ -1,6 +1,7 @@
 // Text boxes.
 #pragma once
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QString>
 #include <string>
@@ -14,6 +15,9 @@ class TextBox final : public QLineEdit {
  public:
   TextBox(const QString& objectName, int length, std::string& text);
 
+  /// The line that says what was cut, for the layout to show below the box.
+  QLabel* CutLine() const { return cutLine_; }
+
   /// Shows the text. The cursor does not move if the box shows it already.
   void ShowText();
 
@@ -23,7 +27,8 @@ class TextBox final : public QLineEdit {
 
   int length_;
   std::string& text_;
-  QAction* cutSign_;  ///< Visible while something is missing.
+  QAction* cutSign_;  ///< Visible while something is missing, like the line.
+  QLabel* cutLine_;
 };
 
 }  // namespace kickwell

@@ -86,18 +86,18 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   widgets.Name->setMinimumHeight(widgets.Load->sizeHint().height());  // Their rows stand side by side.
   OnPick(widgets.Load, [this, &side](int entry) { editor_.Load_Click(side, entry); });
 
-  auto* const teams = Spaced(new QVBoxLayout, BetweenGroups);
-  teams->addLayout(
-      Beside(MakeCaption(IsLeague(side) ? "League:" : "Knock Out:", widgets.Name), widgets.Name));
+  auto* const columns = Spaced(new QGridLayout, BetweenGroups);
+  columns->setHorizontalSpacing(BetweenHalves);
+  columns->addLayout(
+      Beside(MakeCaption(IsLeague(side) ? "League:" : "Knock Out:", widgets.Name), widgets.Name), 0, 0);
   widgets.Name->setAccessibleName(IsLeague(side) ? "Championship League" : "Championship Knock Out");
-  teams->addLayout(BuildTeams(widgets, side, prefix), 1);
-  auto* const fixtures = Spaced(new QVBoxLayout, BetweenGroups);
+  columns->addWidget(widgets.Name->CutLine(), 1, 0, Qt::AlignRight);  // Below the sign.
+  columns->addLayout(BuildTeams(widgets, side, prefix), 2, 0);
   widgets.LoadCaption = MakeCaption("Open / Load", widgets.Load);
-  fixtures->addLayout(Beside(widgets.LoadCaption, widgets.Load));
-  fixtures->addLayout(BuildFixtures(widgets, side, prefix), 1);
-  auto* const columns = Spaced(new QHBoxLayout, BetweenHalves);
-  columns->addLayout(teams, 1);
-  columns->addLayout(fixtures, 1);
+  columns->addLayout(Beside(widgets.LoadCaption, widgets.Load), 0, 1);
+  columns->addLayout(BuildFixtures(widgets, side, prefix), 2, 1);
+  columns->setRowStretch(2, 1);
+  for (const int half : {0, 1}) columns->setColumnStretch(half, 1);
 
   auto* const layout = Spaced(new QVBoxLayout(widgets.Page), BetweenGroups);
   layout->setContentsMargins(0, 0, 0, 0);

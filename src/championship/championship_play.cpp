@@ -32,8 +32,8 @@ ChampionshipPlay::ChampionshipPlay(ChampionshipKind kind, ProgramFolder folder, 
 void ChampionshipPlay::Form_Load() {
   Championships.Entries = ListChampionships(folder_, kind_);
   for (int entry = 0; entry < Championships.Count() && Championships.Picked == ItemList::None; ++entry) {
-    if (!TellFailure(desktop_, FinishChanges(folder_))) break;  // None can be loaded.
     Championships_Click(entry);
+    if (ChangesAreUnfinished(folder_)) break;  // None can be loaded.
   }
   SimulationType = {{SimulationTexts.begin(), SimulationTexts.end()}, 0};
 }
@@ -69,8 +69,6 @@ std::string ChampionshipPlay::RangeText() const {
 }
 
 void ChampionshipPlay::Load(const std::string& fileName) {
-  // A match that a failing disk has saved in part must not be played again.
-  if (!TellFailure(desktop_, FinishChanges(folder_))) return;
   auto [read, result] = ReadChampionship(folder_, IdOfMainFile(kind_, fileName));
   TellFailure(desktop_, result);
   if (!read) return;

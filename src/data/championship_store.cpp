@@ -44,17 +44,14 @@ std::string FileIn(const ChampionshipId& id, const char* extension) {
   return (IsLeague(id.Kind) ? "Leagues/" : "Tournies/") + id.Name + extension;
 }
 
-/// The lines of a championship's file; none when there is no such file.
+/// The lines of a championship's file; none when there is no such file. Finishes an interrupted change first,
+/// so that nothing builds on half a result: all championship files are read through here.
 Loaded<std::optional<std::string>> ReadFile(const ProgramFolder& folder, const ChampionshipId& id,
                                             const char* extension) {
   if (!StaysInFolder(id.Name + extension)) return {};
+  FileResult finished = FinishChanges(folder);
+  if (!finished.Ok()) return {std::nullopt, std::move(finished)};
   return ReadText(folder.Files(), PathOf(folder, id, extension));
-}
-
-FileResult WriteFile(const ProgramFolder& folder, const ChampionshipId& id, const char* extension,
-                     const EncodedText& text) {
-  if (!StaysInFolder(id.Name + extension)) return {FileNameRefusal(id.Name + extension)};
-  return ReplaceFile(folder.Files(), PathOf(folder, id, extension), text.Bytes(), folder.Root);
 }
 
 std::vector<Fixture> TakeFixtures(LineReader& reader, std::size_t count, ChampionshipKind kind) {
@@ -197,8 +194,6 @@ ChangedFile ChangedStandings(const ChampionshipId& league, const std::vector<Sta
 
 FileResult AppendStandings(const ProgramFolder& folder, const ChampionshipId& league,
                            const std::string& team) {
-  FileResult finished = FinishChanges(folder);
-  if (!finished.Ok()) return finished;
   const auto [lines, result] = ReadFile(folder, league, Standings);
   if (!lines) return result;
   LineReader reader(*lines);
@@ -211,7 +206,7 @@ FileResult AppendStandings(const ProgramFolder& folder, const ChampionshipId& le
   }
   text.Add(team);
   for (std::size_t i = 0; i < StandingsRow::Figures().size(); ++i) text.Add(0);
-  return WriteFile(folder, league, Standings, text);
+  return ReplaceFile(folder.Files(), PathOf(folder, league, Standings), text.Bytes(), folder.Root);
 }
 
 Loaded<std::vector<ScorerRow>> ReadScorers(const ProgramFolder& folder, const ChampionshipId& id) {
@@ -226,15 +221,12 @@ Loaded<std::vector<ScorerRow>> ReadScorers(const ProgramFolder& folder, const Ch
   return {std::move(scorers), result};
 }
 
-FileResult PutScorersBy(const ProgramFolder& folder, const ChampionshipId& id) {
-  return PutBy(folder, FileIn(id, Scorers));
+FileResult SetScorersAside(const ProgramFolder& folder, const ChampionshipId& id) {
+  return SetAside(folder, FileIn(id, Scorers));
 }
 
-FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const ScorerRow& scored) {
-  FileResult finished = FinishChanges(folder);
-  if (!finished.Ok()) return finished;
-  const auto [lines, result] = ReadFile(folder, id, Scorers);
-  if (!result.Ok()) return result;
+Loaded<ChangedFile> AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const ScorerRow& scored) {
+  auto [lines, result] = ReadFile(folder, id, Scorers);
   LineReader reader(lines.value_or(std::string()));
   EncodedText text;
   bool known = false;
@@ -257,7 +249,12 @@ FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const
     text.Add(scored.Goals);
   }
   text.AddLines(reader.Rest());
-  return WriteFile(folder, id, Scorers, text);
+  ChangedFile changed{FileIn(id, Scorers), std::move(text).Bytes()};
+  if (result.Ok() && !StaysInFolder(id.Name + Scorers)) result = {FileNameRefusal(id.Name + Scorers)};
+  if (result.Ok())
+    result =
+        ReplaceFile(folder.Files(), PathOf(folder, id, Scorers), *changed.Bytes, folder.Root, Flush::Never);
+  return {std::move(changed), std::move(result)};
 }
 
 Loaded<Lines> ReadResults(const ProgramFolder& folder, const ChampionshipId& id) {

@@ -72,13 +72,13 @@ FileResult AppendStandings(const ProgramFolder& folder, const ChampionshipId& le
 /// All scorers, in the order in which they first scored.
 Loaded<std::vector<ScorerRow>> ReadScorers(const ProgramFolder& folder, const ChampionshipId& id);
 
-/// Puts the scorers by as they are, for the case that the match about to be played is not recorded: Restore
-/// makes them so again.
-FileResult PutScorersBy(const ProgramFolder& folder, const ChampionshipId& id);
+/// Keeps the scorers as they are now, so that Restore can bring them back if the match is not recorded.
+FileResult SetScorersAside(const ProgramFolder& folder, const ChampionshipId& id);
 
 /// Raises the tally of every scorer called `scored.Player` by `scored.Goals`. If there is none, `scored`
-/// becomes the last scorer. All other lines stay as they are.
-FileResult AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const ScorerRow& scored);
+/// becomes the last scorer. All other lines stay as they are. The scorers must have been set aside, because
+/// the file is not flushed: returns what it holds now, to be part of the change that records the match.
+Loaded<ChangedFile> AddGoals(const ProgramFolder& folder, const ChampionshipId& id, const ScorerRow& scored);
 
 /// The lines of the results log.
 Loaded<Lines> ReadResults(const ProgramFolder& folder, const ChampionshipId& id);

@@ -17,6 +17,9 @@ enum class FileKind {
   Unknown,  ///< The system does not say, for example because a disk is away.
 };
 
+/// Whether a call returns only when what it wrote is on the disk.
+enum class Flush { Now, Never };
+
 class FileSystem {
  public:
   FileSystem() = default;
@@ -31,24 +34,25 @@ class FileSystem {
   /// not readable to its end.
   virtual std::error_code Read(const std::filesystem::path& file, std::string& bytes) = 0;
 
-  /// Writes `bytes` to `temporary` and flushes them to the disk, so that Replace can put them in the place of
-  /// `target`: with the permissions of an old `target`, and in a folder that exists, or is made. Refuses a
-  /// `target` that is protected, that cannot be read, that is a link to nothing, or whose disk is another one
-  /// than that of `temporary` (std::errc::cross_device_link). Leaves nothing of `temporary` on failure.
+  /// Writes `bytes` to `temporary`, so that Replace can put them in the place of `target`: with the
+  /// permissions of an old `target`, and in a folder that exists, or is made. Refuses a `target` that is
+  /// protected, that cannot be read, that is a link to nothing, or whose disk is another one than that of
+  /// `temporary` (std::errc::cross_device_link). Leaves nothing of `temporary` on failure.
   virtual std::error_code Prepare(const std::filesystem::path& temporary, std::string_view bytes,
-                                  const std::filesystem::path& target) = 0;
+                                  const std::filesystem::path& target, Flush flush) = 0;
 
   /// Puts `temporary` in the place of `target`, through symbolic links, in one step. Durable once
-  /// FlushFolderOf has been called. On failure both are as before.
+  /// FlushFoldersOf has been called. On failure both are as before.
   virtual std::error_code Replace(const std::filesystem::path& temporary,
                                   const std::filesystem::path& target) = 0;
 
   /// Deletes a file, or the link to one. Success when there is none.
   virtual std::error_code Delete(const std::filesystem::path& file) = 0;
 
-  /// Makes durable what was replaced and deleted beside `file`, or beside the file behind it where it is a
-  /// link. Errors are ignored: a disk that cannot flush a folder has still made the changes.
-  virtual void FlushFolderOf(const std::filesystem::path& file) = 0;
+  /// Makes durable what was replaced and deleted beside each of `files`, or beside the file behind it where
+  /// it is a link. Flushes each folder once, in the order of `files`. Errors are ignored: a disk that cannot
+  /// flush a folder has still made the changes.
+  virtual void FlushFoldersOf(const std::vector<std::filesystem::path>& files) = 0;
 
   /// Adds the names of all regular files in `folder` to `names`, in any order. A missing folder has none; one
   /// that cannot be read gives an error.

@@ -12,8 +12,8 @@ namespace kickwell {
 namespace {
 
 constexpr std::string_view FirstLine = "Kickwell journal 1", LastLine = "End";
-constexpr std::string_view Deleted = "-";  ///< In the place of a temporary file's name.
-constexpr int PutByNumber = 1000;          ///< Of the temporary file; changes of files count from 1.
+constexpr std::string_view SetAsideLine = "Kickwell set aside 1\n";
+constexpr std::string_view Deleted = "-";  ///< Instead of a temporary file's name, or of a size.
 
 struct Step {
   std::string Temporary;  ///< In the program folder; or Deleted.
@@ -24,8 +24,8 @@ std::filesystem::path JournalOf(const ProgramFolder& folder) {
   return folder.Root / JournalName;
 }
 
-std::filesystem::path PutByOf(const ProgramFolder& folder) {
-  return folder.Root / PutByName;
+std::filesystem::path SetAsideOf(const ProgramFolder& folder) {
+  return folder.Root / SetAsideName;
 }
 
 /// Whether `file` is "Leagues/" or "Tournies/" and the name of a championship's file in it.
@@ -41,7 +41,7 @@ bool IsChampionshipFile(const ProgramFolder& folder, std::string_view file) {
 }
 
 bool MayChange(const ProgramFolder& folder, const Step& step) {
-  return IsChampionshipFile(folder, step.File) || (step.File == PutByName && step.Temporary == Deleted);
+  return IsChampionshipFile(folder, step.File) || (step.File == SetAsideName && step.Temporary == Deleted);
 }
 
 /// The journal's text is bytes, not encoded as other files are: a name must come back exactly.
@@ -81,7 +81,7 @@ bool WasMade(const ProgramFolder& folder, const Step& step) {
 /// Deletes a journal for good: if it came back after a power cut, it could apply to files of a later one.
 FileResult EndJournal(const ProgramFolder& folder, const std::filesystem::path& journal) {
   FileResult ended = DeleteFile(folder.Files(), journal);
-  folder.Files().FlushFolderOf(journal);
+  folder.Files().FlushFoldersOf({journal});
   return ended;
 }
 
@@ -92,7 +92,10 @@ FileResult Follow(const ProgramFolder& folder, const std::filesystem::path& jour
     FileResult result = Make(folder, steps[made]);
     if (!result.Ok() && !WasMade(folder, steps[made])) return result;
   }
-  for (const Step& step : steps) folder.Files().FlushFolderOf(folder.Root / step.File);
+  std::vector<std::filesystem::path> changed;
+  for (const Step& step : steps) changed.push_back(folder.Root / step.File);
+  // What was set aside goes last, so that it is there until all else is on the disk.
+  folder.Files().FlushFoldersOf(changed);
   return EndJournal(folder, journal);
 }
 
@@ -114,27 +117,44 @@ FileResult Prepare(const ProgramFolder& folder, const std::filesystem::path& jou
                                          : MayBeDeleted(folder, step);
     if (!result.Ok()) return result;
   }
-  files.FlushFolderOf(journal);  // The temporary files must be on the disk when the journal is.
+  files.FlushFoldersOf({journal});  // The temporary files must be on the disk when the journal is.
   return ReplaceFile(files, journal, ToText(steps), folder.Root);
 }
 
-/// Takes back a change of which nothing has been renamed. A temporary file that stays is deleted by a later
+/// Undoes a change of which nothing has been renamed. A temporary file that stays is deleted by a later
 /// start.
-void TakeBack(const ProgramFolder& folder, const std::filesystem::path& journal,
-              const std::vector<Step>& steps) {
+void Undo(const ProgramFolder& folder, const std::filesystem::path& journal, const std::vector<Step>& steps) {
   if (!EndJournal(folder, journal).Ok()) return;
   for (const Step& step : steps) {
     if (step.Temporary != Deleted) folder.Files().Delete(folder.Root / step.Temporary);
   }
 }
 
-/// A name for a damaged journal that no other file has.
-std::filesystem::path PlaceAside(const ProgramFolder& folder) {
-  std::filesystem::path aside = folder.Root / "unfinished.bad";
-  for (int i = 2; FileExists(folder.Files(), aside); ++i) {
-    aside = folder.Root / ("unfinished-" + std::to_string(i) + ".bad");
-  }
-  return aside;
+/// Renames a damaged journal to a name that no other file has.
+FileResult PutAwayDamaged(const ProgramFolder& folder, const std::filesystem::path& journal) {
+  std::filesystem::path bad = folder.Root / "unfinished.bad";
+  for (int i = 2; FileExists(folder.Files(), bad); ++i)
+    bad = folder.Root / ("unfinished-" + std::to_string(i) + ".bad");
+  FileResult moved = MoveIntoPlace(folder.Files(), journal, bad);
+  if (!moved.Ok()) return moved;
+  return {"The file " + journal.string() + " is damaged. It was ignored and renamed to " +
+          bad.filename().string() + "."};
+}
+
+/// A file and its content as it was set aside; the content is none if the file was missing.
+std::optional<ChangedFile> FromSetAside(const ProgramFolder& folder, std::string_view text) {
+  if (!text.starts_with(SetAsideLine)) return std::nullopt;
+  text.remove_prefix(SetAsideLine.size());
+  const auto takeLine = [&text] {
+    const std::string line(text.substr(0, text.find('\n')));
+    text.remove_prefix(std::min(line.size() + 1, text.size()));
+    return line;
+  };
+  ChangedFile file{takeLine(), {}};
+  const std::string size = takeLine();
+  if (!IsChampionshipFile(folder, file.File)) return std::nullopt;
+  if (size == std::to_string(text.size())) file.Bytes = text;
+  return file.Bytes || (size == Deleted && text.empty()) ? std::optional(file) : std::nullopt;
 }
 
 /// Makes the changes that a journal lists, if there is one.
@@ -142,13 +162,23 @@ FileResult FollowJournal(const ProgramFolder& folder, const std::filesystem::pat
   const auto [text, result] = ReadBytesOf(folder.Files(), journal);
   if (!text) return result;
   std::size_t made = 0;
-  if (const std::optional<std::vector<Step>> steps = FromText(folder, *text))
-    return Follow(folder, journal, *steps, made);
-  const std::filesystem::path aside = PlaceAside(folder);
-  FileResult moved = MoveIntoPlace(folder.Files(), journal, aside);
-  if (!moved.Ok()) return moved;
-  return {"The file " + journal.string() + " is damaged. It was ignored and renamed to " +
-          aside.filename().string() + "."};
+  const std::optional<std::vector<Step>> steps = FromText(folder, *text);
+  return steps ? Follow(folder, journal, *steps, made) : PutAwayDamaged(folder, journal);
+}
+
+FileResult RestoreSetAside(const ProgramFolder& folder) {
+  const std::filesystem::path journal = SetAsideOf(folder);
+  const auto [text, result] = ReadBytesOf(folder.Files(), journal);
+  if (!text) return result;
+  if (text->starts_with(FirstLine)) return FollowJournal(folder, journal);  // As earlier versions set aside.
+  const std::optional<ChangedFile> former = FromSetAside(folder, *text);
+  if (!former) return PutAwayDamaged(folder, journal);
+  const std::filesystem::path file = folder.Root / former->File;
+  FileResult restored = former->Bytes ? ReplaceFile(folder.Files(), file, *former->Bytes, folder.Root)
+                                      : DeleteFile(folder.Files(), file);
+  if (!restored.Ok()) return restored;
+  folder.Files().FlushFoldersOf({file});
+  return EndJournal(folder, journal);
 }
 
 }  // namespace
@@ -156,24 +186,19 @@ FileResult FollowJournal(const ProgramFolder& folder, const std::filesystem::pat
 FileResult ChangeFiles(const ProgramFolder& folder, const std::vector<ChangedFile>& changes) {
   const std::filesystem::path journal = JournalOf(folder);
   std::vector<Step> steps;
-  bool endsPutBy = false;
   for (const ChangedFile& change : changes) {
     const int number = static_cast<int>(steps.size()) + 1;
     steps.push_back(
         {change.Bytes ? TemporaryName(folder.Files(), number) : std::string(Deleted), change.File});
     if (!MayChange(folder, steps.back())) return {FileNameRefusal(change.File)};
-    endsPutBy |= change.File == PutByName;
   }
   if (ChangesAreUnfinished(folder))
     return {"Nothing can be saved until the changes in " + journal.string() + " are finished."};
   std::size_t made = 0;
   FileResult result = Prepare(folder, journal, steps, changes);
   if (result.Ok()) result = Follow(folder, journal, steps, made);
-  if (result.Ok()) {
-    if (endsPutBy) folder.Files().Delete(folder.Root / TemporaryName(folder.Files(), PutByNumber));
-    return result;
-  }
-  if (made == 0) TakeBack(folder, journal, steps);
+  if (result.Ok()) return result;
+  if (made == 0) Undo(folder, journal, steps);
   if (ChangesAreUnfinished(folder))
     result.Failure += " The rest will be saved when you next start the program.";
   return result;
@@ -187,27 +212,26 @@ bool ChangesAreUnfinished(const ProgramFolder& folder) {
   return !FileIsMissing(folder.Files(), JournalOf(folder));
 }
 
-FileResult PutBy(const ProgramFolder& folder, const std::string& file) {
+FileResult SetAside(const ProgramFolder& folder, const std::string& file) {
   if (!IsChampionshipFile(folder, file)) return {FileNameRefusal(file)};
   FileResult restored = Restore(folder);
   if (!restored.Ok()) return restored;
-  auto [bytes, reading] = ReadBytesOf(folder.Files(), folder.Root / file);
+  const auto [bytes, reading] = ReadBytesOf(folder.Files(), folder.Root / file);
   if (!reading.Ok()) return reading;
-  const std::vector<Step> steps = {
-      {bytes ? TemporaryName(folder.Files(), PutByNumber) : std::string(Deleted), file}};
-  FileResult result = Prepare(folder, PutByOf(folder), steps, {{file, std::move(bytes)}});
-  if (!result.Ok()) TakeBack(folder, PutByOf(folder), steps);
-  return result;
+  const std::string size = bytes ? std::to_string(bytes->size()) : std::string(Deleted);
+  return ReplaceFile(folder.Files(), SetAsideOf(folder),
+                     std::string(SetAsideLine) + file + "\n" + size + "\n" + bytes.value_or(""), folder.Root);
 }
 
 FileResult Restore(const ProgramFolder& folder) {
   FileResult finished = FinishChanges(folder);
-  return finished.Ok() ? FollowJournal(folder, PutByOf(folder)) : finished;
+  return finished.Ok() ? RestoreSetAside(folder) : finished;
 }
 
 FileResult CleanUp(const ProgramFolder& folder) {
   FileResult restored = Restore(folder);
-  const bool nothingIsLeft = !ChangesAreUnfinished(folder) && FileIsMissing(folder.Files(), PutByOf(folder));
+  const bool nothingIsLeft =
+      !ChangesAreUnfinished(folder) && FileIsMissing(folder.Files(), SetAsideOf(folder));
   if (nothingIsLeft) DeleteLeftovers(folder.Files(), folder.Root);
   return restored;
 }

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <csignal>
+#include <set>
 
 namespace kickwell {
 namespace {
@@ -72,7 +73,7 @@ std::error_code WriteWhole(const Descriptor& file, std::string_view bytes) {
     if (written < 0) return Error(errno);
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
-  return ErrorUnless(::fsync(file.Number()) == 0);
+  return {};
 }
 
 /// The file that a symbolic link leads to.
@@ -135,7 +136,7 @@ std::error_code PosixFileSystem::Read(const fs::path& file, std::string& bytes) 
 }
 
 std::error_code PosixFileSystem::Prepare(const fs::path& temporary, std::string_view bytes,
-                                         const fs::path& target) {
+                                         const fs::path& target, Flush flush) {
   std::error_code error;
   fs::create_directories(FolderOf(target), error);  // What it could not make, the next line notices.
   if (LeadsNowhere(target)) return Error(ENOLINK);
@@ -146,6 +147,7 @@ std::error_code PosixFileSystem::Prepare(const fs::path& temporary, std::string_
   if (!file.IsOpen()) return Error(errno);
   error = KeepPermissions(file, real);
   if (!error) error = WriteWhole(file, bytes);
+  if (!error && flush == Flush::Now) error = ErrorUnless(::fsync(file.Number()) == 0);
   const std::error_code closing = file.Close();
   if (!error) error = closing;
   if (error) ::unlink(temporary.c_str());
@@ -160,9 +162,14 @@ std::error_code PosixFileSystem::Delete(const fs::path& file) {
   return ErrorUnless(::unlink(file.c_str()) == 0 || errno == ENOENT);
 }
 
-void PosixFileSystem::FlushFolderOf(const fs::path& file) {
-  const Descriptor folder(FolderOf(BehindLinks(file)), O_RDONLY | O_DIRECTORY);
-  if (folder.IsOpen()) ::fsync(folder.Number());
+void PosixFileSystem::FlushFoldersOf(const std::vector<fs::path>& files) {
+  std::set<fs::path> flushed;
+  for (const fs::path& file : files) {
+    const fs::path path = FolderOf(BehindLinks(file));
+    if (!flushed.insert(path).second) continue;
+    const Descriptor folder(path, O_RDONLY | O_DIRECTORY);
+    if (folder.IsOpen()) ::fsync(folder.Number());
+  }
 }
 
 std::error_code PosixFileSystem::List(const fs::path& folder, std::vector<std::string>& names) {

@@ -64,22 +64,19 @@ bool FileIsMissing(FileSystem& files, const fs::path& file) {
 }
 
 FileResult ReplaceFile(FileSystem& files, const fs::path& file, std::string_view bytes,
-                       const fs::path& temporaryFolder) {
+                       const fs::path& temporaryFolder, Flush flush) {
   const fs::path temporary = temporaryFolder / TemporaryName(files);
-  FileResult result = PrepareFile(files, temporary, bytes, file);
+  FileResult result = PrepareFile(files, temporary, bytes, file, flush);
   if (!result.Ok()) return result;
   result = MoveIntoPlace(files, temporary, file);
-  if (result.Ok()) {
-    files.FlushFolderOf(file);
-  } else {
-    files.Delete(temporary);  // Where that fails too, a later start tries again.
-  }
+  if (!result.Ok()) files.Delete(temporary);  // Where that fails too, a later start tries again.
+  if (result.Ok() && flush == Flush::Now) files.FlushFoldersOf({file});
   return result;
 }
 
 FileResult PrepareFile(FileSystem& files, const fs::path& temporary, std::string_view bytes,
-                       const fs::path& file) {
-  return Result(file, "saved", files.Prepare(temporary, bytes, file));
+                       const fs::path& file, Flush flush) {
+  return Result(file, "saved", files.Prepare(temporary, bytes, file, flush));
 }
 
 FileResult MoveIntoPlace(FileSystem& files, const fs::path& temporary, const fs::path& file) {

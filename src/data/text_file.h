@@ -27,14 +27,14 @@ bool FileIsMissing(FileSystem& files, const std::filesystem::path& file);
 
 /// Replaces `file`, through symbolic links and with its permissions, or makes it, together with missing
 /// folders on the way. The bytes go to a temporary file in `temporaryFolder`, are flushed to the disk, and
-/// take the place of `file` by renaming. Whatever happens, the old file or the new one is there whole; on
-/// failure, the old one.
+/// replace `file` by renaming. Whatever happens, the old file or the new one is there whole; on failure, the
+/// old one. With Flush::Never a power cut may leave anything.
 FileResult ReplaceFile(FileSystem& files, const std::filesystem::path& file, std::string_view bytes,
-                       const std::filesystem::path& temporaryFolder);
+                       const std::filesystem::path& temporaryFolder, Flush flush = Flush::Now);
 
 /// The first half of ReplaceFile: everything but the renaming. On failure nothing is left of `temporary`.
 FileResult PrepareFile(FileSystem& files, const std::filesystem::path& temporary, std::string_view bytes,
-                       const std::filesystem::path& file);
+                       const std::filesystem::path& file, Flush flush = Flush::Now);
 
 /// The second half: `temporary` becomes `file`, for good once the folder has been flushed.
 FileResult MoveIntoPlace(FileSystem& files, const std::filesystem::path& temporary,

@@ -45,27 +45,30 @@ void FileRecording::StoreScorer(const MatchSession& session) {
 }
 
 void FileRecording::MatchLeft() {
-  TellFailure(desktop_, TakeGoalsBack());
+  TellFailure(desktop_, UndoGoals());
   match_ = {};
 }
 
-/// Has the scorers' file hold all goals of the match so far.
+/// Saves all goals of the match that the scorers' file does not hold yet.
 FileResult FileRecording::SaveGoals(const ChampionshipId& id) {
   FileResult result;
-  if (!match_.ScorersArePutBy) {
-    result = PutScorersBy(folder_, id);
-    match_.ScorersArePutBy = result.Ok();
+  if (!match_.ScorersAreSetAside) {
+    result = SetScorersAside(folder_, id);
+    match_.ScorersAreSetAside = result.Ok();
   }
   while (result.Ok() && match_.SavedGoals < match_.Goals.size()) {
-    result = AddGoals(folder_, id, match_.Goals[match_.SavedGoals]);
-    if (result.Ok()) ++match_.SavedGoals;
+    auto [scorers, saved] = AddGoals(folder_, id, match_.Goals[match_.SavedGoals]);
+    result = std::move(saved);
+    if (!result.Ok()) break;
+    match_.Scorers = std::move(scorers);
+    ++match_.SavedGoals;
   }
   return result;
 }
 
-/// Makes the scorers what they were before the match.
-FileResult FileRecording::TakeGoalsBack() {
-  FileResult restored = match_.ScorersArePutBy ? Restore(folder_) : FileResult();
+/// Restores the scorers as they were before the match.
+FileResult FileRecording::UndoGoals() {
+  FileResult restored = match_.ScorersAreSetAside ? Restore(folder_) : FileResult();
   if (!restored.Ok()) restored.Failure += " The scorers will be corrected when you next start the program.";
   return restored;
 }
@@ -125,14 +128,15 @@ void FileRecording::StoreLeagueResult(const MatchSession& session) {
 FileResult FileRecording::Record(const MatchSession& session, const ChampionshipId& id) {
   FileResult result = std::move(match_.Failure);
   if (result.Ok()) {
-    if (match_.ScorersArePutBy) match_.Changes.push_back({std::string(PutByName), {}});
+    if (match_.Scorers) match_.Changes.push_back(*match_.Scorers);
+    if (match_.ScorersAreSetAside) match_.Changes.push_back({std::string(SetAsideName), {}});
     result = ChangeFiles(folder_, match_.Changes);
     if (result.Ok() || ChangesAreUnfinished(folder_)) return result;
   }
   const char* const kind = id.Kind == ChampionshipKind::League ? "league " : "knock-out ";
   std::string told = "Match " + std::to_string(session.Setup.MatchNumber) + " of the " + kind + id.Name +
                      " was not recorded and is still to be played. " + result.Failure;
-  if (const FileResult takenBack = TakeGoalsBack(); !takenBack.Ok()) told += " " + takenBack.Failure;
+  if (const FileResult undone = UndoGoals(); !undone.Ok()) told += " " + undone.Failure;
   return {std::move(told)};
 }
 

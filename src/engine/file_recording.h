@@ -14,9 +14,9 @@
 
 namespace kickwell {
 
-/// Records in the championship's files. Each goal is saved as it falls, and taken back if the match is left
-/// or cannot be recorded, at the latest by the next start of the program. What the end of a match changes is
-/// saved all at once by StoreLeagueResult, or not at all; then the user is told, once for each match.
+/// Records in the championship's files. Each goal is saved as it is scored, and undone if the match is left
+/// or cannot be recorded, at the latest when the program next starts. StoreLeagueResult saves everything that
+/// the match changes, or nothing; then it reports why, once for each match.
 class FileRecording final : public Recording {
  public:
   /// Has the championship read again, which is named by its main file.
@@ -32,7 +32,7 @@ class FileRecording final : public Recording {
 
  private:
   FileResult SaveGoals(const ChampionshipId& id);
-  FileResult TakeGoalsBack();
+  FileResult UndoGoals();
   FileResult Record(const MatchSession& session, const ChampionshipId& id);
   void FileChanges(const MatchSession& session, const ChampionshipId& id);
   void ReadChampionshipOnce(const ChampionshipId& id);
@@ -45,9 +45,10 @@ class FileRecording final : public Recording {
 
   /// What there is to record of one match.
   struct Recorded {
-    std::vector<ScorerRow> Goals;  ///< As they fell.
+    std::vector<ScorerRow> Goals;  ///< In the order scored.
     std::size_t SavedGoals = 0;    ///< How many of them the scorers' file holds.
-    bool ScorersArePutBy = false;
+    bool ScorersAreSetAside = false;
+    std::optional<ChangedFile> Scorers;  ///< What the scorers' file holds, with these goals.
     std::optional<Championship> Main;
     std::vector<ChangedFile> Changes;
     FileResult Failure;  ///< Why it cannot be recorded.

@@ -176,7 +176,7 @@ TEST(NothingLost, AStartThatStopsOrFailsCanBeRepeated) {
     int journals = 0;
     for (int operation = 1; const auto stopped = StoppedAt(operation, change); ++operation) {
       const bool recorded = stopped->HasJournal();
-      if (!recorded && !stopped->Exists(std::string(PutByName))) continue;
+      if (!recorded && !stopped->Exists(std::string(SetAsideName))) continue;
       journals += recorded ? 1 : 0;
       Start(*stopped);
       for (int again = 1; again <= stopped->Files.Operations; ++again) {
@@ -220,6 +220,17 @@ TEST(NothingLost, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
         EXPECT_EQ(season.Files.All(), after);
       }
     }
+  }
+}
+
+TEST(NothingLost, AMatchWaitsForTheDiskTwelveTimesAtMostWhateverItsGoals) {
+  for (const int goals : {0, 1, 9}) {
+    Season season;
+    PlayedMatch match(season.Folder, MatchMode::League);
+    for (int goal = 0; goal < goals; ++goal) match.Recording.StoreScorer(match.Session);
+    QuietRandom random;
+    Announcement(match.Session, random, match.Recording).ShowResult();
+    EXPECT_LE(season.Files.Flushes, 12) << goals;
   }
 }
 

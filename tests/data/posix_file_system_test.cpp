@@ -77,10 +77,10 @@ TEST_F(PosixFileSystemTest, SavesThroughLinksAndKeepsPermissions) {
 
 TEST_F(PosixFileSystemTest, FlushesAFileBeforeItsRenamingAndTheFolderAfterIt) {
   flushes = 0;
-  EXPECT_FALSE(folder_.Files.Prepare(folder_ / "temporary", "new", folder_ / "file"));
+  EXPECT_FALSE(folder_.Files.Prepare(folder_ / "temporary", "new", folder_ / "file", Flush::Now));
   EXPECT_EQ(flushes, 1);
   EXPECT_FALSE(folder_.Files.Replace(folder_ / "temporary", folder_ / "file"));
-  folder_.Files.FlushFolderOf(folder_ / "file");
+  folder_.Files.FlushFoldersOf({folder_ / "file"});
   EXPECT_EQ(flushes, 2);
 }
 

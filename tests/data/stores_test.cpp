@@ -88,7 +88,7 @@ TEST_F(StoresTest, ANewTeamsStandingsStandBehindAllRows) {
 
 TEST_F(StoresTest, ScorersAreTheCompleteOnesAndTheRestIsKept) {
   at_.Write("Leagues/Top.sco", "Ann\nA\nno\nBo\nB");
-  for (const char* scorer : {"Ann", "Cy"}) EXPECT_TRUE(AddGoals(folder_, Top, {scorer, "A", 1}).Ok());
+  for (const char* scorer : {"Ann", "Cy"}) EXPECT_TRUE(AddGoals(folder_, Top, {scorer, "A", 1}).Result.Ok());
   EXPECT_EQ(at_.Bytes("Leagues/Top.sco"), AsWritten("Ann\nA\n1\nCy\nA\n1\nBo\nB\n"));
 }
 

@@ -45,7 +45,7 @@ void TryChampionship(const ProgramFolder& folder, const ChampionshipId& id) {
   const ChangedFile results = Value(ChangedResults(folder, id, {"1", "2", "3", "4", "5"}));
   const std::size_t scorers = Value(ReadScorers(folder, id)).size();
   Expect(Value(ReadBracket(folder, id)).has_value());
-  Expect(AddGoals(folder, id, {"A", "A", 1}).Ok());
+  Expect(AddGoals(folder, id, {"A", "A", 1}).Result.Ok());
   Expect(Value(ReadScorers(folder, id)).size() <= scorers + 1);
   Expect(ChangeFiles(folder, {ChangedChampionship(championship), ChangedStandings(id, standings), results})
              .Ok());

@@ -37,7 +37,8 @@ class MemoryFiles final : public FileSystem {
     return {};
   }
 
-  std::error_code Prepare(const Path& temporary, std::string_view bytes, const Path& target) override {
+  std::error_code Prepare(const Path& temporary, std::string_view bytes, const Path& target,
+                          Flush flush) override {
     Touched.insert(target);
     try {
       if (const std::error_code error = Begin(temporary)) return error;
@@ -48,6 +49,13 @@ class MemoryFiles final : public FileSystem {
     if (Unreadable.contains(target)) return std::make_error_code(std::errc::permission_denied);
     if (IsFolder(target)) return std::make_error_code(std::errc::is_a_directory);
     Make({{temporary, std::string(bytes)}});
+    if (flush == Flush::Now) {
+      ++Flushes;
+      torn_.erase(temporary);
+    } else {
+      torn_.insert(temporary);
+      unflushed_.back() = {{temporary, "torn"}};
+    }
     return {};
   }
 
@@ -57,6 +65,7 @@ class MemoryFiles final : public FileSystem {
     if (!entries_.contains(temporary)) return std::make_error_code(std::errc::no_such_file_or_directory);
     if (IsFolder(target)) return std::make_error_code(std::errc::is_a_directory);
     Make({{target, entries_.at(temporary)}, {temporary, std::nullopt}});
+    if (torn_.erase(temporary) > 0) unflushed_.back()[target] = "torn";
     return {};
   }
 
@@ -67,16 +76,11 @@ class MemoryFiles final : public FileSystem {
     return {};
   }
 
-  void FlushFolderOf(const Path& file) override {
-    if (Begin(file.parent_path())) return;
-    const auto isFlushed = [&](const auto& entry) { return entry.first.parent_path() == file.parent_path(); };
-    for (Change& change : unflushed_) {
-      Change flushed;
-      std::ranges::copy_if(change, std::inserter(flushed, flushed.end()), isFlushed);
-      Apply(flushed, durable_);
-      std::erase_if(change, isFlushed);
+  void FlushFoldersOf(const std::vector<Path>& files) override {
+    std::set<Path> flushed;
+    for (const Path& file : files) {
+      if (flushed.insert(file.parent_path()).second) FlushFolder(file.parent_path());
     }
-    std::erase_if(unflushed_, [](const Change& change) { return change.empty(); });
   }
 
   std::error_code List(const Path& folder, std::vector<std::string>& names) override {
@@ -123,6 +127,7 @@ class MemoryFiles final : public FileSystem {
 
   std::set<Path> Unreadable;  ///< Files that exist and can neither be read nor replaced.
   int Operations = 0;         ///< Since the last restart.
+  int Flushes = 0;            ///< Waits for the disk.
   int FailAt = 0;             ///< The first operation that fails, from 1; 0 for none.
   int FailCount = 1;          ///< How many fail from there on.
   std::error_code Failure = std::make_error_code(std::errc::io_error);
@@ -156,6 +161,19 @@ class MemoryFiles final : public FileSystem {
     return fails ? Failure : std::error_code();
   }
 
+  void FlushFolder(const Path& folder) {
+    if (Begin(folder)) return;
+    ++Flushes;
+    const auto isFlushed = [&](const auto& entry) { return entry.first.parent_path() == folder; };
+    for (Change& change : unflushed_) {
+      Change flushed;
+      std::ranges::copy_if(change, std::inserter(flushed, flushed.end()), isFlushed);
+      Apply(flushed, durable_);
+      std::erase_if(change, isFlushed);
+    }
+    std::erase_if(unflushed_, [](const Change& change) { return change.empty(); });
+  }
+
   void Make(const Change& change) {
     Apply(change, entries_);
     unflushed_.push_back(change);
@@ -163,6 +181,7 @@ class MemoryFiles final : public FileSystem {
 
   Entries entries_, durable_;
   std::vector<Change> unflushed_;
+  std::set<Path> torn_;  ///< Temporary files whose content a power cut would not leave whole.
   int process_ = 1000;
 };
 

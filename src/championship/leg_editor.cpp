@@ -13,6 +13,25 @@
 
 namespace kickwell {
 
+bool EditorSide::IsInPlay(int place) const {
+  const auto knows = [this](const std::string& entry) {
+    const bool team = Selected.PlaceOf(entry) != ItemList::None;
+    return team || (!IsLeague() &&
+                    (PlaceholderNumber(entry) > 0 || Selected.PlaceOf(WithoutToss(entry)) != ItemList::None));
+  };
+  const Pairing& fixture = At(Table, place);
+  return knows(fixture.Home) && knows(fixture.Away);
+}
+
+std::string EditorSide::FixtureNote() const {
+  int others = 0;
+  for (int place = 0; place < Count(Table); ++place) others += IsInPlay(place) ? 0 : 1;
+  if (others == 0) return {};
+  return (others == 1 ? "1 fixture has" : std::to_string(others) + " fixtures have") +
+         " a team that is not in the " + (IsLeague() ? "league" : "knock-out") +
+         ". Press Auto Fixtures to make all fixtures anew.";
+}
+
 LegEditor::LegEditor(ProgramFolder folder, Desktop& desktop, Random& random)
     : folder_(std::move(folder)), desktop_(desktop), random_(random) {
   Form_Load();

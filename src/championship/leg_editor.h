@@ -23,6 +23,12 @@ struct EditorSide {
   bool IsUnsaved() const { return Saved != Content{Name, Selected.Entries, Table}; }
   void MarkSaved() { Saved = {Name, Selected.Entries, Table}; }
 
+  /// Whether both sides of the fixture at `place` (from 0) are still in the championship.
+  bool IsInPlay(int place) const;
+
+  /// What to do about fixtures that are not; empty without any. Save takes those of a league as they are.
+  std::string FixtureNote() const;
+
   ChampionshipKind Kind;
   std::string Name;              ///< In the name box, at most 20 characters.
   ItemList Available, Selected;  ///< Team lists, in the order of ListedBefore.

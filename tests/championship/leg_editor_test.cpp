@@ -168,6 +168,23 @@ TEST_F(LegEditorTest, AKnockOutIsSavedAndLoadedWithItsNumberOfTeams) {
   EXPECT_EQ(knockOut_.NumberOfTeams, 2);
 }
 
+TEST_F(LegEditorTest, FixturesOfATeamThatWasRemovedAreToldApart) {
+  const std::string advice = ". Press Auto Fixtures to make all fixtures anew.";
+  for (EditorSide* const side : {&league_, &knockOut_}) {
+    Select(*side, 2);
+    editor_.AutoFixtures_Click(*side);
+    side->Selected.Picked = 0;
+    LegEditor::RemoveTeam_Click(*side);
+    EXPECT_FALSE(side->IsInPlay(0));
+  }
+  EXPECT_EQ(league_.FixtureNote(), "2 fixtures have a team that is not in the league" + advice);
+  EXPECT_EQ(knockOut_.FixtureNote(), "1 fixture has a team that is not in the knock-out" + advice);
+  knockOut_.Table = {{"T101", "Winner 1"}, {"T101 (By Toss)", "T100"}};
+  EXPECT_TRUE(knockOut_.IsInPlay(0));
+  knockOut_.Selected.Add("T100");
+  EXPECT_EQ(knockOut_.FixtureNote(), "");
+}
+
 TEST_F(LegEditorTest, ALoadedLeagueGoesOnWithItsFixtures) {
   Write("Leagues/Old.leg", "Old\n3\nT105\nT100\nGone\n1\nP\nT100\nT105\n");
   LegEditor editor = Open();

@@ -1,4 +1,5 @@
 // How the editors' windows follow the hands of someone who builds a club or a championship.
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QtTest/QTest>
@@ -60,6 +61,25 @@ TEST_F(EditingTest, WhatABoxHasCutIsSaidBelowItUntilThereIsRoomAgain) {
     EXPECT_GE(line->width(), line->sizeHint().width());
     QTest::keyClick(box, Qt::Key_Backspace);
     EXPECT_FALSE(line->isVisible());
+  }
+}
+
+TEST_F(EditingTest, FixturesOfATeamThatWasRemovedLookDifferent) {
+  AddTeams({"A", "B", "C"});
+  LegEditor editor(folder_.Folder, desktop_, random_);
+  LegEditorWindow window(editor, nullptr);
+  window.show();
+  for (const char* button : {"LeagueAddTeam", "LeagueAddTeam", "LeagueAddTeam", "LeagueAutoFixtures"})
+    User::Click(window, button);
+  User::Click(window, "LeagueRemoveTeam");
+  const auto* const fixtures = window.findChild<QListWidget*>("LeagueFixtures");
+  const auto* const note = window.findChild<QLabel*>("LeagueFixtureNote");
+  EXPECT_TRUE(note->isVisible() && note->text() == fixtures->accessibleDescription());
+  for (int i = 0; i < fixtures->count(); ++i) {
+    const QListWidgetItem& fixture = *fixtures->item(i);
+    const bool marked = fixture.data(Qt::AccessibleTextRole).toString().endsWith(", Not in the league");
+    EXPECT_NE(marked, editor.League.IsInPlay(i)) << i;
+    EXPECT_NE(marked, fixture.foreground() == window.palette().text()) << i;
   }
 }
 

@@ -5,6 +5,9 @@
 #include <QShortcut>
 #include <utility>
 
+#include "ui/text.h"
+#include "ui/widgets/accessible.h"
+#include "ui/widgets/appearance.h"
 #include "ui/widgets/choosers.h"
 #include "ui/widgets/labels.h"
 #include "ui/widgets/scale.h"
@@ -175,6 +178,10 @@ QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, 
   auto* const layout = Spaced(new QVBoxLayout, InGroup);
   layout->addLayout(captions);
   layout->addWidget(widgets.Fixtures, 1);
+  widgets.FixtureNote = MakeCaption(QString());
+  widgets.FixtureNote->setObjectName(prefix + "FixtureNote");
+  widgets.FixtureNote->setWordWrap(true);
+  layout->addWidget(widgets.FixtureNote);
   auto* const buttons = Spaced(new QHBoxLayout, InGroup);
   if (IsLeague(side)) {
     layout->addLayout(BuildPairing(widgets, side));
@@ -237,10 +244,26 @@ void LegEditorWindow::ShowSide(const SideWidgets& widgets, const EditorSide& sid
   widgets.Name->ShowText();
   ShowList(widgets.Available, side.Available);
   ShowList(widgets.Selected, side.Selected);
-  ShowList(widgets.Fixtures, side.FixtureList);
+  ShowFixtures(widgets, side);
   ShowChooser(widgets.Load, side.Load);
   widgets.TeamCount->setText(QString::number(side.Selected.Count()));
   widgets.MatchCount->setText(QString::number(side.FixtureList.Count()));
+}
+
+void LegEditorWindow::ShowFixtures(const SideWidgets& widgets, const EditorSide& side) {
+  ShowList(widgets.Fixtures, side.FixtureList);
+  for (int i = 0; i < widgets.Fixtures->count(); ++i) {
+    QListWidgetItem* const fixture = widgets.Fixtures->item(i);
+    const bool fits = side.IsInPlay(i);
+    const QString note = fits ? QString() : IsLeague(side) ? "Not in the league" : "Not in the knock-out";
+    fixture->setForeground(fits ? palette().color(QPalette::Text) : FaintText(palette()));
+    fixture->setToolTip(note);
+    fixture->setData(Qt::AccessibleTextRole, fixture->text() + (fits ? note : ", " + note));
+  }
+  const QString note = ToQt(side.FixtureNote());
+  widgets.FixtureNote->setText(note);
+  widgets.FixtureNote->setVisible(!note.isEmpty());
+  if (!note.isEmpty()) SetDescription(widgets.Fixtures, note);
 }
 
 }  // namespace kickwell

@@ -31,6 +31,7 @@ class LegEditorWindow final : public ScreenWindow {
     QListWidget *Available, *Selected, *Fixtures;
     QComboBox* Load;
     QLabel* LoadCaption;
+    QLabel* FixtureNote;
     QLabel *TeamCount, *MatchCount;
     QComboBox *Home, *Away;  ///< League only.
     QLabel* NumberOfTeams;   ///< Knock-out only.
@@ -44,7 +45,8 @@ class LegEditorWindow final : public ScreenWindow {
   QWidget* BuildFiles(EditorSide& side, const QString& prefix);
   void OnSelect(QListWidget* list, ItemList& chooser);
   static void OnActivate(QListWidget* list, QPushButton* move);
-  static void ShowSide(const SideWidgets& widgets, const EditorSide& side);
+  void ShowSide(const SideWidgets& widgets, const EditorSide& side);
+  void ShowFixtures(const SideWidgets& widgets, const EditorSide& side);
 
   LegEditor& editor_;
   QComboBox* kind_;

@@ -47,6 +47,12 @@ void LegEditor::Form_Load() {
   Kind = {{"League Championship", "Knock Out Championship"}, 0};
 }
 
+std::string LegEditor::UnsavedNote() const {
+  if (League.IsUnsaved() && KnockOut.IsUnsaved()) return "The league and the knock-out are not saved.";
+  if (League.IsUnsaved()) return "The league is not saved.";
+  return KnockOut.IsUnsaved() ? "The knock-out is not saved." : "";
+}
+
 void LegEditor::AddTeam_Click(EditorSide& side) {
   if (side.Available.Picked == ItemList::None) return;
   const std::string team = side.Available.Text();
@@ -163,7 +169,9 @@ void LegEditor::Save_Click(EditorSide& side) {
     championship.Fixtures.push_back({NotPlayed, fixture.Home, fixture.Away, WinnerPlaceholder(number)});
   }
   if (known) {
-    if (TellFailure(desktop_, ReplaceChampionship(folder_, championship))) side.MarkSaved();
+    if (!TellFailure(desktop_, ReplaceChampionship(folder_, championship))) return;
+    side.MarkSaved();
+    side.LoadIsOnView = side.LoadIsOnView || side.Load.Text() == MainFileName(id);
   } else if (TellFailure(desktop_, WriteChampionship(folder_, championship))) {
     side.MarkSaved();
     side.Load.Add(MainFileName(id));
@@ -177,6 +185,7 @@ void LegEditor::Load_Click(EditorSide& side, int entry) {
   TellFailure(desktop_, result);
   if (!loaded) return;
   side.Load.Picked = entry;
+  side.LoadIsOnView = true;
   side.Available.Entries = ListTeams(folder_);
   side.Selected = {};
   ClearFixtures(side);
@@ -205,10 +214,15 @@ void LegEditor::Delete_Click(EditorSide& side) {
     desktop_.Inform("You can't delete any more championship");
     return;
   }
+  if (!side.LoadIsOnView) {
+    desktop_.Inform("Please load a championship to delete");
+    return;
+  }
   if (!desktop_.Ask("Are you sure you want to remove " + fileName + "?", Enter::No)) return;
   if (!TellFailure(desktop_, DeleteChampionship(folder_, IdOfMainFile(side.Kind, fileName)))) return;
   side.Load.RemoveAt(side.Load.Picked);
   side.Load.PickFirst();
+  side.LoadIsOnView = false;
 }
 
 }  // namespace kickwell

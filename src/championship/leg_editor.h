@@ -35,6 +35,7 @@ struct EditorSide {
   ItemList FixtureList;          ///< As the fixtures are shown.
   std::vector<Pairing> Table;    ///< The fixtures themselves.
   ItemList Load;                 ///< Main files of this kind.
+  bool LoadIsOnView = false;     ///< Whether the rest shows what Load has picked; not after a deletion.
 
   ItemList Home, Away;       ///< League only: the selected teams.
   bool ManualEntry = false;  ///< League only: the next hand-made fixture joins the list.
@@ -62,7 +63,8 @@ class LegEditor {
   void AutoFixtures_Click(EditorSide& side);
   void Save_Click(EditorSide& side);
   void Load_Click(EditorSide& side, int entry);  ///< A file that is missing or can't be read changes nothing.
-  void Delete_Click(EditorSide& side);           ///< Deletes the championship that the load chooser shows.
+  /// Deletes the championship that the load chooser shows, but not one that only a deletion has put there.
+  void Delete_Click(EditorSide& side);
 
   /// Adds a fixture of the picked home and away teams. The first one replaces a generated list.
   void AddFixture_Click();
@@ -70,7 +72,8 @@ class LegEditor {
   void FewerTeams_Click();  ///< Halves it, down to 2.
   void Exit_Click() { Closed = true; }
 
-  bool IsUnsaved() const { return League.IsUnsaved() || KnockOut.IsUnsaved(); }
+  /// What is not saved, as sentences; empty where everything is.
+  std::string UnsavedNote() const;
 
   ItemList Kind;  ///< "League Championship" or "Knock Out Championship".
   EditorSide League{ChampionshipKind::League};

@@ -203,9 +203,15 @@ TEST_F(LegEditorTest, ALoadedLeagueGoesOnWithItsFixtures) {
 }
 
 TEST_F(LegEditorTest, TheLoadedChampionshipIsDeletedUnlessItIsTheLast) {
-  for (const std::string name : {"A", "B"}) Write("Leagues/" + name + ".leg", name + "\n0\n0\n");
+  for (const std::string name : {"A", "B", "C"}) Write("Leagues/" + name + ".leg", name + "\n0\n0\n");
   LegEditor editor = Open();
   EditorSide& league = editor.League;
+  editor.Load_Click(league, 2);
+  editor.Delete_Click(league);
+  EXPECT_EQ(league.Load.Text(), "A.leg");
+  editor.Delete_Click(league);  // The screen still shows C.
+  EXPECT_EQ(desktop_.Taken(), (Texts{"? (No): Are you sure you want to remove C.leg?",
+                                     "i: Please load a championship to delete"}));
   editor.Load_Click(league, 1);
   league.Name = "A";  // The question names what is deleted.
   desktop_.Yes = false;

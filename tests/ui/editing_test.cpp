@@ -90,6 +90,9 @@ TEST_F(EditingTest, EscapeKeepsAnUnsavedChampionship) {
   QTest::keyClicks(window.findChild<QLineEdit*>("LeagueName"), "Cup");
   QTest::keyClick(&window, Qt::Key_Escape);
   EXPECT_TRUE(window.isVisible());
+  const auto* const note = window.findChild<QLabel*>("Unsaved");
+  EXPECT_TRUE(note->isVisible() && note->text() == "The league is not saved.");
+  EXPECT_EQ(window.focusWidget()->accessibleDescription(), note->text());
   window.close();
   EXPECT_TRUE(editor.Closed && !window.isVisible());
 }

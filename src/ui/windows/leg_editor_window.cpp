@@ -49,7 +49,8 @@ LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
     : ScreenWindow("LegEditor", "Kickwell Championship Editor", parent),
       editor_(editor),
       kind_(MakeCombo("Kind")),
-      exit_(Button("Exit", "E&xit Kickwell Championship Editor", [this] { editor_.Exit_Click(); })) {
+      exit_(Button("Exit", "E&xit Kickwell Championship Editor", [this] { editor_.Exit_Click(); })),
+      unsaved_(MakeFaint("Unsaved", Qt::AlignRight)) {
   auto* const kind = Spaced(new QHBoxLayout, BetweenColumns);
   kind->addWidget(MakeCaption("Type of Competition / Championship:", kind_));
   kind->addWidget(kind_);
@@ -60,6 +61,7 @@ LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
   Page()->addLayout(kind);
   Page()->addWidget(BuildSide(league_, editor.League), 1);
   Page()->addWidget(BuildSide(knockOut_, editor.KnockOut), 1);
+  Page()->addWidget(unsaved_);
   SetButtons({.Left = {league_.Files, knockOut_.Files}, .Right = {exit_}});
   Refresh();
   OpenAt(900, 640);
@@ -224,8 +226,11 @@ QWidget* LegEditorWindow::BuildFiles(EditorSide& side, const QString& prefix) {
 }
 
 void LegEditorWindow::reject() {
-  if (editor_.IsUnsaved()) return exit_->setFocus();
-  ScreenWindow::reject();
+  const std::string note = editor_.UnsavedNote();
+  if (note.empty()) return ScreenWindow::reject();
+  unsaved_->setText(ToQt(note));
+  Refresh();
+  exit_->setFocus();
 }
 
 void LegEditorWindow::Refresh() {
@@ -237,6 +242,9 @@ void LegEditorWindow::Refresh() {
   knockOut_.NumberOfTeams->setText(QString::number(editor_.KnockOut.NumberOfTeams));
   for (QWidget* const part : {league_.Page, league_.Files}) part->setVisible(editor_.Kind.Picked == 0);
   for (QWidget* const part : {knockOut_.Page, knockOut_.Files}) part->setVisible(editor_.Kind.Picked == 1);
+  if (!unsaved_->text().isEmpty()) unsaved_->setText(ToQt(editor_.UnsavedNote()));
+  unsaved_->setVisible(!unsaved_->text().isEmpty());
+  SetDescription(exit_, unsaved_->text());
   GoTo(std::exchange(editor_.Next, {}));
 }
 

@@ -15,7 +15,8 @@ class LegEditorWindow final : public ScreenWindow {
  public:
   LegEditorWindow(LegEditor& editor, QWidget* parent);
 
-  /// Escape leaves only what is saved; otherwise it leads to the button that leaves.
+  /// Escape leaves only what is saved; otherwise it says what is not and leads to the button
+  /// that leaves.
   void reject() override;
 
  protected:
@@ -51,6 +52,7 @@ class LegEditorWindow final : public ScreenWindow {
   LegEditor& editor_;
   QComboBox* kind_;
   QPushButton* exit_;
+  QLabel* unsaved_;  ///< Why Escape has not left.
   SideWidgets league_{}, knockOut_{};
 };
 

@@ -20,7 +20,7 @@ void LegResults::Command2_Click() {
   if (!Command2Enabled()) return;
   const std::optional<std::string> name = desktop_.AskSaveName(Label1);
   if (!name || name->empty()) return;
-  TellFailure(desktop_, WritePage(folder_.Files(), PageFile(*name), ResultsPage(Label1, List1)));
+  TellFailure(desktop_, WritePage(folder_, PageFile(*name), ResultsPage(Label1, List1)));
 }
 
 }  // namespace kickwell

@@ -142,7 +142,7 @@ void Match::ComSave_Click() {
   const std::optional<std::string> name = desktop_.AskSaveName(proposed);
   if (!name || name->empty()) return;
   const Lines page = commentary ? CommentaryPage(session_) : SummaryPage(session_);
-  TellFailure(desktop_, WritePage(folder_.Files(), PageFile(*name), page));
+  TellFailure(desktop_, WritePage(folder_, PageFile(*name), page));
 }
 
 void Match::Command1_Click() {

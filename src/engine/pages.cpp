@@ -22,6 +22,13 @@ std::string PageText(const std::string& text) {
   return safe;
 }
 
+/// `text` with the ASCII letters in lower case.
+std::string Lower(std::string text) {
+  std::ranges::transform(text, text.begin(),
+                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return text;
+}
+
 std::string Title(std::string_view page) {
   return "<title>" + std::string(ProgramTitle) + " " + std::string(page) + "</title>";
 }
@@ -42,6 +49,13 @@ void AppendList(Lines& page, const ItemList& list) {
 std::string Fact(const char* name, int side1, int side2, const char* unit = "") {
   return std::string(name) + ": " + std::to_string(side1) + unit + " / " + std::to_string(side2) + unit +
          "<br>";
+}
+
+/// Whether the guide has that file, or one whose name differs only in case.
+bool IsOfGuide(const ProgramFolder& folder, const std::filesystem::path& file) {
+  const auto within = file.lexically_normal().lexically_relative(folder.Root.lexically_normal());
+  const std::string first = within.empty() ? std::string() : Lower(within.begin()->string());
+  return first == "help.htm" || first == "help";
 }
 
 /// The closing lines that every page of the program shares.
@@ -93,15 +107,15 @@ Lines ResultsPage(const std::string& heading, const ItemList& results) {
 }
 
 std::filesystem::path PageFile(const std::string& name) {
-  std::string end = name.substr(name.size() - std::min<std::size_t>(name.size(), 5));
-  std::transform(end.begin(), end.end(), end.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  const std::string end = Lower(name.substr(name.size() - std::min<std::size_t>(name.size(), 5)));
   return end.ends_with(".htm") || end == ".html" ? name : name + ".htm";
 }
 
-FileResult WritePage(FileSystem& files, const std::filesystem::path& file, const Lines& page) {
+FileResult WritePage(const ProgramFolder& folder, const std::filesystem::path& file, const Lines& page) {
+  if (IsOfGuide(folder, file))
+    return {"The file " + file.string() + " can't be saved: It belongs to the guide."};
   // The temporary file lies beside the page, which may be on any disk.
-  return ReplaceFile(files, file, Encode(page), file.parent_path());
+  return ReplaceFile(folder.Files(), file, Encode(page), file.parent_path());
 }
 
 }  // namespace kickwell

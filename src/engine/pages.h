@@ -5,7 +5,7 @@
 #include <string>
 
 #include "data/file_result.h"
-#include "data/file_system.h"
+#include "data/program_folder.h"
 #include "data/text_encoding.h"
 #include "engine/match_session.h"
 
@@ -23,7 +23,7 @@ Lines ResultsPage(const std::string& heading, const ItemList& results);
 /// The file that the user meant by `name`: ".htm" is added unless the name ends in it or in ".html".
 std::filesystem::path PageFile(const std::string& name);
 
-/// Writes the page, over an existing file without a question.
-FileResult WritePage(FileSystem& files, const std::filesystem::path& file, const Lines& page);
+/// Writes the page, over an existing file without a question, but not over the guide or into its folder.
+FileResult WritePage(const ProgramFolder& folder, const std::filesystem::path& file, const Lines& page);
 
 }  // namespace kickwell

@@ -3,11 +3,13 @@
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
 #include <QRegularExpression>
+#include <QStandardPaths>
 #include <QUrl>
 #include <utility>
 
@@ -49,7 +51,10 @@ QString ForFileName(QString name) {
 }  // namespace
 
 QtDesktop::QtDesktop(ProgramFolder folder)
-    : folder_(std::move(folder)), saveFolder_(ToQt(folder_.Root.string())) {}
+    : folder_(std::move(folder)),
+      saveFolder_(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)) {
+  if (!QFileInfo(saveFolder_).isDir()) saveFolder_ = QDir::homePath();
+}
 
 void QtDesktop::Inform(const std::string& text) {
   Show(QMessageBox::Information, text, QMessageBox::Ok, QMessageBox::Ok);

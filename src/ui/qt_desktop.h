@@ -10,7 +10,7 @@
 namespace kickwell {
 
 /// Shows boxes and dialogs over the window in use. The save dialog opens in the folder that was last saved
-/// to, at first in the program folder.
+/// to, at first in that of the user's documents.
 class QtDesktop : public Desktop {
  public:
   explicit QtDesktop(ProgramFolder folder);

@@ -104,7 +104,7 @@ TEST_F(MatchTest, PagesAreWrittenToTheLetter) {
        "<b><u>&lt;Top> Results:</u></b><br><br>\nA 1 vs &lt;B> 0<br>\n<br>\nMatch 2:<br>\n"},
   };
   for (const auto& [page, title, body] : pages) {
-    EXPECT_TRUE(WritePage(folder_.Files, folder_ / "page.htm", page).Ok());
+    EXPECT_TRUE(WritePage(folder_.Folder, folder_ / "page.htm", page).Ok());
     EXPECT_EQ(Bytes("page.htm"),
               AsWritten("<html><head>\n<title>Kickwell " + title +
                         "</title>\n</head><body bgcolor=#ECE9D8>\n"
@@ -128,6 +128,11 @@ TEST_F(MatchTest, SavingAsksForANameAndTellsAFailure) {
   folder_.Files.Unreadable.insert(folder_ / "page.htm");
   match.ComSave_Click();
   EXPECT_EQ(desktop_.Taken(), Texts{"!: The file /kickwell/page.htm can't be saved: Permission denied."});
+  for (const char* guide : {"HELP", "Help/../Help.htm", "Help/page"}) {
+    desktop_.SaveName = (folder_ / guide).string();
+    match.ComSave_Click();
+    EXPECT_TRUE(desktop_.Taken().at(0).ends_with("can't be saved: It belongs to the guide.")) << guide;
+  }
   for (const char* name : {"page.htm", "page.HTML"}) EXPECT_EQ(PageFile(name), name);
   for (const char* name : {"/a.b/F.C 1.2", "htm"}) EXPECT_EQ(PageFile(name), std::string(name) + ".htm");
 }

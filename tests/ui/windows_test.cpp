@@ -219,7 +219,8 @@ TEST_F(WindowsTest, TheSaveDialogRemembersItsFolderAndProposesWhatAFileCanBeCall
   const std::string page = (folder_.Folder.Teams() / "page").string();
   AddTeams({"Albion"});
   User user;
-  user.In("SaveDialog").Do([&page](QWidget& dialog) {
+  user.In("SaveDialog").Do([&page, this](QWidget& dialog) {
+    EXPECT_NE(static_cast<QFileDialog&>(dialog).directory().path().toStdString(), folder_.Folder.Root);
     auto* const name = dialog.findChild<QLineEdit*>();
     EXPECT_EQ(name->text(), "What- FC_B-C_Summary");
     name->setText(QString::fromStdString(page));

@@ -265,6 +265,16 @@ TEST_F(WindowsTest, AListOfLinesMovesOnlyWhenALineIsNew) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return inView(100); }));
 }
 
+TEST_F(WindowsTest, AnEmptyRankingShowsOnlyItsHeaderAndTellsScreenReadersWhy) {
+  Ranking scorers;
+  RankingWindow window(scorers, TopScorersScreen(), nullptr);
+  const QWidget* const rows = window.findChild<QWidget*>("Bar")->parentWidget();
+  EXPECT_EQ(rows->accessibleDescription(), "Nobody has scored yet.");
+  QString seen;
+  for (const QLabel* const label : rows->findChildren<QLabel*>()) seen += label->text();
+  EXPECT_EQ(seen, "RankPlayerTeamGoals");
+}
+
 TEST_F(WindowsTest, ARankingIsTurnedByKeyboardAndItsBarFollows) {
   Ranking table;
   for (int i = 1; i <= 16; ++i)

@@ -36,13 +36,14 @@ RankingWindow::RankingWindow(Ranking& ranking, const RankingScreen& screen, QWid
     : ScreenWindow(screen.Name, screen.Caption, parent),
       ranking_(ranking),
       columns_(screen.Columns),
+      empty_(screen.Empty),
       label1_(MakeHeading("Label1")),
       nextpage_(Button("nextpage", "&Next >>", [this] { ranking_.nextpage_Click(); })),
       prevpage_(Button("prevpage", "<< &Back", [this] { ranking_.prevpage_Click(); })) {
   QPushButton* const close = Button(screen.CloseName, "Close", [this] { ranking_.Close_Click(); });
   close->setDefault(true);
   Page()->addWidget(label1_);
-  Page()->addWidget(BuildRows(screen.Empty), 1);
+  Page()->addWidget(BuildRows(), 1);
   SetButtons({.Left = {prevpage_, nextpage_}, .Right = {close}});
 
   nextpage_->setFocus();
@@ -56,7 +57,7 @@ RankingWindow::RankingWindow(Ranking& ranking, const RankingScreen& screen, QWid
   OpenAt(screen.Width, 0);
 }
 
-QWidget* RankingWindow::BuildRows(const QString& empty) {
+QWidget* RankingWindow::BuildRows() {
   rows_ = new QFrame;
   SetRole(rows_, QAccessible::List);
   rows_->setAccessibleName(windowTitle());
@@ -71,12 +72,6 @@ QWidget* RankingWindow::BuildRows(const QString& empty) {
   for (const RankingColumn& column : columns_) {
     labels_.push_back(BuildColumn(grid, static_cast<int>(labels_.size()), column));
   }
-  auto* const none = new TextLabel(empty);
-  none->SetFaint(true);
-  none->setObjectName("Empty");
-  none->setAlignment(Qt::AlignCenter);
-  empty_ = none;
-  grid->addWidget(empty_, 1, 0, Paging::Rows, static_cast<int>(columns_.size()));
   for (int r = 1; r <= Paging::Rows; ++r) {
     auto* const marker = new Marker;
     marker->setObjectName(ArrayName("Marker", r));
@@ -147,7 +142,7 @@ void RankingWindow::PlaceBar() {
 void RankingWindow::Refresh() {
   label1_->setText(Shown(ranking_.Label1));
   const Paging& pages = ranking_.Pages;
-  empty_->setVisible(pages.RowCount() == 0);
+  SetDescription(rows_, pages.RowCount() == 0 ? empty_ : QString());
   for (int r = 1; r <= Paging::Rows; ++r) {
     QStringList names, announced;
     for (int c = 0; c < static_cast<int>(columns_.size()); ++c) {

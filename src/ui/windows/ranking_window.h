@@ -26,7 +26,7 @@ struct RankingScreen {
   QString Caption;
   const char* CloseName;  ///< The name of the button that closes the screen.
   int Width;              ///< Of the window, where type is of the usual size.
-  QString Empty;          ///< What it says without any row.
+  QString Empty;          ///< What screen readers are told without any row.
   std::vector<RankingColumn> Columns;
 };
 
@@ -47,15 +47,15 @@ class RankingWindow final : public ScreenWindow {
  private:
   using Labels = std::array<QLabel*, Paging::Rows>;
 
-  QWidget* BuildRows(const QString& empty);
+  QWidget* BuildRows();
   Labels BuildColumn(QGridLayout* grid, int place, const RankingColumn& column);
   void MoveBar(int row);
   void PlaceBar();
 
   Ranking& ranking_;
   std::vector<RankingColumn> columns_;
+  QString empty_;
   QLabel* label1_;
-  QLabel* empty_ = nullptr;
   std::vector<Labels> labels_;  ///< By column.
   std::array<QWidget*, Paging::Rows> markers_{};
   QFrame* rows_ = nullptr;

@@ -28,6 +28,8 @@ struct Side {
   int Penalties = 0;   ///< Scored in the shoot-out.
   int FinalGoals = 0;  ///< When play ended. An instant shoot-out leaves them 0.
 
+  bool operator==(const Side&) const = default;
+
   /// One of its players as the summary names him.
   std::string Naming(const std::string& player) const { return player + " (" + Team + ")"; }
 };

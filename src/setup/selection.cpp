@@ -23,7 +23,7 @@ void Selection::LoadSquad(LineUp& side, const std::string& team) {
   auto [loaded, result] = LoadTeam(folder_, team);
   if (!TellFailure(desktop_, result)) Command1Enabled = false;
   if (!loaded) {
-    if (result.Ok()) side.Note = "There is no file \"" + team + "\" in \"Teams\".";
+    if (result.Ok()) side.Note = R"(There is no file ")" + team + R"(" in "Teams".)";
     return;
   }
   side.Reputation = loaded->Skill + "%";

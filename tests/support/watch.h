@@ -24,54 +24,50 @@
 namespace kickwell {
 
 /// Watches everything that a window's user sees or is told: texts, entries, what is picked, enabled, visible
-/// and checked, tips, colours, the focus, the button that Enter presses; and which timers run.
+/// and checked, tips, colours, the button that Enter presses, the focus unless a button has it, and which
+/// timers run.
 class Watch {
  public:
   explicit Watch(QWidget& window) : window_(window) { Look(); }
 
-  /// What is new since the last look, by control, for example "Inn1: 1 (Rovers, goals)" or "kick is
-  /// disabled", except for what `passedOver` matches. What has changed in hidden controls is told when they
-  /// are shown.
-  Texts Changed(const char* passedOver = "^$") {
+  /// What is new since the last look, by control, for example "Inn1: 1 (Rovers, goals); kick is disabled",
+  /// except for what `passedOver` matches. What changes in hidden controls is told when they are shown.
+  std::string Changed(const char* passedOver = "^$") {
     const Picture before = picture_;
     Look();
-    Texts changes;
+    QStringList changes;
     for (const auto& [what, value] : picture_) {
-      const auto old = before.find(what);
-      const std::string was = old == before.end() ? "" : old->second;
-      if (was == value) continue;
-      const bool grown = !was.empty() && what.ends_with(" offers") && value.starts_with(was + " | ");
-      const std::string change = what + (grown ? " more: " + value.substr(was.size() + 3) : " " + value);
-      if (!ToText(change).contains(QRegularExpression(passedOver))) changes.push_back(change);
+      const QString was = before.contains(what) ? before.at(what) : QString();
+      const bool grown = !was.isEmpty() && what.endsWith(" offers") && value.startsWith(was + " | ");
+      const QString change = what + (grown ? " more: " + value.mid(was.size() + 3) : " " + value);
+      if (was != value && !change.contains(QRegularExpression(passedOver))) changes.append(change.trimmed());
     }
-    return changes;
+    return changes.join("; ").toStdString();
   }
 
   /// All that `control` showed at the last look.
-  Texts Of(const std::string& control) const {
-    Texts all;
-    for (const auto& [what, value] : picture_)
-      if (IsOf(control, what) && !value.empty()) all.push_back(what.substr(control.size()) + " " + value);
-    return all;
+  std::string Of(const QString& control) const {
+    QStringList all;
+    for (const auto& [what, value] : picture_) {
+      const QString about = what.mid(control.size());
+      const bool own = what.startsWith(control) && (about.startsWith(':') || about.startsWith(' '));
+      if (own && !value.isEmpty()) all.append((about + " " + value).mid(1).trimmed());
+    }
+    return all.join("; ").toStdString();
   }
 
  private:
-  using Picture = std::map<std::string, std::string>;  ///< By control and what about it.
-
-  static QString ToText(const std::string& text) { return QString::fromStdString(text); }
-
-  static bool IsOf(const std::string& control, const std::string& what) {
-    return what.starts_with(control + ":") || what.starts_with(control + " ");
-  }
+  using Picture = std::map<QString, QString>;  ///< By control and what about it.
 
   void Set(const QString& control, const char* what, const QString& value) {
-    picture_[control.toStdString() + what] = value.toStdString();
+    picture_[control + what] = value;
   }
 
   void Look() {
     QCoreApplication::processEvents();
     Set("window", " is", window_.isVisible() ? "open" : "closed");
-    Set("focus", " on", window_.focusWidget() == nullptr ? QString() : window_.focusWidget()->objectName());
+    const QWidget* const focus = window_.focusWidget();
+    if (focus != nullptr && !focus->inherits("QAbstractButton")) Set("focus", " on", focus->objectName());
     QString grounds;
     for (QWidget* const widget : window_.findChildren<QWidget*>()) {
       if (IsNamed(*widget))
@@ -91,16 +87,19 @@ class Watch {
 
   void LookAt(QWidget& control) {
     const QString name = control.objectName();
-    const bool known = picture_.contains(name.toStdString() + " is");
+    const bool known = picture_.contains(name + " is");
     Set(name, " is", StateOf(control));
     if (known && !control.isVisible()) return;
     Set(name, " tips", Plain(control.toolTip()));
     Set(name, " is told as", control.accessibleName());
-    Set(name, " is described as", control.accessibleDescription());
+    const QString description = control.accessibleDescription();
+    Set(name, " is described as", description == Plain(control.toolTip()) ? "" : description);
     if (const auto* const label = qobject_cast<const QLabel*>(&control)) {
-      const QString caption = label->property("accessibleCaption").toString();
-      Set(name, ":", label->text() + (caption.isEmpty() ? "" : " (" + caption + ")"));
-      if (label->autoFillBackground()) Set(name, " stands on", GroundOf(*label));
+      Set(name, ":", label->text());
+      Set(name, " is called", label->property("accessibleCaption").toString());
+      if (label->autoFillBackground())
+        Set(name, " stands on",
+            GroundOf(*label) + " in " + label->palette().color(QPalette::WindowText).name());
     } else if (const auto* const button = qobject_cast<const QAbstractButton*>(&control)) {
       Set(name, ":", button->text());
       const auto* const push = qobject_cast<const QPushButton*>(button);
@@ -151,13 +150,14 @@ class Watch {
 
   static QString Plain(const QString& tip) { return QTextDocumentFragment::fromHtml(tip).toPlainText(); }
 
+  /// What each entry shows and what screen readers say instead, which holds its tip.
   static QString EntriesOf(const QAbstractItemModel& model) {
     QStringList entries;
     for (int row = 0; row < model.rowCount(); ++row) {
       QString entry = model.index(row, 0).data().toString();
-      for (const int role : {SideTextRole, int(Qt::ToolTipRole), int(Qt::AccessibleTextRole)}) {
+      for (const int role : {SideTextRole, int(Qt::AccessibleTextRole), int(Qt::ToolTipRole)}) {
         const QString more = Plain(model.index(row, 0).data(role).toString());
-        if (!more.isEmpty()) entry += " / " + more;
+        if (!entry.contains(more)) entry += " / " + more;
       }
       entries.append(entry);
     }

@@ -1,0 +1,187 @@
+// The editors' windows, by what their user does.
+#include <QtTest/QTest>
+
+#include "support/screen_test.h"
+#include "support/watch.h"
+#include "ui/windows/leg_editor_window.h"
+#include "ui/windows/stad_editor_window.h"
+#include "ui/windows/team_editor_window.h"
+#include "user.h"
+
+namespace kickwell {
+namespace {
+
+const char* const Deletion = "Delete is ";  ///< Tested with the editor's logic.
+
+class EditorWindowsTest : public WindowTest {
+ protected:
+  static void Type(QWidget& window, const char* box, const char* text) {
+    auto* const edit = window.findChild<QLineEdit*>(box);
+    edit->setFocus();
+    QTest::keyClicks(edit, text);
+  }
+
+  static void Select(QWidget& window, const char* name, int row) {
+    auto* const list = window.findChild<QListWidget*>(name);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+  }
+};
+
+TEST_F(EditorWindowsTest, TeamsAndPlayersAreShownAsTheyAreOnDisk) {
+  ASSERT_TRUE(SaveTeam(folder_.Folder, {"Albion", "70", {{"Ann", "60", "GK"}}}).Ok());
+  ASSERT_TRUE(SaveTeam(folder_.Folder, {"Dale", "50", {{"Cy", "62", "FDR"}, {"Di", "63", "MFC"}}}).Ok());
+  TeamEditor editor(folder_.Folder, desktop_, "N/A");
+  TeamEditorWindow window(editor, nullptr);
+  window.show();
+  Watch watch(window);
+  User::Pick(window, "Combo3", 1);
+  EXPECT_EQ(watch.Changed(),
+            "Combo3: Dale; Label13: 50; Label14: 2; Label4: 62; Label5 tips Forward, right; Label5: FDR; "
+            "List1 offers Cy / FDR 62 / Cy, Forward, right, skill 62, in the line-up | Di / MFC 63 / Di, "
+            "Midfielder, centre, skill 63, in the line-up; List1: Cy");
+  Select(window, "List1", 1);
+  EXPECT_EQ(watch.Changed(),
+            "Label4: 63; Label5 tips Midfielder, centre; Label5: MFC; List1: Di; focus on List1");
+  User::Click(window, "Command1");
+  EXPECT_EQ(watch.Changed(),
+            "List1 offers Di / MFC 63 / Di, Midfielder, centre, skill 63, in the line-up | Cy / FDR 62 / Cy, "
+            "Forward, right, skill 62, in the line-up");
+  User::Click(window, "Command2");
+  EXPECT_EQ(watch.Changed(),
+            "List1 offers Cy / FDR 62 / Cy, Forward, right, skill 62, in the line-up | Di / MFC 63 / Di, "
+            "Midfielder, centre, skill 63, in the line-up");
+  Type(window, "Text2", "Em");
+  Type(window, "Text4", "64");
+  User::Pick(window, "Combo1", 2);
+  User::Pick(window, "Combo2", 1);
+  EXPECT_EQ(watch.Changed(), "Combo1: DF; Combo2: R; Text2: Em; Text4: 64; focus on Combo2");
+  User::Click(window, "Command8");
+  EXPECT_EQ(watch.Changed(),
+            "Combo1: FD; Combo2: L; Label14: 3; Label4: 64; Label5 tips Defender, right; Label5: DFR; List1 "
+            "offers more: Em / DFR 64 / Em, Defender, right, skill 64, in the line-up; List1: Em; Text2:; "
+            "Text4:; focus on Text2");
+  Type(window, "Text1", "City");
+  Type(window, "Text5", "0");
+  User::Click(window, "Command7");
+  EXPECT_EQ(watch.Changed(), "Text1: City; Text5: 0 (selected); focus on Text5");
+  Type(window, "Text5", "55");
+  User::Click(window, "Command7");
+  EXPECT_EQ(watch.Changed(),
+            "Combo3 offers more: City; Combo3: City; Label13: 55; Label14: 0; Label4:; Label5 tips; Label5:; "
+            "List1 is described as Add the first player of the team on the right.; List1 offers; List1:; "
+            "Text1:; Text5:; focus on Text2");
+  User::Click(window, "Command5");
+  EXPECT_EQ(watch.Changed(),
+            "Combo3 offers Albion | Dale; Combo3: Albion; Label13: 70; Label14: 1; Label4: 60; Label5 tips "
+            "Goalkeeper; Label5: GK; List1 is described as; List1 offers Ann / GK 60 / Ann, Goalkeeper, "
+            "skill 60, in the line-up; List1: Ann");
+  User::Click(window, "Command6");
+  EXPECT_EQ(watch.Changed(),
+            "Label14: 0; Label4:; Label5 tips; Label5:; List1 is described as Add the first player of the "
+            "team on the right.; List1 offers; List1:");
+  User::Click(window, "Command4");
+  EXPECT_EQ(watch.Changed(), "window is closed");
+}
+
+TEST_F(EditorWindowsTest, StadiumsAreShownAsTheyAreOnDisk) {
+  AddTeams({"Albion", "Dale"});
+  Write("stadiums.sim", "2\nAlbion\nMill\nLeat\n1000\nNeutral\nBowl\nOss\n500\n");
+  StadEditor editor(folder_.Folder, desktop_);
+  StadEditorWindow window(editor, nullptr);
+  window.show();
+  Watch watch(window);
+  EXPECT_EQ(watch.Of("List1"),
+            "is enabled; is told as Stadiums; offers Mill / Leat / Mill, Leat (1000), Albion | Bowl / Oss / "
+            "Bowl, Oss (500), Neutral; stands at its end; Mill");
+  Type(window, "Text1", "Park");
+  Type(window, "Text2", "Ayr");
+  Type(window, "Text3", "200");
+  User::Pick(window, "Combo1", 2);
+  EXPECT_EQ(watch.Changed(), "Combo1: Dale; Text1: Park; Text2: Ayr; Text3: 200; focus on Combo1");
+  User::Click(window, "Command2");
+  EXPECT_EQ(watch.Changed(),
+            "Combo1: Neutral; Label8: 3; List1 offers more: Park / Ayr / Park, Ayr (200), Dale; List1: Park; "
+            "Text1:; Text2:; Text3:; focus on Text1");
+  Select(window, "List1", 1);
+  User::Click(window, "Command1");
+  EXPECT_EQ(watch.Changed(),
+            "Label8: 2; List1 offers Mill / Leat / Mill, Leat (1000), Albion | Park / Ayr / Park, Ayr (200), "
+            "Dale; List1: Mill");
+  User::Click(window, "Command3");
+  EXPECT_EQ(watch.Changed(), "window is closed");
+}
+
+TEST_F(EditorWindowsTest, ALeagueIsPutTogetherSavedAndLoaded) {
+  AddTeams({"Albion", "Borough", "City"});
+  Write("Leagues/Old.leg", "Old\n2\nCity\nAlbion\n1\nP\nCity\nAlbion\n");
+  LegEditor editor(folder_.Folder, desktop_, random_);
+  LegEditorWindow window(editor, nullptr);
+  window.show();
+  Watch watch(window);
+  User::Click(window, "LeagueAddTeam");
+  EXPECT_EQ(watch.Changed(),
+            "Away offers Albion; Home offers Albion; LeagueAvailable offers Borough | City; LeagueAvailable: "
+            "Borough; LeagueSelected is described as; LeagueSelected offers Albion; LeagueSelected: Albion; "
+            "LeagueTeamCount: 1");
+  User::Click(window, "LeagueAddTeam");
+  watch.Changed();
+  Select(window, "LeagueSelected", 1);
+  User::Click(window, "LeagueRemoveTeam");
+  EXPECT_EQ(watch.Changed(),
+            "Away offers Albion; Home offers Albion; LeagueAvailable offers Borough | City; LeagueSelected "
+            "offers Albion; LeagueTeamCount: 1");
+  User::Click(window, "LeagueAddTeam");
+  watch.Changed();
+  User::Pick(window, "Home", 1);
+  User::Pick(window, "Away", 0);
+  User::Click(window, "AddFixture");
+  EXPECT_EQ(watch.Changed(),
+            "Away: Albion; Home: City; LeagueFixtures is described as; LeagueFixtures offers Match 1: City v "
+            "Albion; LeagueFixtures: Match 1: City v Albion; LeagueMatchCount: 1");
+  User::Click(window, "LeagueAutoFixtures");
+  EXPECT_EQ(watch.Changed(),
+            "LeagueFixtures offers Match 1: Albion v City | Match 2: City v Albion; LeagueFixtures: Match 1: "
+            "Albion v City; LeagueMatchCount: 2");
+  Type(window, "LeagueName", "New");
+  User::Click(window, "LeagueSave");
+  EXPECT_EQ(watch.Changed(Deletion),
+            "Away:; Home:; LeagueLoad offers more: New.leg; LeagueLoad: New.leg; LeagueName: New");
+  User::Pick(window, "LeagueLoad", 0);
+  EXPECT_EQ(watch.Changed(Deletion),
+            "LeagueFixtures offers Match 1: City v Albion; LeagueFixtures: Match 1: City v Albion; "
+            "LeagueLoad: Old.leg; LeagueMatchCount: 1; LeagueName: Old; focus on LeagueLoad");
+}
+
+TEST_F(EditorWindowsTest, AKnockOutIsPutTogether) {
+  AddTeams({"Albion", "Borough", "City"});
+  LegEditor editor(folder_.Folder, desktop_, random_);
+  LegEditorWindow window(editor, nullptr);
+  window.show();
+  Watch watch(window);
+  User::Pick(window, "Kind", 1);
+  EXPECT_EQ(watch.Changed(Deletion),
+            "Kind: Knock Out Championship; KnockOut is enabled; KnockOutSave is enabled; League is hidden; "
+            "LeagueSave is hidden");
+  for (const char* button : {"MoreTeams", "MoreTeams", "FewerTeams"}) User::Click(window, button);
+  EXPECT_EQ(watch.Changed(), "NumberOfTeams: 4");
+  User::Click(window, "FewerTeams");
+  watch.Changed();
+  Select(window, "KnockOutAvailable", 1);
+  User::Click(window, "KnockOutAddTeam");
+  User::Click(window, "KnockOutAddTeam");
+  User::Click(window, "KnockOutAutoFixtures");
+  EXPECT_EQ(watch.Changed(),
+            "KnockOutAvailable offers City; KnockOutAvailable: City; KnockOutFixtures is described as; "
+            "KnockOutFixtures offers Match 1: Albion v Borough; KnockOutFixtures: Match 1: Albion v Borough; "
+            "KnockOutMatchCount: 1; KnockOutSelected is described as; KnockOutSelected offers Albion | "
+            "Borough; KnockOutSelected: Borough; KnockOutTeamCount: 2");
+  desktop_.Yes = false;
+  Type(window, "KnockOutName", "Cup");
+  User::Click(window, "KnockOutSave");
+  EXPECT_EQ(watch.Changed(), "KnockOutName: Cup");
+  User::Click(window, "Exit");
+  EXPECT_EQ(watch.Changed(), "window is closed");
+}
+
+}  // namespace
+}  // namespace kickwell

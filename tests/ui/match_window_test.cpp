@@ -60,7 +60,7 @@ TEST_F(MatchWindowTest, ShowsAGoalTheBreakAndTheChangeOfEnds) {
 TEST_F(MatchWindowTest, ShowsTheListOfTheViewAndLeavesTheClockAlone) {
   User::Click(window_, "halftime");
   Watch watch(window_);
-  const int running = timer_.timerId();
+  QTest::qWait(20);
   User::Click(window_, "Option1(0)");
   EXPECT_EQ(watch.Changed(),
             "ComSave: Save Commentary; List1(0) is hidden; List1(1) is enabled; Option1(0) is enabled, "
@@ -69,7 +69,7 @@ TEST_F(MatchWindowTest, ShowsTheListOfTheViewAndLeavesTheClockAlone) {
   EXPECT_EQ(watch.Changed(),
             "ComSave: Save Summary; List1(0) is enabled; List1(1) is hidden; Option1(0) is enabled; "
             "Option1(1) is enabled, checked");
-  EXPECT_EQ(timer_.timerId(), running);  // Or minutes with clicks would last longer.
+  EXPECT_LT(timer_.remainingTime(), OnlyByTheTest.Tick - 10);  // Clicks do not make a minute last longer.
 }
 
 TEST_F(MatchWindowTest, StaysOpenUntilTheUserSaysYes) {

@@ -46,8 +46,6 @@ class PlayTest : public WindowTest {
     for (const QWidget* const window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
   }
 
-  void LookAtTheStatistics();
-
   User user_;
 };
 
@@ -63,15 +61,8 @@ TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
   press({Tab, Space, Tab, Space, Enter});   // with extra time and shoot-out.
 
   user_.In("Selection");
-  ExpectTexts({{"Team1", "Borough"}, {"Team2", "City"}});
-  ExpectTexts({{"Combo2(10)", "City10"}, {"Post2(10)", "FDR"}, {"OSkill1", "75%"}, {"Label14", "80"}});
-  const auto keeperIsMarked = [](QWidget& selection) {
-    return selection.findChild<QWidget*>("Twice2(0)")->isVisible();
-  };
-  user_.Pick("Combo2(10)", 0);
-  user_.When(keeperIsMarked, [](QWidget& selection) { User::Pick(selection, "Combo2(10)", 10); });
-  user_.When(std::not_fn(keeperIsMarked),
-             [](QWidget& selection) { User::Press(selection, Qt::Key_C, Qt::AltModifier); });
+  ExpectTexts({{"Team1", "Borough"}, {"Team2", "City"}, {"Combo2(10)", "City10"}});
+  user_.Press(Qt::Key_C, Qt::AltModifier);
 
   user_.In("Main");
   for (const char* period : {"&Normal Time 1st Half", "&Normal Time 2nd Half", "&Extra Time 1st Half",
@@ -79,13 +70,10 @@ TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
     user_.ExpectText("halftime", period);
     user_.Press(Enter);
   }
-  ExpectTexts({{"Label4", "City"}, {"Label7", "Borough"}});
   constexpr int Kicks = 20;
   press({Enter});
   for (int kick = 1; kick < Kicks; ++kick) press({Enter, Enter});  // The next player, who kicks.
   user_.Press(Qt::Key_M, Qt::AltModifier);
-  ExpectTexts({{"t1", "City"}, {"Inn1", "0"}, {"Pen1", "(0)"}});
-  ExpectTexts({{"t2", "Borough"}, {"Inn2", "0"}, {"Pen2", "(0)"}});
   ExpectTexts({{"ven", "Bowl, Oss"}, {"Label1", "Total Attendence: 250 (50%)"}});
   user_.Click("ComSave");
 
@@ -107,27 +95,6 @@ TEST_F(PlayTest, AFriendlyIsPlayedSavedAndLeftByKeyboard) {
   EXPECT_TRUE(Exists("page.htm"));
 }
 
-/// Table, top scorers and results of the league of the following test.
-void PlayTest::LookAtTheStatistics() {
-  Choose(Qt::Key_S, Qt::Key_L);
-  user_.In("Table");
-  user_.ExpectText("Label1", "Test Standings");
-  ExpectTexts({{"Team(1)", "City"}, {"Won(1)", "2"}, {"GF(1)", "3"}, {"Points(1)", "7"}});
-  user_.Click("Command1");
-  Choose(Qt::Key_S, Qt::Key_T);
-  user_.In("TopScorers");
-  ExpectTexts({{"Rank(3)", "3"}, {"Player(3)", "Albion5"}, {"Team(3)", "Albion"}, {"Goals(3)", "2"}});
-  user_.Click("Command3");
-
-  Choose(Qt::Key_S, Qt::Key_M);
-  user_.In("LegResults");
-  user_.Do([](QWidget& window) {
-    const QStringList log = User::LinesOf(window, "List1");
-    EXPECT_EQ(log.last(), "Winner: Borough");
-  });
-  user_.Click("Command1");
-}
-
 TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   Choose(Qt::Key_E, Qt::Key_C);
   user_.In("LegEditor");
@@ -135,7 +102,6 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   user_.Click("LeagueAutoFixtures");
   user_.Type("LeagueName", "Test");
   user_.Click("LeagueSave");
-  ExpectTexts({{"LeagueTeamCount", "3"}, {"LeagueMatchCount", "6"}, {"LeagueLoad", "Test.leg"}});
   user_.Click("Exit");
 
   // The first match in full. The same side scores twice at its start and, after the change of ends, once
@@ -156,7 +122,7 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
     EXPECT_TRUE(window.findChild<QWidget*>("ven")->toolTip().contains("Weather: "));  // Drawn just now.
   });
   user_.Click("halftime");
-  ExpectTexts({{"halftime", "&Normal Time 2nd Half"}, {"Label3", "45:00"}});
+  user_.ExpectText("Label3", "45:00");
   user_.Click("halftime");
   user_.ExpectText("Label3", "");
   ExpectTexts({{"t1", "Borough"}, {"Inn1", "1"}, {"t2", "Albion"}, {"Inn2", "2"}, {"ven", "Mill, Leat"}});
@@ -182,7 +148,14 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   PlayInstant("City", "Borough");
   user_.In("LegSettings").Click("Command2");
 
-  LookAtTheStatistics();
+  Choose(Qt::Key_S, Qt::Key_L);
+  user_.In("Table");
+  ExpectTexts({{"Team(1)", "City"}, {"Won(1)", "2"}, {"GF(1)", "3"}, {"Points(1)", "7"}});
+  user_.Click("Command1");
+  Choose(Qt::Key_S, Qt::Key_T);
+  user_.In("TopScorers");
+  ExpectTexts({{"Rank(3)", "3"}, {"Player(3)", "Albion5"}, {"Team(3)", "Albion"}, {"Goals(3)", "2"}});
+  user_.Click("Command3");
   Run(desktop_);
 }
 
@@ -212,41 +185,11 @@ TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
   PlayInstant("City", "Borough");
   user_.In("KnockSettings").Click("Command2");
   Choose(Qt::Key_S, Qt::Key_K);
-  user_.In("KnockCharts");
-  ExpectTexts({{"team(1)", "City"}, {"team(5)", "Borough (By Toss)"}, {"team(6)", "City"}});
-  user_.Click("Command3");
+  user_.In("KnockCharts").ExpectText("team(6)", "City").Click("Command3");
   Run(desktop_);
   const Texts told = desktop_.Taken();
   EXPECT_EQ(told[0], "i: Read the file 'Help.htm' in your Kickwell folder for help.");
   EXPECT_EQ(told[1], "i: Read the file 'History.txt' in your Kickwell folder for history.");
-}
-
-TEST_F(PlayTest, TheEditorsTakeANewClubAndItsStadium) {
-  Choose(Qt::Key_E, Qt::Key_T);
-  user_.In("TeamEditor");
-  user_.Type("Text1", "Newcomers and more");
-  user_.ExpectText("Text1", "Newcomers and mo");  // A name has 16 characters at the most, a skill two.
-  user_.Type("Text5", "777");
-  user_.Press(Qt::Key_Return);  // Adds the team, as it is pressed in a box of that section.
-  ExpectTexts({{"Combo3", "Newcomers and mo"}, {"Label13", "77"}});
-  user_.Type("Text2", "Keeper");
-  user_.Type("Text4", "80");
-  user_.Pick("Combo1", 3);
-  user_.Click("Command8");
-  ExpectTexts({{"Label14", "1"}, {"Label4", "80"}, {"Label5", "GK"}});
-  user_.Click("Command4");
-
-  Choose(Qt::Key_E, Qt::Key_S);
-  user_.In("StadEditor");
-  user_.Type("Text1", "Newcomers Field");
-  user_.Type("Text2", "Newtown");
-  user_.Type("Text3", "1200");
-  user_.Pick("Combo1", 4);
-  user_.Click("Command2");
-  user_.ExpectText("Label8", "3");
-  user_.Click("Command3");
-  Run(desktop_);
-  EXPECT_EQ(LoadStadiums(folder_.Folder).Value.back().HomeTeam, "Newcomers and mo");
 }
 
 TEST_F(PlayTest, AStartTellsOfAJournalWithoutSense) {

@@ -5,7 +5,6 @@
 #include <QFrame>
 #include <QLabel>
 #include <QListWidget>
-#include <QMenuBar>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScreen>
@@ -170,46 +169,17 @@ void ExpectTabOrder(QWidget& window) {
   EXPECT_EQ(stops, controls);
 }
 
-/// What the menu of statistics offers; nothing where it is disabled.
-QStringList Statistics(const QMenuBar& bar) {
-  QStringList offers;
-  for (const QAction* const menu : bar.actions()) {
-    if (menu->text() != "&Statistics" || !menu->isEnabled()) continue;
-    for (const QAction* const item : menu->menu()->actions())
-      if (item->isVisible()) offers.append(item->text());
-  }
-  return offers;
-}
-
 TEST_F(ScreensTest, AreToldAndWalked) {
   AddTeams({"Rovers", "United"});
   AddChampionships("Test", "Rovers", "United");
   std::set<QString> screens;
-  std::vector<QStringList> statistics;
-  std::string row, state;
-  QString championship;
   LookAround([&](QWidget& window) {
     SCOPED_TRACE(window.objectName().toStdString());
     screens.insert(window.objectName());
     ExpectNames(window);
-    if (const auto* const bar = window.findChild<QMenuBar*>())
-      statistics.push_back(Statistics(*bar));
-    else
-      ExpectTabOrder(window);
-    if (window.objectName() == "Opening") championship = User::TextOf(window, "league");
-    if (window.objectName() == "Table")
-      row = window.findChild<QWidget*>("Marker(1)")->accessibleName().toStdString();
-    if (const auto* const pitch = window.findChild<QWidget*>("Picture2"))
-      state = pitch->accessibleDescription().toStdString();
+    if (window.objectName() != "Opening") ExpectTabOrder(window);
   });
   EXPECT_EQ(screens.size(), 13U);
-  EXPECT_EQ(championship.toStdString(), NoChampionship);  // A friendly was chosen last.
-  const QStringList ofLeague{"&Top Scorers", "&League Table", "&Match Results"};
-  const QStringList ofKnockOut{"&Top Scorers", "&Match Results", "&Knock Out Table"};
-  EXPECT_EQ(statistics, (std::vector<QStringList>{{}, ofLeague, ofKnockOut, {}}));
-  EXPECT_EQ(row,
-            "Rank 1, Team Rovers, Played 0, Won 0, Tied 0, Lost 0, Goals for 0, Goals against 0, Points 0");
-  EXPECT_TRUE(state.starts_with("United 1, Rovers 1, MISS!, ")) << state;
 }
 
 /// Markup, an entity, a would-be access key, control characters, and marks that reverse the text after them.

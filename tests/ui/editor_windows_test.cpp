@@ -47,38 +47,26 @@ TEST_F(EditorWindowsTest, TeamsAndPlayersAreShownAsTheyAreOnDisk) {
             "List1 offers Di / MFC 63 / Di, Midfielder, centre, skill 63, in the line-up | Cy / FDR 62 / Cy, "
             "Forward, right, skill 62, in the line-up");
   User::Click(window, "Command2");
-  EXPECT_EQ(watch.Changed(),
-            "List1 offers Cy / FDR 62 / Cy, Forward, right, skill 62, in the line-up | Di / MFC 63 / Di, "
-            "Midfielder, centre, skill 63, in the line-up");
   Type(window, "Text2", "Em");
   Type(window, "Text4", "64");
   User::Pick(window, "Combo1", 2);
   User::Pick(window, "Combo2", 1);
-  EXPECT_EQ(watch.Changed(), "Combo1: DF; Combo2: R; Text2: Em; Text4: 64; focus on Combo2");
   User::Click(window, "Command8");
-  EXPECT_EQ(watch.Changed(),
-            "Combo1: FD; Combo2: L; Label14: 3; Label4: 64; Label5 tips Defender, right; Label5: DFR; List1 "
-            "offers more: Em / DFR 64 / Em, Defender, right, skill 64, in the line-up; List1: Em; Text2:; "
-            "Text4:; focus on Text2");
+  EXPECT_EQ(
+      watch.Changed(),
+      "Label14: 3; Label4: 64; Label5 tips Defender, right; Label5: DFR; List1 offers Cy / FDR 62 / Cy, "
+      "Forward, right, skill 62, in the line-up | Di / MFC 63 / Di, Midfielder, centre, skill 63, in the "
+      "line-up | Em / DFR 64 / Em, Defender, right, skill 64, in the line-up; List1: Em; focus on Text2");
   Type(window, "Text1", "Newcomers and more");
-  Type(window, "Text5", "0");
-  User::Click(window, "Command7");
-  EXPECT_EQ(watch.Changed("^Text1"), "Text5: 0 (selected); focus on Text5");
   Type(window, "Text5", "55");
   User::Click(window, "Command7");
-  EXPECT_EQ(watch.Changed("^Text1 is described"),
+  EXPECT_EQ(watch.Changed(),
             "Combo3 offers more: Newcomers and mo; Combo3: Newcomers and mo; Label13: 55; Label14: 0; "
             "Label4:; Label5 tips; Label5:; List1 is described as Add the first player of the team on the "
-            "right.; List1 offers; List1:; Text1:; Text5:; focus on Text2");
+            "right.; List1 offers; List1:");
   User::Click(window, "Command5");
-  EXPECT_EQ(watch.Changed(),
-            "Combo3 offers Albion | Dale; Combo3: Albion; Label13: 70; Label14: 1; Label4: 60; Label5 tips "
-            "Goalkeeper; Label5: GK; List1 is described as; List1 offers Ann / GK 60 / Ann, Goalkeeper, "
-            "skill 60, in the line-up; List1: Ann");
   User::Click(window, "Command6");
-  EXPECT_EQ(watch.Changed(),
-            "Label14: 0; Label4:; Label5 tips; Label5:; List1 is described as Add the first player of the "
-            "team on the right.; List1 offers; List1:");
+  EXPECT_EQ(watch.Changed(), "Combo3 offers Albion | Dale; Combo3: Albion; Label13: 70");
   User::Click(window, "Command4");
   EXPECT_EQ(watch.Changed(), "window is closed");
 }
@@ -90,18 +78,13 @@ TEST_F(EditorWindowsTest, StadiumsAreShownAsTheyAreOnDisk) {
   StadEditorWindow window(editor, nullptr);
   window.show();
   Watch watch(window);
-  EXPECT_EQ(watch.Of("List1"),
-            "is enabled; is told as Stadiums; offers Mill / Leat / Mill, Leat (1000), Albion | Bowl / Oss / "
-            "Bowl, Oss (500), Neutral; stands at its end; Mill");
   Type(window, "Text1", "Park");
   Type(window, "Text2", "Ayr");
   Type(window, "Text3", "200");
   User::Pick(window, "Combo1", 2);
-  EXPECT_EQ(watch.Changed(), "Combo1: Dale; Text1: Park; Text2: Ayr; Text3: 200; focus on Combo1");
   User::Click(window, "Command2");
   EXPECT_EQ(watch.Changed(),
-            "Combo1: Neutral; Label8: 3; List1 offers more: Park / Ayr / Park, Ayr (200), Dale; List1: Park; "
-            "Text1:; Text2:; Text3:; focus on Text1");
+            "Label8: 3; List1 offers more: Park / Ayr / Park, Ayr (200), Dale; List1: Park; focus on Text1");
   Select(window, "List1", 1);
   User::Click(window, "Command1");
   EXPECT_EQ(watch.Changed(),
@@ -111,74 +94,61 @@ TEST_F(EditorWindowsTest, StadiumsAreShownAsTheyAreOnDisk) {
   EXPECT_EQ(watch.Changed(), "window is closed");
 }
 
-TEST_F(EditorWindowsTest, ALeagueIsPutTogetherSavedAndLoaded) {
+TEST_F(EditorWindowsTest, ChampionshipsArePutTogetherSavedAndLoaded) {
   AddTeams({"Albion", "Borough", "City"});
   Write("Leagues/Old.leg", "Old\n2\nCity\nAlbion\n1\nP\nCity\nAlbion\n");
   LegEditor editor(folder_.Folder, desktop_, random_);
   LegEditorWindow window(editor, nullptr);
   window.show();
   Watch watch(window);
-  User::Click(window, "LeagueAddTeam");
+  for (int team = 0; team < 2; ++team) User::Click(window, "LeagueAddTeam");
   EXPECT_EQ(watch.Changed(),
-            "Away offers Albion; Home offers Albion; LeagueAvailable offers Borough | City; LeagueAvailable: "
-            "Borough; LeagueSelected is described as; LeagueSelected offers Albion; LeagueSelected: Albion; "
-            "LeagueTeamCount: 1");
-  User::Click(window, "LeagueAddTeam");
-  watch.Changed();
+            "Away offers Albion | Borough; Home offers Albion | Borough; LeagueAvailable offers City; "
+            "LeagueAvailable: City; LeagueSelected is described as; LeagueSelected offers Albion | Borough; "
+            "LeagueSelected: Albion; LeagueTeamCount: 2");
   Select(window, "LeagueSelected", 1);
   User::Click(window, "LeagueRemoveTeam");
   EXPECT_EQ(watch.Changed(),
             "Away offers Albion; Home offers Albion; LeagueAvailable offers Borough | City; LeagueSelected "
             "offers Albion; LeagueTeamCount: 1");
   User::Click(window, "LeagueAddTeam");
-  watch.Changed();
+  User::Click(window, "LeagueAutoFixtures");
   User::Pick(window, "Home", 1);
   User::Pick(window, "Away", 0);
+  EXPECT_EQ(watch.Changed(),
+            "Away offers more: City; Away: Albion; Home offers more: City; Home: City; LeagueAvailable "
+            "offers Borough; LeagueAvailable: Borough; LeagueFixtures is described as; LeagueFixtures offers "
+            "Match 1: Albion v City | Match 2: City v Albion; LeagueFixtures: Match 1: Albion v City; "
+            "LeagueMatchCount: 2; LeagueSelected offers more: City; LeagueTeamCount: 2; focus on Away");
   User::Click(window, "AddFixture");
-  EXPECT_EQ(watch.Changed(),
-            "Away: Albion; Home: City; LeagueFixtures is described as; LeagueFixtures offers Match 1: City v "
-            "Albion; LeagueFixtures: Match 1: City v Albion; LeagueMatchCount: 1");
-  User::Click(window, "LeagueAutoFixtures");
-  EXPECT_EQ(watch.Changed(),
-            "LeagueFixtures offers Match 1: Albion v City | Match 2: City v Albion; LeagueFixtures: Match 1: "
-            "Albion v City; LeagueMatchCount: 2");
   Type(window, "LeagueName", "New");
   User::Click(window, "LeagueSave");
-  EXPECT_EQ(watch.Changed(Deletion),
-            "Away:; Home:; LeagueLoad offers more: New.leg; LeagueLoad: New.leg; LeagueName: New");
+  EXPECT_EQ(
+      watch.Changed(Deletion),
+      "Away:; Home:; LeagueFixtures offers Match 1: City v Albion; LeagueFixtures: Match 1: City v Albion; "
+      "LeagueLoad offers more: New.leg; LeagueLoad: New.leg; LeagueMatchCount: 1; LeagueName: New");
   User::Pick(window, "LeagueLoad", 0);
-  EXPECT_EQ(watch.Changed(Deletion),
-            "LeagueFixtures offers Match 1: City v Albion; LeagueFixtures: Match 1: City v Albion; "
-            "LeagueLoad: Old.leg; LeagueMatchCount: 1; LeagueName: Old; focus on LeagueLoad");
-}
+  EXPECT_EQ(watch.Changed(Deletion), "LeagueLoad: Old.leg; LeagueName: Old; focus on LeagueLoad");
 
-TEST_F(EditorWindowsTest, AKnockOutIsPutTogether) {
-  AddTeams({"Albion", "Borough", "City"});
-  LegEditor editor(folder_.Folder, desktop_, random_);
-  LegEditorWindow window(editor, nullptr);
-  window.show();
-  Watch watch(window);
   User::Pick(window, "Kind", 1);
   EXPECT_EQ(watch.Changed(Deletion),
             "Kind: Knock Out Championship; KnockOut is enabled; KnockOutSave is enabled; League is hidden; "
-            "LeagueSave is hidden");
+            "LeagueSave is hidden; focus on Kind");
   for (const char* button : {"MoreTeams", "MoreTeams", "FewerTeams"}) User::Click(window, button);
   EXPECT_EQ(watch.Changed(), "NumberOfTeams: 4");
   User::Click(window, "FewerTeams");
-  watch.Changed();
   Select(window, "KnockOutAvailable", 1);
-  User::Click(window, "KnockOutAddTeam");
-  User::Click(window, "KnockOutAddTeam");
-  User::Click(window, "KnockOutAutoFixtures");
+  for (const char* button : {"KnockOutAddTeam", "KnockOutAddTeam", "KnockOutAutoFixtures"})
+    User::Click(window, button);
   EXPECT_EQ(watch.Changed(),
             "KnockOutAvailable offers City; KnockOutAvailable: City; KnockOutFixtures is described as; "
             "KnockOutFixtures offers Match 1: Albion v Borough; KnockOutFixtures: Match 1: Albion v Borough; "
             "KnockOutMatchCount: 1; KnockOutSelected is described as; KnockOutSelected offers Albion | "
-            "Borough; KnockOutSelected: Borough; KnockOutTeamCount: 2");
+            "Borough; KnockOutSelected: Borough; KnockOutTeamCount: 2; NumberOfTeams: 2");
   desktop_.Yes = false;
   Type(window, "KnockOutName", "Cup");
   User::Click(window, "KnockOutSave");
-  EXPECT_EQ(watch.Changed(), "KnockOutName: Cup");
+  EXPECT_EQ(desktop_.Taken().back(), "?: Are you sure you want to add Cup?");
   User::Click(window, "Exit");
   EXPECT_EQ(watch.Changed(), "window is closed");
 }

@@ -27,19 +27,17 @@ class MatchWindowTest : public WindowTest {
   QTimer& timer_ = *window_.findChild<QTimer*>("Timer1");
 };
 
-TEST_F(MatchWindowTest, ShowsAGoalTheBreakAndTheChangeOfEnds) {
+TEST_F(MatchWindowTest, ShowsAGoalAndTheChangeOfEnds) {
   random_.Goals = "1";
   Watch watch(window_);
   User::Click(window_, "halftime");
-  EXPECT_EQ(watch.Changed(Keyboard),
-            "Picture2 is described as Rovers 0, United 0, 00:00, The match is between Rovers and United; "
-            "Timer1 is running; halftime is disabled");
   Play(1);
-  EXPECT_EQ(watch.Changed(Keyboard),
-            "Inn1: 1; Label3: 01:00; List1(0) is described as; List1(0) offers 00:01 >> R5 (Rovers); "
-            "List1(0): 00:01 >> R5 (Rovers); Picture2 is described as Rovers 1, United 0, 01:00, ball with "
-            "Rovers in midfield, The players are celebrating; PosMet(0) is called Rovers, has the ball, "
-            "possession; PosMet(0) stands on #00ff00 in #000000; Shots1: 1");
+  EXPECT_EQ(
+      watch.Changed(Keyboard),
+      "Inn1: 1; Label3: 01:00; List1(0) is described as; List1(0) offers 00:01 >> R5 (Rovers); List1(0): "
+      "00:01 >> R5 (Rovers); Picture2 is described as Rovers 1, United 0, 01:00, ball with Rovers in "
+      "midfield, The players are celebrating; PosMet(0) is called Rovers, has the ball, possession; "
+      "PosMet(0) stands on #00ff00 in #000000; Shots1: 1; Timer1 is running; halftime is disabled");
   Play(44);
   EXPECT_EQ(watch.Changed(Keyboard),
             "Label3: 45:00; Picture2 is described as Rovers 1, United 0, 45:00, Here comes the half time "

@@ -159,39 +159,6 @@ TEST_F(PlayTest, ALeagueIsBuiltPlayedLeftAndFinishedOnAnotherDay) {
   Run(desktop_);
 }
 
-TEST_F(PlayTest, AKnockOutIsPlayedToItsChampion) {
-  AddTeams({"Dynamo"});
-  Remove("stadiums.sim");  // Played without any crowd.
-  Choose(Qt::Key_H, Qt::Key_C);
-  Choose(Qt::Key_H, Qt::Key_H);
-
-  Choose(Qt::Key_E, Qt::Key_C);
-  user_.In("LegEditor");
-  user_.Pick("Kind", 1);
-  user_.Type("KnockOutName", "Cup");
-  user_.Click("MoreTeams");
-  for (int team = 0; team < 4; ++team) user_.Click("KnockOutAddTeam");
-  user_.Click("KnockOutAutoFixtures");
-  user_.Click("KnockOutSave");
-  user_.Click("Exit");
-
-  random_.Later = {"2", "", "1"};
-  Choose(Qt::Key_P, Qt::Key_K);
-  user_.In("KnockSettings");
-  user_.Pick("To", 2);
-  user_.Click("Command1");
-  PlayInstant("Albion", "City");
-  PlayInstant("Borough", "Dynamo");
-  PlayInstant("City", "Borough");
-  user_.In("KnockSettings").Click("Command2");
-  Choose(Qt::Key_S, Qt::Key_K);
-  user_.In("KnockCharts").ExpectText("team(6)", "City").Click("Command3");
-  Run(desktop_);
-  const Texts told = desktop_.Taken();
-  EXPECT_EQ(told[0], "i: Read the file 'Help.htm' in your Kickwell folder for help.");
-  EXPECT_EQ(told[1], "i: Read the file 'History.txt' in your Kickwell folder for history.");
-}
-
 TEST_F(PlayTest, AStartTellsOfAJournalWithoutSense) {
   Write("unfinished.journal", "no journal of ours");
   Run(desktop_);

@@ -79,8 +79,9 @@ TEST_F(MatchWindowTest, StaysOpenUntilTheUserSaysYes) {
   desktop_.Yes = true;
   window_.close();
   EXPECT_EQ(watch.Changed(), "window is closed");
-  EXPECT_EQ(desktop_.Taken(), (Texts{"* loaded", "?: Do you really want to exit?",
-                                     "?: Do you really want to exit?", "?: Do you really want to exit?"}));
+  EXPECT_EQ(desktop_.Taken(),
+            (Texts{"* loaded", "? (No): Do you really want to exit?", "? (No): Do you really want to exit?",
+                   "? (No): Do you really want to exit?"}));
 }
 
 TEST_F(MatchWindowTest, FollowsTheShootOutKickByKick) {
@@ -132,7 +133,8 @@ TEST_F(MatchWindowTest, TheGoalsMakeRoomForTheInstantShootOutAndTheFactsStandInT
       watch.Changed("^(Enter|focus|Label[23])"),
       "Book1: 2; Corner1: 4; Corner2: 2; Foul1: 3; Foul2: 1; List1(0) is described as; List1(0) offers "
       "PENALTY SHOOT OUT! | R1 (Rovers) | R1 (Rovers) | R1 (Rovers) |  | Result: | The match was tied at 0-0 "
-      "| Rovers beats United 3-0 in PSO; List1(0): Rovers beats United 3-0 in PSO; Pen1 is enabled, bold; "
+      "| Rovers beats United 3-0 in PSO; List1(0): Rovers beats United 3-0 in PSO; Over is enabled; Pen1 is "
+      "enabled, bold; "
       "Pen1: (3); Pen2 is enabled, bold; Picture2 is described as Rovers 0, United 0, That's it, Rovers wins "
       "the match in a PSO; PosMet(0): 40%; PosMet(1): 60%; Shots2: 3; instant is disabled");
   EXPECT_EQ(before - left(), Twips(&window, 360));

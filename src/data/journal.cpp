@@ -93,6 +93,7 @@ FileResult Follow(const ProgramFolder& folder, const std::filesystem::path& jour
     if (!result.Ok() && !WasMade(folder, steps[made])) return result;
   }
   std::vector<std::filesystem::path> changed;
+  changed.reserve(steps.size());
   for (const Step& step : steps) changed.push_back(folder.Root / step.File);
   // What was set aside goes last, so that it is there until all else is on the disk.
   folder.Files().FlushFoldersOf(changed);
@@ -146,7 +147,7 @@ std::optional<ChangedFile> FromSetAside(const ProgramFolder& folder, std::string
   if (!text.starts_with(SetAsideLine)) return std::nullopt;
   text.remove_prefix(SetAsideLine.size());
   const auto takeLine = [&text] {
-    const std::string line(text.substr(0, text.find('\n')));
+    std::string line(text.substr(0, text.find('\n')));
     text.remove_prefix(std::min(line.size() + 1, text.size()));
     return line;
   };

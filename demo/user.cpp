@@ -122,12 +122,7 @@ User& User::Pick(const QString& combo, int entry) {
 }
 
 User& User::Type(const QString& box, const QString& text) {
-  return Do([box, text](QWidget& window) {
-    auto& edit = Find<QLineEdit>(window, box);
-    edit.setFocus();
-    edit.selectAll();
-    QTest::keyClicks(&edit, text);
-  });
+  return Do([box, text](QWidget& window) { Type(window, box, text); });
 }
 
 User& User::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
@@ -168,6 +163,19 @@ void User::Pick(QWidget& window, const QString& combo, int entry) {
   box.setFocus();
   QTest::keyClick(&box, Qt::Key_Home);
   for (int i = 0; i < entry; ++i) QTest::keyClick(&box, Qt::Key_Down);
+}
+
+void User::Select(QWidget& window, const QString& list, int row) {
+  auto& view = Find<QAbstractItemView>(window, list);
+  const QRect place = view.visualRect(view.model()->index(row, 0));
+  QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place.center());
+}
+
+void User::Type(QWidget& window, const QString& box, const QString& text) {
+  auto& edit = Find<QLineEdit>(window, box);
+  edit.setFocus();
+  edit.selectAll();
+  QTest::keyClicks(&edit, text);
 }
 
 void User::Choose(QWidget& window, Qt::Key menu, Qt::Key item) {

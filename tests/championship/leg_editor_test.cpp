@@ -47,19 +47,6 @@ class LegEditorTest : public ScreenTest {
   EditorSide &league_ = editor_.League, &knockOut_ = editor_.KnockOut;
 };
 
-TEST_F(LegEditorTest, TeamsMoveBetweenTheListsAndTheChoosers) {
-  Select(league_, 2);
-  league_.Home.Picked = 1;
-  league_.Selected.Picked = 0;
-  LegEditor::RemoveTeam_Click(league_);
-  EXPECT_EQ(league_.Available.PlaceOf("T100"), 0);
-  EXPECT_EQ(league_.Available.Text(), "T102");
-  for (const ItemList* list : {&league_.Selected, &league_.Home, &league_.Away})
-    EXPECT_EQ(list->Entries, Texts{"T101"});
-  EXPECT_EQ(league_.Selected.Text(), "T101");
-  EXPECT_EQ(league_.Home.Text(), "T101");  // Stays picked.
-}
-
 TEST_F(LegEditorTest, OnlyANewFileIsRefusedForItsName) {
   Write("Leagues/Aux.leg", "Aux\n2\nT100\nT101\n1\nNP\nT100\nT101\n");
   LegEditor editor = Open();

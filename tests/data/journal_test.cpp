@@ -32,12 +32,10 @@ TEST(JournalTest, IsIgnoredAndRenamedWhenItIsDamaged) {
   const std::string begin = "Kickwell journal 1\n", end = "End\n", line = Temporary + "\n";
   const std::string damaged[] = {
       "",
-      begin,
       begin + line + "Leagues/Top.rec\n",  // Cut short.
       begin + line + "Leagues/Top.rec\nEnd\nmore\n",
       line + "Leagues/Top.rec\n" + end,
       begin + line + "Teams/Top.rec\n" + end,  // No file of a championship.
-      begin + line + "Leagues/Top.txt\n" + end,
       begin + line + "Leagues/../Top.rec\n" + end,
       begin + line + "../Leagues/Top.rec\n" + end,
       begin + "-\nstadiums.sim\n" + end,

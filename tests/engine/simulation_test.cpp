@@ -87,14 +87,6 @@ TEST_F(SimulationTest, AGoalIsCelebratedAndRecorded) {
   EXPECT_EQ(s.Controls.Label3, "02:00");  // No longer "GOAL!".
 }
 
-TEST_F(SimulationTest, EachPossessionDrawGivesOneSideTheBall) {
-  const std::array sides = {1, 1, 2, 2, 1, 1, 2, 2, 1, 2};
-  for (int draw = 0; draw < Count(sides); ++draw) {
-    PlayQuietly(draw, 2000, {NoFoul, SamePossession});
-    EXPECT_EQ(s.BallSide, At(sides, draw)) << draw;
-  }
-}
-
 TEST_F(SimulationTest, AShotFromTheZoneBecomesACornerGoesWideOrIsSaved) {
   constexpr Draw FirstPlayer{6, 0}, Corner{3, 0}, WideShot{3, 1}, Save{3, 2};
   PlayQuietly(Side1Ball, 4079, {NoFoul, SamePossession});

@@ -25,25 +25,6 @@ class SetupTest : public ScreenTest {
   };
 };
 
-TEST_F(SetupTest, ATeamPickedOnOneSideMovesTheOtherSideOn) {
-  AddTeams({"A", "b", "C"});
-  Settings settings = OpenSettings();
-  settings.Combo1_Click(1);
-  EXPECT_EQ(settings.Combo2.Text(), "C");
-  settings.Combo1_Click(2);
-  EXPECT_EQ(settings.Combo2.Text(), "A");  // From the last entry to the first.
-  settings.Combo2_Click(2);
-  EXPECT_EQ(settings.Combo1.Text(), "A");
-}
-
-TEST_F(SetupTest, AShootOutNeedsExtraTime) {
-  Settings settings = OpenSettings();
-  settings.Check1_Click(true);
-  settings.Check2_Click(true);
-  settings.Check1_Click(false);
-  EXPECT_FALSE(settings.Check2 || settings.Check2Enabled);
-}
-
 TEST_F(SetupTest, AMatchNeedsTwoTeamsAndAVenue) {
   OpenSettings().Command1_Click();  // Not even the folders exist.
   AddTeams({"A"});

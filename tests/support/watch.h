@@ -1,18 +1,7 @@
 // What a window shows, as texts that a test compares.
 #pragma once
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QScrollBar>
-#include <QTextDocumentFragment>
-#include <QTimer>
+#include <QtWidgets>
 #include <map>
 #include <string>
 #include <utility>
@@ -43,17 +32,6 @@ class Watch {
       if (was != value && !change.contains(QRegularExpression(passedOver))) changes.append(change.trimmed());
     }
     return changes.join("; ").toStdString();
-  }
-
-  /// All that `control` showed at the last look.
-  std::string Of(const QString& control) const {
-    QStringList all;
-    for (const auto& [what, value] : picture_) {
-      const QString about = what.mid(control.size());
-      const bool own = what.startsWith(control) && (about.startsWith(':') || about.startsWith(' '));
-      if (own && !value.isEmpty()) all.append((about + " " + value).mid(1).trimmed());
-    }
-    return all.join("; ").toStdString();
   }
 
  private:

@@ -29,10 +29,17 @@ TEST_F(ProgramTest, AWindowOpensWhereItsUserLeftIt) {
   EXPECT_EQ(open({}), left);
 }
 
-TEST_F(ProgramTest, StatisticsAreThoseOfTheKindThatWasPlayed) {
+TEST_F(ProgramTest, StatisticsAreThoseOfTheKindThatWasPlayedAndComeToTheFrontWhenCalled) {
   AddTeams({"A", "B"});
   Write("Leagues/Cup.leg", "Cup\n2\nA\nB\n1\nNP\nA\nB\n");
   Write("Tournies/Cup.trn", "1\nCup\n2\nA\nB\nNP\nA\nB\nWinner 1\n");
+  App app(folder_.Folder, desktop_, random_);
+  const auto minimizeAndCall = [&app](QWidget& screen) {
+    QWidget* const menu = screen.parentWidget();
+    for (QWidget* const window : {menu, &screen}) window->setWindowState(Qt::WindowMinimized);
+    app.ComeToFront();
+    EXPECT_FALSE(menu->isMinimized() || screen.isMinimized());
+  };
   User user;
   for (const auto& [folder, kind, settings] : {std::tuple("Leagues", Qt::Key_L, "LegSettings"),
                                                std::tuple("Tournies", Qt::Key_K, "KnockSettings")}) {
@@ -43,27 +50,10 @@ TEST_F(ProgramTest, StatisticsAreThoseOfTheKindThatWasPlayed) {
     user.In("Opening").Choose(Qt::Key_S, Qt::Key_T);
     user.In("TopScorers").ExpectText("Player(1)", folder).Click("Command3");
     user.In("Opening").Choose(Qt::Key_S, Qt::Key_M);
-    user.In("LegResults").ExpectLines("List1", {folder}).Click("Command1");
+    user.In("LegResults").ExpectLines("List1", {folder}).Do(minimizeAndCall).Click("Command1");
   }
   user.In("Opening").Choose(Qt::Key_P, Qt::Key_X);
-  App app(folder_.Folder, desktop_, random_);
   app.Start();
-  user.Finish();
-}
-
-TEST_F(ProgramTest, ComesToTheFrontWithTheScreenInUse) {
-  App app(folder_.Folder, desktop_, random_);
-  app.Start();
-  User user;
-  user.In("Opening").Choose(Qt::Key_E, Qt::Key_S);
-  user.In("StadEditor").Do([&app](QWidget& window) {
-    QWidget* const menu = window.parentWidget();
-    for (QWidget* const minimized : {menu, &window}) minimized->setWindowState(Qt::WindowMinimized);
-    app.ComeToFront();
-    EXPECT_FALSE(menu->isMinimized() || window.isMinimized());
-  });
-  user.Click("Command3");
-  user.In("Opening").Choose(Qt::Key_P, Qt::Key_X);
   user.Finish();
 }
 

@@ -1,4 +1,4 @@
-// The rankings, the results and the chart; and how screens of championships report what can't be read.
+// The rankings, the results and the chart; and how screens report what can't be read.
 #include "championship/championship_play.h"
 #include "championship/knock_charts.h"
 #include "championship/leg_editor.h"
@@ -7,6 +7,8 @@
 #include "championship/top_scorers.h"
 #include "data/championship_store.h"
 #include "engine/pages.h"
+#include "setup/selection.h"
+#include "setup/settings.h"
 #include "support/screen_test.h"
 
 namespace kickwell {
@@ -20,6 +22,11 @@ class StatisticsTest : public ScreenTest {
   Ranking Table() { return StandingsTable(folder_.Folder, desktop_, "Top"); }
 
   KnockCharts Chart() { return {folder_.Folder, desktop_, "Cup"}; }
+  bool LineUpsCanPlay() {
+    Selection selection(folder_.Folder, desktop_, {}, MakeSetup());
+    selection.Timer1_Timer();
+    return selection.Command1Enabled;
+  }
   ChampionshipPlay Play() {
     return {ChampionshipKind::League, folder_.Folder, desktop_, [](auto&) {}, {}};
   }
@@ -108,6 +115,8 @@ TEST_F(StatisticsTest, AFileThatCannotBeReadIsReportedOnce) {
       {"Leagues/Top.lrs", [&] { EXPECT_FALSE(LegResults(folder_.Folder, desktop_, Top).Command2Enabled()); }},
       {"Tournies/Cup.trn", [&] { EXPECT_EQ(Chart().VisibleSlots, 0); }},
       {"Leagues/Top.leg", [&] { EXPECT_EQ(Play().Championships.Text(), ""); }},
+      {"stadiums.sim", [&] { EXPECT_EQ(Settings(folder_.Folder, desktop_, {}).Combo3.Count(), 0); }},
+      {"Teams/Rovers", [&] { EXPECT_FALSE(LineUpsCanPlay()); }},
       {"unfinished.journal", [&] { EXPECT_EQ(Play().Championships.Text(), ""); }}};
   for (const auto& [file, open] : screens) {
     const Texts message = {MakeUnreadable(file)};

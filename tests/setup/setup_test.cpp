@@ -68,16 +68,11 @@ TEST_F(SetupTest, TheFirstElevenAreShownWithTheirFiguresAndHandedOverInSlotOrder
   EXPECT_EQ(opened_[0].Team2Strength, 80);
 }
 
-TEST_F(SetupTest, OnlyElevenPlayersCanPlay) {
+TEST_F(SetupTest, NobodyCanPlayWithoutSquads) {
   Selection empty = OpenSelection();
-  empty.Command1_Click();  // Without squads all names are empty.
+  empty.Command1_Click();  // All names are empty.
   EXPECT_EQ(empty.Side1.Note, "There is no file \"Rovers\" in \"Teams\".");
-  Team rovers = MakeTeam("Rovers", "R");
-  rovers.Players.pop_back();
-  ASSERT_TRUE(SaveTeam(folder_.Folder, rovers).Ok());
-  OpenSelection().Command1_Click();  // Disabled.
-  EXPECT_EQ(desktop_.Taken(), (Texts{"!:  of Rovers has been selected more than once.",
-                                     "!: Rovers don't have enough players to play."}));
+  EXPECT_EQ(desktop_.Taken(), Texts{"!:  of Rovers has been selected more than once."});
 }
 
 TEST_F(SetupTest, TheLastPlayerChosenTwiceIsReported) {
@@ -119,16 +114,6 @@ TEST(LineUpFault, IsTheFirstInTheOrderOfTheRulesAndOfSideOneFirst) {
     EXPECT_EQ(LineUpFault(broken, "Home", broken, "Away"), rule->second + "Home.");
     next = broken;
   }
-}
-
-TEST_F(SetupTest, AFileThatCannotBeReadIsReportedOnce) {
-  AddTeams({"Rovers", "United"});
-  const Texts messages = {MakeUnreadable("stadiums.sim"), MakeUnreadable("Teams/United")};
-  OpenSettings();
-  Selection selection = OpenSelection();
-  selection.Command1_Click();
-  EXPECT_EQ(desktop_.Taken(), messages);
-  EXPECT_EQ(selection.Side2.Note, "");  // There is one.
 }
 
 }  // namespace

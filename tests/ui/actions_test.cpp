@@ -90,11 +90,10 @@ TEST_F(ActionsTest, TheSelectionShowsThePlayersOfEverySlotAndTheFigures) {
   window.show();
   Watch watch(window);
   EXPECT_TRUE(QTest::qWaitFor([&] { return User::TextOf(window, "Post2(0)") == "GK"; }));
-  EXPECT_EQ(
-      watch.Changed("\\(([1-9]|10)\\)|Combo2.* offers"),
-      "Combo2(0): U0; Command1 is disabled; Formation2: 4-4-2; Label15: 52; Label16: 80; Label17: 64; "
-      "Label18: 90; OSkill1: 75%; OSkill2: 75%; Post2(0): GK; Sk2(0): 90; Skill2: 70");  // Rovers are too few
-                                                                                         // to play.
+  EXPECT_EQ(desktop_.Taken(), Texts{"!: Rovers don't have enough players to play."});
+  EXPECT_EQ(watch.Changed("\\(([1-9]|10)\\)|Combo2.* offers"),
+            "Combo2(0): U0; Command1 is disabled; Formation2: 4-4-2; Label15: 52; Label16: 80; Label17: 64; "
+            "Label18: 90; OSkill1: 75%; OSkill2: 75%; Post2(0): GK; Sk2(0): 90; Skill2: 70");
   User::Pick(window, "Combo2(10)", 11);
   EXPECT_EQ(watch.Changed(),
             "Combo2(10): Sub; Formation2: 4-5-1; Label15: 54; Label17: 57; Post2(10): MFC; Sk2(10): 33; "
@@ -189,33 +188,33 @@ TEST_F(ActionsTest, TheTeamEditorShowsWhatIsOnDisk) {
   window.show();
   Watch watch(window);
   User::Pick(window, "Combo3", 3);
-  User::Select(window, "List1", 1);
-  for (int times = 0; times < 2; ++times) User::Click(window, "Command1");  // To the top, and not beyond.
-  EXPECT_EQ(watch.Changed(),
-            "Combo3: Dale; Label13: 50; Label14: 2; Label4: 63; Label5 tips Midfielder, centre; Label5: MFC; "
-            "List1 offers Di / MFC 63 / Di, Midfielder, centre, skill 63, in the line-up | Cy / FDR 62 / Cy, "
-            "Forward, right, skill 62, in the line-up; List1: Di");
-  for (int times = 0; times < 2; ++times) User::Click(window, "Command2");
+  for (int times = 0; times < 2; ++times) User::Click(window, "Command2");  // Down, and not beyond.
   User::Type(window, "Text2", "Em");
   User::Type(window, "Text4", "64");
   User::Pick(window, "Combo1", 2);
   User::Pick(window, "Combo2", 1);
   EXPECT_EQ(
       watch.Changed(),
-      "Combo1: DF; Combo2: R; List1 offers Cy / FDR 62 / Cy, Forward, right, skill 62, in the line-up | Di / "
-      "MFC 63 / Di, Midfielder, centre, skill 63, in the line-up; Text2: Em; Text4: 64; focus on Combo2");
+      "Combo1: DF; Combo2: R; Combo3: Dale; Label13: 50; Label14: 2; Label4: 62; Label5 tips Forward, right; "
+      "Label5: FDR; List1 offers Di / MFC 63 / Di, Midfielder, centre, skill 63, in the line-up | Cy / FDR "
+      "62 / Cy, Forward, right, skill 62, in the line-up; List1: Cy; Text2: Em; Text4: 64; focus on Combo2");
   User::Click(window, "Command8");
+  for (int times = 0; times < 3; ++times) User::Click(window, "Command1");  // To the top, and not beyond.
   EXPECT_EQ(watch.Changed(),
             "Combo1: FD; Combo2: L; Label14: 3; Label4: 64; Label5 tips Defender, right; Label5: DFR; List1 "
-            "offers more: Em / DFR 64 / Em, Defender, right, skill 64, in the line-up; List1: Em; Text2:; "
-            "Text4:; focus on Text2");
+            "offers Em / DFR 64 / Em, Defender, right, skill 64, in the line-up | Di / MFC 63 / Di, "
+            "Midfielder, centre, skill 63, in the line-up | Cy / FDR 62 / Cy, Forward, right, skill 62, in "
+            "the line-up; List1: Em; Text2:; Text4:");
+  User::Select(window, "List1", 2);
+  EXPECT_EQ(watch.Changed(),
+            "Label4: 62; Label5 tips Forward, right; Label5: FDR; List1: Cy; focus on List1");
   User::Type(window, "Text1", "Newcomers and more");
   User::Type(window, "Text5", "55");
   User::Click(window, "Command7");
   EXPECT_EQ(watch.Changed("^Text1 is described"),
             "Combo3 offers more: Newcomers and mo; Combo3: Newcomers and mo; Label13: 55; Label14: 0; "
             "Label4:; Label5 tips; Label5:; List1 is described as Add the first player of the team on the "
-            "right.; List1 offers; List1:");
+            "right.; List1 offers; List1:; focus on Text2");
   User::Click(window, "Command5");
   User::Click(window, "Command6");
   EXPECT_EQ(watch.Changed(), "Combo3 offers Albion | Borough | City | Dale; Combo3: Albion; Label13: 70");
@@ -232,11 +231,10 @@ TEST_F(ActionsTest, TheStadiumEditorShowsWhatIsOnDisk) {
   User::Type(window, "Text2", "Ayr");
   User::Type(window, "Text3", "200");
   User::Pick(window, "Combo1", 2);
-  EXPECT_EQ(watch.Changed(), "Combo1: Borough; Text1: Park; Text2: Ayr; Text3: 200; focus on Combo1");
   User::Click(window, "Command2");
-  EXPECT_EQ(watch.Changed(),
-            "Combo1: Neutral; Label8: 3; List1 offers more: Park / Ayr / Park, Ayr (200), Borough; List1: "
-            "Park; Text1:; Text2:; Text3:; focus on Text1");
+  EXPECT_EQ(
+      watch.Changed(),
+      "Label8: 3; List1 offers more: Park / Ayr / Park, Ayr (200), Borough; List1: Park; focus on Text1");
   User::Select(window, "List1", 0);
   User::Click(window, "Command1");
   EXPECT_EQ(watch.Changed(),
@@ -255,22 +253,16 @@ TEST_F(ActionsTest, TheChampionshipEditorShowsBothItsSides) {
   const char* const deletion = "Delete is ";  // Not of interest here.
   for (int team = 0; team < 2; ++team) User::Click(window, "LeagueAddTeam");
   User::Pick(window, "Home", 1);
-  EXPECT_EQ(watch.Changed(),
-            "Away offers Albion | Borough; Home offers Albion | Borough; Home: Borough; LeagueAvailable "
-            "offers City; LeagueAvailable: City; LeagueSelected is described as; LeagueSelected offers "
-            "Albion | Borough; LeagueSelected: Albion; LeagueTeamCount: 2; focus on Home");
-  User::Click(window, "LeagueRemoveTeam");
-  EXPECT_EQ(watch.Changed(),
-            "Away offers Borough; Home offers Borough; LeagueAvailable offers Albion | City; LeagueSelected "
-            "offers Borough; LeagueSelected: Borough; LeagueTeamCount: 1");  // The home team stays picked.
+  User::Click(window, "LeagueRemoveTeam");  // Albion; Borough stays the home team.
   User::Click(window, "LeagueAddTeam");
   User::Click(window, "LeagueAutoFixtures");
   User::Pick(window, "Away", 1);
   EXPECT_EQ(watch.Changed(),
-            "Away offers more: City; Away: City; Home offers more: City; LeagueAvailable offers Albion; "
-            "LeagueAvailable: Albion; LeagueFixtures is described as; LeagueFixtures offers Match 1: Borough "
-            "v City | Match 2: City v Borough; LeagueFixtures: Match 1: Borough v City; LeagueMatchCount: 2; "
-            "LeagueSelected offers more: City; LeagueTeamCount: 2; focus on Away");
+            "Away offers Borough | City; Away: City; Home offers Borough | City; Home: Borough; "
+            "LeagueAvailable offers Albion; LeagueFixtures is described as; LeagueFixtures offers Match 1: "
+            "Borough v City | Match 2: City v Borough; LeagueFixtures: Match 1: Borough v City; "
+            "LeagueMatchCount: 2; LeagueSelected is described as; LeagueSelected offers Borough | City; "
+            "LeagueSelected: Borough; LeagueTeamCount: 2; focus on Away");
   User::Click(window, "AddFixture");
   User::Type(window, "LeagueName", "New");
   User::Click(window, "LeagueSave");

@@ -39,20 +39,16 @@ TEST_F(MatchWindowTest, ShowsAGoalAndTheChangeOfEnds) {
       "midfield, The players are celebrating; PosMet(0) is called Rovers, has the ball, possession; "
       "PosMet(0) stands on #00ff00 in #000000; Shots1: 1; Timer1 is running; halftime is disabled");
   Play(44);
-  EXPECT_EQ(watch.Changed(Keyboard),
-            "Label3: 45:00; Picture2 is described as Rovers 1, United 0, 45:00, Here comes the half time "
-            "whistle; PosMet(0) is called Rovers, possession; PosMet(0) stands on #efefef in #000000; Timer1 "
-            "is stopped; halftime is enabled; halftime: &Normal Time 2nd Half");
   User::Click(window_, "halftime");
-  EXPECT_EQ(
-      watch.Changed(Keyboard),
-      "Book1 is called United, bookings; Book2 is called Rovers, bookings; Corner1 is called United, "
-      "corners; Corner2 is called Rovers, corners; Foul1 is called United, fouls; Foul2 is called Rovers, "
-      "fouls; Inn1 is called United, goals; Inn1: 0; Inn2 is called Rovers, goals; Inn2: 1; Picture2 is "
-      "described as United 0, Rovers 1, 45:00, Play for the 2nd half gets underway; PosMet(0) is called "
-      "United, possession; PosMet(1) is called Rovers, possession; Shots1 is called United, shots; Shots1: "
-      "0; Shots2 is called Rovers, shots; Shots2: 1; Timer1 is running; halftime is disabled; stripes are "
-      "#cf6c00 #2f7fe0 #cf6c00 #cf6c00 #2f7fe0 #2f7fe0; t1: United; t2: Rovers");
+  EXPECT_EQ(watch.Changed(Keyboard),
+            "Book1 is called United, bookings; Book2 is called Rovers, bookings; Corner1 is called United, "
+            "corners; Corner2 is called Rovers, corners; Foul1 is called United, fouls; Foul2 is called "
+            "Rovers, fouls; Inn1 is called United, goals; Inn1: 0; Inn2 is called Rovers, goals; Inn2: 1; "
+            "Label3: 45:00; Picture2 is described as United 0, Rovers 1, 45:00, Play for the 2nd half gets "
+            "underway; PosMet(0) is called United, possession; PosMet(0) stands on #efefef in #000000; "
+            "PosMet(1) is called Rovers, possession; Shots1 is called United, shots; Shots1: 0; Shots2 is "
+            "called Rovers, shots; Shots2: 1; halftime: &Normal Time 2nd Half; stripes are #cf6c00 #2f7fe0 "
+            "#cf6c00 #cf6c00 #2f7fe0 #2f7fe0; t1: United; t2: Rovers");
 }
 
 TEST_F(MatchWindowTest, ShowsTheListOfTheViewAndLeavesTheClockAlone) {

@@ -19,7 +19,7 @@ class Watch {
  public:
   explicit Watch(QWidget& window) : window_(window) { Look(); }
 
-  /// What is new since the last look, by control, for example "Inn1: 1 (Rovers, goals); kick is disabled",
+  /// What is new since the last look, by control, for example "Inn1: 1; kick is disabled",
   /// except for what `passedOver` matches. What changes in hidden controls is told when they are shown.
   std::string Changed(const char* passedOver = "^$") {
     const Picture before = picture_;
@@ -43,6 +43,7 @@ class Watch {
 
   void Look() {
     QCoreApplication::processEvents();
+    if (window_.isVisible()) Set("Enter", " presses", {});
     Set("window", " is", window_.isVisible() ? "open" : "closed");
     const QWidget* const focus = window_.focusWidget();
     if (focus != nullptr && !focus->inherits("QAbstractButton")) Set("focus", " on", focus->objectName());

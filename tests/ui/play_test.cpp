@@ -1,8 +1,6 @@
 // The program played through its real windows, boxes and dialogs.
 #include <QLineEdit>
-#include <QListWidget>
 #include <QtTest/QTest>
-#include <functional>
 
 #include "support/screen_test.h"
 #include "ui/app.h"

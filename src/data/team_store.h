@@ -10,6 +10,8 @@
 
 namespace kickwell {
 
+inline constexpr int LineUpSize = 11;  ///< Players of a team in a match.
+
 struct Player {
   std::string Name;
   std::string Skill;     ///< A whole number 1..99 as it was entered.

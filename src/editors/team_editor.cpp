@@ -13,7 +13,6 @@
 namespace kickwell {
 namespace {
 
-constexpr int SmallestSquad = 11;  ///< That a match can be played with.
 constexpr int FewestTeams = 2;
 
 }  // namespace
@@ -128,7 +127,7 @@ void TeamEditor::Command8_Click() {
 }
 
 void TeamEditor::Command6_Click() {
-  if (List1.Count() == SmallestSquad || List1.Count() == 0) {
+  if (List1.Count() == LineUpSize || List1.Count() == 0) {
     desktop_.Warn("You can't delete any more players.");
     return;
   }

@@ -1,5 +1,7 @@
 #include "engine/announcement.h"
 
+#include "data/championship.h"
+
 namespace kickwell {
 namespace {
 
@@ -55,7 +57,7 @@ void Announcement::PenResult() {
   } else {
     s.SummaryLine = "PSO was tied at " + ScoreText(s.Side1.Penalties, s.Side2.Penalties);
     AddLine(s.Commentary, "The match still remains undecided after the PSO");
-    s.ResultText = (random_.Int(2) == 0 ? s.Side1.Team : s.Side2.Team) + " (By Toss)";
+    s.ResultText = (random_.Int(2) == 0 ? s.Side1.Team : s.Side2.Team) + std::string(TossSuffix);
   }
   AddLine(s.Summary, s.SummaryLine);
   if (s.Setup.Mode == MatchMode::KnockOut) {

@@ -11,7 +11,7 @@
 
 namespace kickwell {
 
-inline constexpr int SlotCount = 11;
+inline constexpr int SlotCount = LineUpSize;
 
 /// From the own goal forward.
 enum class PositionLine { Goalkeeper, Defence, Midfield, Attack };

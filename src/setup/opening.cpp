@@ -19,7 +19,7 @@ void Opening::Choose(MatchMode mode) {
 
 void Opening::OpenScreen(const OpeningScreens::Open& screen) const {
   Changed();
-  if (screen) screen();
+  screen();
 }
 
 void Opening::MatchMenu_Click() {

@@ -9,7 +9,7 @@
 
 namespace kickwell {
 
-/// Each opens a screen over the menu and returns when it has closed. An empty one opens nothing.
+/// Each opens a screen over the menu and returns when it has closed.
 struct OpeningScreens {
   using Open = std::function<void()>;
   Open Settings, KnockSettings, LegSettings;
@@ -34,8 +34,6 @@ class Opening {
   void KnockChart_Click() { OpenScreen(screens_.KnockCharts); }
   void ReadMenu_Click();
   void HistMenu_Click();
-
-  const OpeningScreens& Screens() const { return screens_; }
 
   MatchMode Mode = MatchMode::Friendly;
   std::string ChampionshipName{NoChampionship};

@@ -12,14 +12,18 @@ bool ReversesText(QChar c) {
 
 }  // namespace
 
-QString Shown(std::string_view text) {
-  QString shown = ToQt(text);
-  for (QChar& c : shown) {
-    if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator) {
+QString WithoutBreaks(QString text) {
+  for (QChar& c : text) {
+    if (c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
       c = ' ';
-    } else if (ReversesText(c)) {
-      c = QChar::ReplacementCharacter;
-    }
+  }
+  return text;
+}
+
+QString Shown(std::string_view text) {
+  QString shown = WithoutBreaks(ToQt(text));
+  for (QChar& c : shown) {
+    if (ReversesText(c)) c = QChar::ReplacementCharacter;
   }
   return shown;
 }

@@ -10,6 +10,9 @@ inline QString ToQt(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// `text` with blanks for control characters and line breaks.
+QString WithoutBreaks(QString text);
+
 /// A text from the user's files as the screen shows it: control characters and line breaks become blanks, and
 /// U+FFFD replaces characters that would reverse the text next to them.
 QString Shown(std::string_view text);

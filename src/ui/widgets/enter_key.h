@@ -9,8 +9,8 @@ namespace kickwell {
 /// Whether `event` is a press of Enter, on the keypad or not.
 bool IsEnterPress(const QEvent& event);
 
-/// Takes Enter past the controls of `window`, to the section or the window around them. On some desktops the theme
-/// would let Enter open a drop-down list, tick a box or press a button by itself.
+/// Takes Enter past the controls of `window`, to the section or the window around them. On some desktops the
+/// theme would let Enter open a drop-down list, tick a box or press a button by itself.
 void TakeEnterPastControls(QWidget* window);
 
 }  // namespace kickwell

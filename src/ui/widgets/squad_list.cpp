@@ -9,11 +9,6 @@
 #include "ui/widgets/text_label.h"
 
 namespace kickwell {
-namespace {
-
-constexpr int LineUp = 11;
-
-}  // namespace
 
 SquadList::SquadList(const QString& objectName) : SteadyList(objectName) {
   LeaveRoomForSideTexts();
@@ -30,15 +25,15 @@ void SquadList::ShowSquad(const ItemList& names, const std::vector<Player>& play
     const QString told = (words.isEmpty() ? code : words) + ", skill " + skill;
     item(i)->setData(SideTextRole, code + "  " + skill);
     item(i)->setData(Qt::AccessibleTextRole,
-                     Shown(player.Name) + ", " + told + (i < LineUp ? ", in the line-up" : ""));
+                     Shown(player.Name) + ", " + told + (i < LineUpSize ? ", in the line-up" : ""));
     item(i)->setToolTip(PlainTip(told));
   }
 }
 
 void SquadList::paintEvent(QPaintEvent* event) {
   SteadyList::paintEvent(event);
-  if (count() <= LineUp) return;
-  const QRect last = visualItemRect(item(LineUp - 1));
+  if (count() <= LineUpSize) return;
+  const QRect last = visualItemRect(item(LineUpSize - 1));
   QPainter painter(viewport());
   painter.setPen(FaintText(palette()));
   painter.drawLine(0, last.bottom(), viewport()->width(), last.bottom());

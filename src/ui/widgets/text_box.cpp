@@ -10,15 +10,6 @@
 namespace kickwell {
 namespace {
 
-QString WithoutBreaks(QString text) {
-  for (QChar& c : text) {
-    const bool breaks =
-        c.category() == QChar::Other_Control || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
-    if (breaks) c = ' ';
-  }
-  return text;
-}
-
 /// The first `count` characters, as a reader counts them.
 QString FirstOf(const QString& text, qsizetype count) {
   const QList<uint> characters = text.toUcs4();

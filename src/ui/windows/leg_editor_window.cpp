@@ -18,10 +18,6 @@ namespace {
 constexpr int LongestName = 20;
 constexpr int UsualName = 22, FewestRows = 8;  ///< That a list of teams has room for, at least.
 
-bool IsLeague(const EditorSide& side) {
-  return side.Kind == ChampionshipKind::League;
-}
-
 template <typename Layout>
 Layout* Spaced(Layout* layout, int spacing) {
   layout->setSpacing(spacing);
@@ -83,7 +79,7 @@ void LegEditorWindow::OnActivate(QListWidget* list, QPushButton* move) {
 }
 
 QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
-  const QString prefix = IsLeague(side) ? "League" : "KnockOut";
+  const QString prefix = side.IsLeague() ? "League" : "KnockOut";
   widgets.Page = new QWidget;
   widgets.Page->setObjectName(prefix);
   widgets.Name = new TextBox(prefix + "Name", LongestName, side.Name);
@@ -94,8 +90,8 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
   auto* const columns = Spaced(new QGridLayout, BetweenGroups);
   columns->setHorizontalSpacing(BetweenHalves);
   columns->addLayout(
-      Beside(MakeCaption(IsLeague(side) ? "League:" : "Knock Out:", widgets.Name), widgets.Name), 0, 0);
-  widgets.Name->setAccessibleName(IsLeague(side) ? "Championship League" : "Championship Knock Out");
+      Beside(MakeCaption(side.IsLeague() ? "League:" : "Knock Out:", widgets.Name), widgets.Name), 0, 0);
+  widgets.Name->setAccessibleName(side.IsLeague() ? "Championship League" : "Championship Knock Out");
   columns->addWidget(widgets.Name->CutLine(), 1, 0, Qt::AlignRight);  // Below the sign.
   columns->addLayout(BuildTeams(widgets, side, prefix), 2, 0);
   widgets.LoadCaption = MakeCaption("Open / Load", widgets.Load);
@@ -106,7 +102,8 @@ QWidget* LegEditorWindow::BuildSide(SideWidgets& widgets, EditorSide& side) {
 
   auto* const layout = Spaced(new QVBoxLayout(widgets.Page), BetweenGroups);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->addWidget(Enlarged(MakeCaption(IsLeague(side) ? "League Details" : "Tournie Details"), FigureType));
+  layout->addWidget(
+      Enlarged(MakeCaption(side.IsLeague() ? "League Details" : "Tournie Details"), FigureType));
   layout->addLayout(columns, 1);
   widgets.Files = BuildFiles(side, prefix);
   return widgets.Page;
@@ -139,13 +136,13 @@ QLayout* LegEditorWindow::BuildTeams(SideWidgets& widgets, EditorSide& side, con
 
   auto* const grid = Spaced(new QGridLayout, InGroup);
   grid->addWidget(MakeCaption("Select Teams:", widgets.Available), 0, 0);
-  grid->addLayout(Figure(IsLeague(side) ? "Total teams in the League:" : "Total teams currently selected:",
+  grid->addLayout(Figure(side.IsLeague() ? "Total teams in the League:" : "Total teams currently selected:",
                          widgets.TeamCount),
                   0, 2, Qt::AlignLeft);
   grid->addWidget(widgets.Available, 1, 0);
   grid->addLayout(moves, 1, 1);
   grid->addWidget(widgets.Selected, 1, 2);
-  if (!IsLeague(side)) grid->addLayout(BuildNumberOfTeams(widgets), 2, 0, 1, 3);
+  if (!side.IsLeague()) grid->addLayout(BuildNumberOfTeams(widgets), 2, 0, 1, 3);
   grid->setRowStretch(1, 1);
   grid->setColumnStretch(0, 1);
   grid->setColumnStretch(2, 1);
@@ -175,7 +172,7 @@ QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, 
   auto* const captions = new QHBoxLayout;
   captions->addWidget(MakeCaption("Fixtures", widgets.Fixtures));
   captions->addStretch();
-  captions->addLayout(Figure(IsLeague(side) ? "Total matches in the League:" : "Total number of matches:",
+  captions->addLayout(Figure(side.IsLeague() ? "Total matches in the League:" : "Total number of matches:",
                              widgets.MatchCount));
   auto* const layout = Spaced(new QVBoxLayout, InGroup);
   layout->addLayout(captions);
@@ -185,7 +182,7 @@ QLayout* LegEditorWindow::BuildFixtures(SideWidgets& widgets, EditorSide& side, 
   widgets.FixtureNote->setWordWrap(true);
   layout->addWidget(widgets.FixtureNote);
   auto* const buttons = Spaced(new QHBoxLayout, InGroup);
-  if (IsLeague(side)) {
+  if (side.IsLeague()) {
     layout->addLayout(BuildPairing(widgets, side));
     QPushButton* const add = Button("AddFixture", "&Add &Fixture", [this] { editor_.AddFixture_Click(); });
     add->setShortcut(QKeySequence("Alt+F"));  // Alt+A is the other button's.
@@ -218,9 +215,9 @@ QWidget* LegEditorWindow::BuildFiles(EditorSide& side, const QString& prefix) {
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(MakeCaption("Save / Delete", nullptr));
   row->addSpacing(BetweenColumns - InGroup);
-  row->addWidget(Button(prefix + "Save", IsLeague(side) ? "&Save League" : "&Save Knock Out",
+  row->addWidget(Button(prefix + "Save", side.IsLeague() ? "&Save League" : "&Save Knock Out",
                         [this, &side] { editor_.Save_Click(side); }));
-  row->addWidget(Button(prefix + "Delete", IsLeague(side) ? "Delete &League" : "Delete &Knock Out",
+  row->addWidget(Button(prefix + "Delete", side.IsLeague() ? "Delete &League" : "Delete &Knock Out",
                         [this, &side] { editor_.Delete_Click(side); }));
   return files;
 }
@@ -263,7 +260,7 @@ void LegEditorWindow::ShowFixtures(const SideWidgets& widgets, const EditorSide&
   for (int i = 0; i < widgets.Fixtures->count(); ++i) {
     QListWidgetItem* const fixture = widgets.Fixtures->item(i);
     const bool fits = side.IsInPlay(i);
-    const QString note = fits ? QString() : IsLeague(side) ? "Not in the league" : "Not in the knock-out";
+    const QString note = fits ? QString() : side.IsLeague() ? "Not in the league" : "Not in the knock-out";
     fixture->setForeground(fits ? palette().color(QPalette::Text) : FaintText(palette()));
     fixture->setToolTip(note);
     fixture->setData(Qt::AccessibleTextRole, fixture->text() + (fits ? note : ", " + note));

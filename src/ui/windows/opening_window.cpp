@@ -62,39 +62,32 @@ OpeningWindow::OpeningWindow(Opening& opening) : opening_(opening) {
 }
 
 void OpeningWindow::BuildMenus() {
-  const auto add = [this](QMenu* menu, const char* name, const QString& caption, void (Opening::*action)(),
-                          bool available = true) {
+  const auto add = [this](QMenu* menu, const char* name, const QString& caption, void (Opening::*action)()) {
     QAction* const item = menu->addAction(caption);
     item->setObjectName(QLatin1String(name));
-    item->setEnabled(available);
     connect(item, &QAction::triggered, this, [this, action] {
       (opening_.*action)();
       Refresh();
     });
     return item;
   };
-  const OpeningScreens& screens = opening_.Screens();
-  const auto wired = [](const OpeningScreens::Open& open) { return static_cast<bool>(open); };
-
   QMenu* const play = menuBar()->addMenu("&Play");
-  add(play, "MatchMenu", "&Single Match", &Opening::MatchMenu_Click, wired(screens.Settings));
-  add(play, "KnockLoad", "&Knock Out", &Opening::KnockLoad_Click, wired(screens.KnockSettings));
-  add(play, "LegLoad", "&League", &Opening::LegLoad_Click, wired(screens.LegSettings));
+  add(play, "MatchMenu", "&Single Match", &Opening::MatchMenu_Click);
+  add(play, "KnockLoad", "&Knock Out", &Opening::KnockLoad_Click);
+  add(play, "LegLoad", "&League", &Opening::LegLoad_Click);
   play->addSeparator();
   add(play, "ExitMenu", "E&xit", &Opening::ExitMenu_Click);
 
   QMenu* const editors = menuBar()->addMenu("&Editors");
-  add(editors, "TeamMenu", "&Team Editor", &Opening::TeamMenu_Click, wired(screens.TeamEditor));
-  add(editors, "StadMenu", "&Stadium Editor", &Opening::StadMenu_Click, wired(screens.StadEditor));
-  add(editors, "LegMenu", "&Championship Editor", &Opening::LegMenu_Click, wired(screens.LegEditor));
+  add(editors, "TeamMenu", "&Team Editor", &Opening::TeamMenu_Click);
+  add(editors, "StadMenu", "&Stadium Editor", &Opening::StadMenu_Click);
+  add(editors, "LegMenu", "&Championship Editor", &Opening::LegMenu_Click);
 
   statistics_ = menuBar()->addMenu("&Statistics");
-  add(statistics_, "ScorerMenu", "&Top Scorers", &Opening::ScorerMenu_Click, wired(screens.TopScorers));
-  leagueMenu_ =
-      add(statistics_, "LeagueMenu", "&League Table", &Opening::LeagueMenu_Click, wired(screens.Table));
-  add(statistics_, "LegRes", "&Match Results", &Opening::LegRes_Click, wired(screens.LegResults));
-  knockChart_ = add(statistics_, "KnockChart", "&Knock Out Table", &Opening::KnockChart_Click,
-                    wired(screens.KnockCharts));
+  add(statistics_, "ScorerMenu", "&Top Scorers", &Opening::ScorerMenu_Click);
+  leagueMenu_ = add(statistics_, "LeagueMenu", "&League Table", &Opening::LeagueMenu_Click);
+  add(statistics_, "LegRes", "&Match Results", &Opening::LegRes_Click);
+  knockChart_ = add(statistics_, "KnockChart", "&Knock Out Table", &Opening::KnockChart_Click);
 
   QMenu* const help = menuBar()->addMenu("&Help");
   add(help, "ReadMenu", "&Contents", &Opening::ReadMenu_Click)->setShortcut(QKeySequence::HelpContents);

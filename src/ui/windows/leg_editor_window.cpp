@@ -57,8 +57,7 @@ LegEditorWindow::LegEditorWindow(LegEditor& editor, QWidget* parent)
   Page()->addLayout(kind);
   Page()->addWidget(BuildSide(league_, editor.League), 1);
   Page()->addWidget(BuildSide(knockOut_, editor.KnockOut), 1);
-  Page()->addWidget(unsaved_);
-  SetButtons({.Left = {league_.Files, knockOut_.Files}, .Right = {exit_}});
+  SetButtons({.Left = {league_.Files, knockOut_.Files}, .Right = {unsaved_, exit_}});
   Refresh();
   OpenAt(900, 640);
 }

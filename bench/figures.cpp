@@ -7,17 +7,13 @@
 namespace kickwell {
 namespace {
 
-std::string Text(const char* format, double number) {
+std::string TimeText(double seconds) {
   char text[64];
-  std::snprintf(text, sizeof text, format, number);
+  std::snprintf(text, sizeof text, "%.3g ms", seconds * 1e3);
   return text;
 }
 
-std::string TimeText(double seconds) {
-  return seconds < 0.9995e-3 ? Text("%.3g us", seconds * 1e6) : Text("%.3g ms", seconds * 1e3);
-}
-
-constexpr const char* Layout = "%-55s %10s %10s %8s  %s\n";
+constexpr const char* Layout = "%-55s %10s %10s %10s %s\n";
 
 }  // namespace
 
@@ -25,17 +21,13 @@ benchmark::internal::Benchmark* Figures::Register(const std::string& name, const
   return benchmark::RegisterBenchmark(name.c_str(), work);
 }
 
-void Figures::AtMost(const std::string& name, double times, const std::string& floor) {
-  rows_.push_back({name, floor, times});
-}
-
-void Figures::AtMostMilliseconds(const std::string& name, double milliseconds) {
-  rows_.push_back({name, {}, milliseconds});
+void Figures::AtMost(const std::string& name, double milliseconds, const std::string& floor) {
+  rows_.push_back({name, floor, milliseconds});
 }
 
 bool Figures::ReportContext(const Context& context) {
   PrintBasicContext(&std::cerr, context);
-  std::printf(Layout, "", "time", "floor", "ratio", "at most");
+  std::printf(Layout, "", "time", "floor", "at most", "");
   return true;
 }
 
@@ -51,14 +43,12 @@ void Figures::ReportRuns(const std::vector<Run>& runs) {
 void Figures::Finalize() {
   for (const Row& row : rows_) {
     const auto figure = seconds_.find(row.Name), floor = seconds_.find(row.Floor);
-    const bool compared = !row.Floor.empty();
-    if (figure == seconds_.end() || (compared && floor == seconds_.end())) continue;
-    const double kept = compared ? figure->second / floor->second : figure->second * 1e3;
-    const bool missed = kept > row.Most;
+    if (figure == seconds_.end()) continue;
+    const bool missed = figure->second * 1e3 > row.Most;
     Missed = Missed || missed;
     std::printf(Layout, row.Name.c_str(), TimeText(figure->second).c_str(),
-                compared ? TimeText(floor->second).c_str() : "", compared ? Text("%.2f", kept).c_str() : "",
-                (Text(compared ? "%.3g times" : "%.3g ms", row.Most) + (missed ? "  MISSED" : "")).c_str());
+                floor == seconds_.end() ? "" : TimeText(floor->second).c_str(),
+                TimeText(row.Most / 1e3).c_str(), missed ? "MISSED" : "");
   }
 }
 

@@ -18,9 +18,9 @@ class Figures : public benchmark::BenchmarkReporter {
 
   static benchmark::internal::Benchmark* Register(const std::string& name, const Work& work);
 
-  /// Demands that benchmark `name` takes at most `times` as long as benchmark `floor`.
-  void AtMost(const std::string& name, double times, const std::string& floor);
-  void AtMostMilliseconds(const std::string& name, double milliseconds);
+  /// Demands that benchmark `name` takes at most so many milliseconds. Shows beside it what benchmark `floor`
+  /// takes, the least that such work can cost.
+  void AtMost(const std::string& name, double milliseconds, const std::string& floor = {});
 
   bool ReportContext(const Context& context) override;
   void ReportRuns(const std::vector<Run>& runs) override;
@@ -30,9 +30,8 @@ class Figures : public benchmark::BenchmarkReporter {
 
  private:
   struct Row {
-    std::string Name;
-    std::string Floor;  ///< Empty when `Most` is in milliseconds.
-    double Most;
+    std::string Name, Floor;
+    double Most;  ///< In milliseconds.
   };
 
   std::vector<Row> rows_;

@@ -110,7 +110,7 @@ void AddScreen(Figures& figures, const std::string& name, Load load, Open open) 
       } while (!window->windowHandle()->isExposed());
     }
   });
-  figures.AtMostMilliseconds(name, 200);
+  figures.AtMost(name, 100);
 }
 
 /// Makes a window that needs nothing but its logic.

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "base/desktop.h"
-#include "engine/match_screen.h"
 #include "engine/recording.h"
 
 namespace kickwell {
@@ -32,12 +31,6 @@ class NoRecording : public Recording {
   void StoreResult(const MatchSession& /*session*/) override {}
   void StoreLeagueResult(const MatchSession& /*session*/) override {}
   void MatchLeft() override {}
-};
-
-class NoScreen : public MatchScreen {
- public:
-  void Refresh() override {}
-  void PauseFunction() override {}
 };
 
 }  // namespace kickwell

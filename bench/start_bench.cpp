@@ -39,7 +39,7 @@ bool AnyWindowIsShown() {
 void AddStartFigures(Figures& figures) {
   const std::string name = "From the program's start to its first window";
   Figures::Register(name, Start)->Iterations(1);
-  figures.AtMostMilliseconds(name, 500);
+  figures.AtMost(name, 200);
 }
 
 int RunAsStarted(int argc, char** argv) {

@@ -31,13 +31,11 @@ TEST(JournalTest, FinishesWhatItLists) {
 TEST(JournalTest, IsIgnoredAndRenamedWhenItIsDamaged) {
   const std::string begin = "Kickwell journal 1\n", end = "End\n", line = Temporary + "\n";
   const std::string damaged[] = {
-      "",
       begin + line + "Leagues/Top.rec\n",  // Cut short.
       begin + line + "Leagues/Top.rec\nEnd\nmore\n",
       line + "Leagues/Top.rec\n" + end,
       begin + "-\nstadiums.sim\n" + end,                 // No file of a championship.
       begin + "Teams/Top.rec\nLeagues/Top.rec\n" + end,  // No temporary file.
-      begin + "../" + line + "Leagues/Top.rec\n" + end,
   };
   const char* const files[] = {"Leagues/Top.rec", "Teams/Top.rec", "stadiums.sim"};
   for (const std::string& text : damaged) {
@@ -65,19 +63,16 @@ TEST(JournalTest, ChangesOnlyFilesOfChampionships) {
   EXPECT_TRUE(folder.Files.All().empty());
 }
 
-TEST(JournalTest, RefusesToDeleteAFolderBeforeAnythingHasChanged) {
+TEST(JournalTest, NeitherDeletesNorReplacesAFolder) {
   TestFolder folder;
+  const std::vector<ChangedFile> changes = {{"Leagues/Top.rec", "new"}, {"Leagues/Top.sco", {}}};
   folder.Write("Leagues/Top.sco/in the way", "");
-  EXPECT_EQ(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}, {"Leagues/Top.sco", {}}}).Failure,
+  EXPECT_EQ(ChangeFiles(folder.Folder, changes).Failure,
             "The file /kickwell/Leagues/Top.sco can't be deleted: It is not a file.");
-  EXPECT_EQ(folder.Files.All().size(), 1U);
-}
-
-TEST(JournalTest, IsNeverWrittenOverAFolderInItsPlace) {
-  TestFolder folder;
   folder.Write(Journal + "/in the way", "");
   EXPECT_FALSE(FinishChanges(folder.Folder).Ok());
-  EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}}).Ok());
+  folder.Remove("Leagues");
+  EXPECT_FALSE(ChangeFiles(folder.Folder, changes).Ok());
   EXPECT_EQ(folder.Files.All().size(), 1U);
 }
 

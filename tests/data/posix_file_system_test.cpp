@@ -128,13 +128,5 @@ TEST_F(PosixFileSystemTest, ReplacesNoFileThatIsProtected) {
   ASSERT_EQ(::setreuid(administrator ? 0 : static_cast<uid_t>(-1), static_cast<uid_t>(-1)), 0);
 }
 
-TEST(TextFileTest, NamesAnotherDiskAsTheReason) {
-  TestFolder folder;
-  folder.Files.FailAt = 1;
-  folder.Files.Failure = std::make_error_code(std::errc::cross_device_link);
-  EXPECT_EQ(ReplaceFile(folder.Files, folder / "file", "new", folder.Folder.Root).Failure,
-            "The file /kickwell/file can't be saved: Its folder is on another disk than the program.");
-}
-
 }  // namespace
 }  // namespace kickwell

@@ -29,7 +29,7 @@ TEST_F(StoresTest, ATeamOfAnyNameIsReadSavedAndDeletedButNoneIsMade) {
   EXPECT_EQ(team.Players, (std::vector<Player>{{"A", "60", "GK"}}));
   EXPECT_TRUE(SaveTeam(folder_, team).Ok());
   EXPECT_EQ(at_.Bytes("Teams/F.C."), AsWritten("50\nA\n60\nGK\nB\n61\n"));
-  at_.Write("Teams/F.C.", "50\nA\n60\nGK\n\n \n\n\n");  // Blank lines are no player.
+  at_.Write("Teams/F.C.", "50\nA\n60\nGK\n\n \n\n\n\n\n\n");  // Blank lines are no players.
   EXPECT_EQ(LoadTeam(folder_, "F.C.").Value, (Team{"F.C.", "50", {{"A", "60", "GK"}}}));
   EXPECT_TRUE(CreateTeam(folder_, "F.C.", "05").Ok());  // In its place.
   EXPECT_EQ(at_.Bytes("Teams/F.C."), AsWritten("05\n"));
@@ -68,43 +68,18 @@ TEST_F(StoresTest, ADamagedChampionshipGivesItsCompleteTeamsAndFixtures) {
             AsWritten("1\nCup\n2\nA\nB\nNP\nA\nB\nWinner 1\nNP\nA\n"));  // The rest is kept.
 }
 
-TEST_F(StoresTest, StandingsHaveARowForEveryTeam) {
+TEST_F(StoresTest, StandingsHaveARowForEveryTeamAndANewTeamsStandBehindAllRows) {
   at_.Write("Leagues/Top.rec",
             "A\n1x\n 1\n0\n0\n2\n1\n3\nB\n1");  // A figure is no number; B's row is cut short.
   const std::vector<StandingsRow> complete = {{"A", 0, 1, 0, 0, 2, 1, 3}, {"B", 1}, {"B"}};
   EXPECT_EQ(ReadStandings(folder_, Top, {"A", "B", "B"}).Value, complete);  // As often as it is listed.
   EXPECT_EQ(ReadStandings(folder_, Top, {"A"}).Value.size(), 1U);
-}
-
-TEST_F(StoresTest, ANewTeamsStandingsStandBehindAllRows) {
-  at_.Write("Leagues/Top.rec", "A\n1\n1\n0\n0\n2\n1\n3\nB\n1");
   at_.Files.Unreadable = {at_ / "Leagues/Top.rec"};
   EXPECT_FALSE(AppendStandings(folder_, Top, "C").Ok());
   at_.Files.Unreadable.clear();
   EXPECT_TRUE(AppendStandings(folder_, Top, "C").Ok());
   EXPECT_EQ(at_.Bytes("Leagues/Top.rec"),
-            AsWritten("A\n1\n1\n0\n0\n2\n1\n3\nB\n1\n0\n0\n0\n0\n0\n0\nC\n0\n0\n0\n0\n0\n0\n0\n"));
-}
-
-TEST_F(StoresTest, ScorersAreTheCompleteOnesAndTheRestIsKept) {
-  at_.Write("Leagues/Top.sco", "Ann\nA\nno\nBo\nB");
-  for (const char* scorer : {"Ann", "Cy"}) EXPECT_TRUE(AddGoals(folder_, Top, {scorer, "A", 1}).Result.Ok());
-  EXPECT_EQ(at_.Bytes("Leagues/Top.sco"), AsWritten("Ann\nA\n1\nCy\nA\n1\nBo\nB\n"));
-}
-
-TEST_F(StoresTest, ResultsStandBehindEachOtherWithAnEmptyLineBetween) {
-  const std::array<std::string, 5> block = {"1", "2", "3", "4", "5"};
-  at_.Write("Leagues/Top.lrs", "");
-  EXPECT_EQ(ChangedResults(folder_, Top, block).Value.Bytes, AsWritten("1\n2\n3\n4\n5\n"));
-  at_.Write("Leagues/Top.lrs", "a\n\nb");
-  EXPECT_EQ(ChangedResults(folder_, Top, block).Value.Bytes, AsWritten("a\n\nb\n\n1\n2\n3\n4\n5\n"));
-}
-
-TEST_F(StoresTest, SavingFinishesAnEarlierChangeFirst) {
-  at_.Write("~kickwell-7-1.tmp", "finished");
-  at_.Write(std::string(JournalName), "Kickwell journal 1\n~kickwell-7-1.tmp\nLeagues/Top.rec\nEnd\n");
-  EXPECT_TRUE(WriteChampionship(folder_, {Cup, {}, {}}).Ok());
-  EXPECT_EQ(at_.Bytes("Leagues/Top.rec"), "finished");
+            AsWritten("A\n1x\n 1\n0\n0\n2\n1\n3\nB\n1\n0\n0\n0\n0\n0\n0\nC\n0\n0\n0\n0\n0\n0\n0\n"));
 }
 
 TEST_F(StoresTest, NoNameLeadsOutOfTheFolder) {

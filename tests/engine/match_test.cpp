@@ -125,9 +125,13 @@ TEST_F(MatchTest, SavingAsksForANameAndTellsAFailure) {
   match.ComSave_Click();
   EXPECT_EQ(desktop_.ProposedName, "Rovers_United_Commentary");
   EXPECT_EQ(Bytes("page.htm"), Encode(CommentaryPage(match.Session())));
-  folder_.Files.Unreadable.insert(folder_ / "page.htm");
+  folder_.Files.FailAt = folder_.Files.Operations + 1;
+  folder_.Files.Failure = std::make_error_code(std::errc::cross_device_link);
   match.ComSave_Click();
-  EXPECT_EQ(desktop_.Taken(), Texts{"!: The file /kickwell/page.htm can't be saved: Permission denied."});
+  EXPECT_EQ(
+      desktop_.Taken(),
+      Texts{
+          "!: The file /kickwell/page.htm can't be saved: Its folder is on another disk than the program."});
   for (const char* guide : {"HELP", "Help/../Help.htm", "Help/page"}) {
     desktop_.SaveName = (folder_ / guide).string();
     match.ComSave_Click();

@@ -58,7 +58,7 @@ TEST_F(LegEditorTest, OnlyANewFileIsRefusedForItsName) {
   EXPECT_EQ(desktop_.Taken(),
             (Texts{"? (No): Do you want to overwrite Aux?", "?: Are you sure you want to add Div 1 res.?",
                    "!: Con can't be used as a file name."}));
-  EXPECT_TRUE(Exists("Leagues/Div 1 res..leg"));
+  EXPECT_EQ(editor.League.Load.Text(), "Div 1 res..leg");  // Which has been loaded again.
 }
 
 TEST_F(LegEditorTest, EveryRefusalHasItsMessage) {
@@ -91,7 +91,6 @@ TEST_F(LegEditorTest, EveryRefusalHasItsMessage) {
   editor.FewerTeams_Click();
   Select(knockOut, 1);
   editor.AutoFixtures_Click(knockOut);
-  knockOut.Selected.Picked = 0;
   LegEditor::RemoveTeam_Click(knockOut);
   editor.Save_Click(knockOut);  // The fixture's home team is not selected any more.
   editor.Load_Click(knockOut, 0);
@@ -160,15 +159,11 @@ TEST_F(LegEditorTest, FixturesOfATeamThatWasRemovedAreToldApart) {
   for (EditorSide* const side : {&league_, &knockOut_}) {
     Select(*side, 2);
     editor_.AutoFixtures_Click(*side);
-    side->Selected.Picked = 0;
     LegEditor::RemoveTeam_Click(*side);
-    EXPECT_FALSE(side->IsInPlay(0));
   }
   EXPECT_EQ(league_.FixtureNote(), "2 fixtures have a team that is not in the league" + advice);
   EXPECT_EQ(knockOut_.FixtureNote(), "1 fixture has a team that is not in the knock-out" + advice);
-  knockOut_.Table = {{"T101", "Winner 1"}, {"T101 (By Toss)", "T100"}};
-  EXPECT_TRUE(knockOut_.IsInPlay(0));
-  knockOut_.Selected.Add("T100");
+  knockOut_.Table = {{"T101", "Winner 1"}, {"T101 (By Toss)", "T101"}};
   EXPECT_EQ(knockOut_.FixtureNote(), "");
 }
 
@@ -194,27 +189,23 @@ TEST_F(LegEditorTest, TheLoadedChampionshipIsDeletedUnlessItIsTheLast) {
   LegEditor editor = Open();
   EditorSide& league = editor.League;
   editor.Load_Click(league, 2);
-  editor.Delete_Click(league);
-  EXPECT_EQ(league.Load.Text(), "A.leg");
-  editor.Delete_Click(league);  // The screen still shows C.
-  EXPECT_EQ(desktop_.Taken(), (Texts{"? (No): Are you sure you want to remove C.leg?",
-                                     "i: Please load a championship to delete"}));
-  editor.Load_Click(league, 1);
   league.Name = "A";  // The question names what is deleted.
-  desktop_.Yes = false;
+  for (const bool yes : {false, true}) {
+    desktop_.Yes = yes;
+    editor.Delete_Click(league);
+    EXPECT_NE(Exists("Leagues/C.leg"), yes);
+  }
+  editor.Delete_Click(league);  // The screen still shows C.
+  editor.Load_Click(league, 1);
   editor.Delete_Click(league);
-  EXPECT_TRUE(Exists("Leagues/B.leg"));
-  desktop_.Yes = true;
-  editor.Delete_Click(league);
-  EXPECT_FALSE(Exists("Leagues/B.leg"));
-  EXPECT_EQ(league.Load.Text(), "A.leg");
   editor.Delete_Click(league);
   league.Name = "";
   editor.Delete_Click(league);
-  EXPECT_EQ(desktop_.Taken(),
-            (Texts{"? (No): Are you sure you want to remove B.leg?",
-                   "? (No): Are you sure you want to remove B.leg?",
-                   "i: You can't delete any more championship", "i: Please load a championship to delete"}));
+  const std::string question = "? (No): Are you sure you want to remove ";
+  const std::string refusal = "i: Please load a championship to delete";
+  EXPECT_EQ(desktop_.Taken(), (Texts{question + "C.leg?", question + "C.leg?", refusal, question + "B.leg?",
+                                     "i: You can't delete any more championship", refusal}));
+  EXPECT_EQ(league.Load.Entries, Texts{"A.leg"});
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ class EditorsTest : public ScreenTest {
     EXPECT_TRUE(SaveStadiums(folder_.Folder, {{"A", "Mill", "Leat", "9"}}).Ok());
   }
 
-  TeamEditor OpenTeams(const std::string& league = "N/A") { return {folder_.Folder, desktop_, league}; }
+  TeamEditor OpenTeams() { return {folder_.Folder, desktop_, "Top"}; }
 
   // Each types something new, adds it and gives the messages.
   Texts AddTeam(TeamEditor& editor, const std::string& name, const std::string& skill) {
@@ -81,7 +81,7 @@ TEST_F(EditorsTest, TeamsAreAddedToTheStandingsAndDeletedDownToTwo) {
   const std::string row = "A\n1\n1\n0\n0\n2\n1\n3\n";
   Write("Leagues/Top.rec", row);
   Write("settings.cfg", "");
-  TeamEditor editor = OpenTeams("Top");
+  TeamEditor editor = OpenTeams();
   AddTeam(editor, "C", "05");
   EXPECT_EQ(editor.Label13(), "05");
   EXPECT_EQ(editor.List1.Count(), 0);
@@ -136,23 +136,17 @@ TEST_F(EditorsTest, AFileThatCannotBeReadIsReportedOnceAndKept) {
   Write("settings.cfg/in the way", "");  // Can't be deleted.
   teams.Command5_Click();                // A goes, and B can't take its place.
   EXPECT_EQ(teams.Combo3.Entries, (Texts{"B", "C"}));
+  AddPlayer(teams, "Ann", "5");
+  teams.Command1_Click();
+  teams.Command6_Click();
   EXPECT_EQ(teams.List1.Count(), 0);
+  EXPECT_FALSE(Exists("Teams/A"));  // Nothing brings it back.
+  Remove("Teams/C");
+  teams.Combo3_Click(1);
+  EXPECT_EQ(teams.Combo3.Text(), "");
   folder_.Files.Unreadable.clear();
   AddStadium(stadiums, "Park", "5");
   EXPECT_EQ(Bytes("stadiums.sim"), stadiumList);
-}
-
-TEST_F(EditorsTest, ADeletedTeamDoesNotComeBack) {
-  AddTeams({"C"});
-  TeamEditor editor = OpenTeams();
-  editor.Combo3_Click(1);
-  Remove("Teams/A");
-  editor.Command5_Click();  // B goes, and A can't take its place.
-  AddPlayer(editor, "Ann", "5");
-  editor.Command1_Click();
-  editor.Command6_Click();
-  EXPECT_EQ(editor.List1.Count(), 0);
-  EXPECT_EQ(ListTeams(folder_.Folder), Texts{"C"});
 }
 
 TEST_F(EditorsTest, WhatCannotBeSavedIsNotShown) {

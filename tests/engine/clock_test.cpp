@@ -75,9 +75,9 @@ TEST_F(ClockTest, AMatchEndsWhenItIsDecidedOrWithAGoldenGoalInItsSecond) {
       {true, 0, ExtraTimeSecondHalf, tied},
       {true, 90 * 60, SecondHalf, {"90:00 >> R5 (Rovers)", "", "Result:", rovers}},
       {true,
-       105 * 60,
+       100 * 60,
        ExtraTimeFirstHalf,
-       {"105:00 >> U5 (United)", golden, "", "Result:", "United beats Rovers 1-0"}},
+       {"100:00 >> U5 (United)", golden, "", "Result:", "United beats Rovers 1-0"}},
       {true, 120 * 60, ExtraTimeSecondHalf, {"120:00 >> R5 (Rovers)", golden, "", "Result:", rovers}},
   };
   for (const Ending& ending : endings) {

@@ -54,16 +54,11 @@ TEST_F(ShootOutTest, AKickShowsWhatItIs) {
   EXPECT_EQ(controls.Label3, "GOAL!");
   EXPECT_EQ(controls.Shape2, (SpotPoint{1200, 0}));
   EXPECT_EQ(controls.penalty[1].Colour, Lamp::Green);
-  shootOut_.nextshot_Click();
-  Miss(0, 0, 0, 0);
-  shootOut_.kick_Click();
-  EXPECT_EQ(controls.Shape2, (SpotPoint{1040, 0}));  // The other side of the goal.
-  EXPECT_EQ(desktop_.Taken(), (Texts{"* boo", "* goal", "* boo"}));
+  EXPECT_EQ(desktop_.Taken(), (Texts{"* boo", "* goal"}));
   EXPECT_EQ(s.Summary.Entries, Texts{"U3 (United)"});
   EXPECT_EQ(s.Commentary.Entries,
             (Texts{"R6 steps up for Rovers", "He shoots and...", "What a brilliant save there by the keeper",
-                   "U3 steps up for United", "He shoots and...", "It's gone straight into the top corner",
-                   "R1 steps up for Rovers", "He shoots and...", "It's gone straight over the bar"}));
+                   "U3 steps up for United", "He shoots and...", "It's gone straight into the top corner"}));
 }
 
 TEST_F(ShootOutTest, EndsAsSoonAsItIsDecidedOrWithAToss) {

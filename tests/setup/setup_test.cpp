@@ -73,6 +73,9 @@ TEST_F(SetupTest, NobodyCanPlayWithoutSquads) {
   empty.Command1_Click();  // All names are empty.
   EXPECT_EQ(empty.Side1.Note, "There is no file \"Rovers\" in \"Teams\".");
   EXPECT_EQ(desktop_.Taken(), Texts{"!:  of Rovers has been selected more than once."});
+  const Texts message = {MakeUnreadable("Teams/Rovers")};
+  EXPECT_FALSE(OpenSelection().Command1Enabled);
+  EXPECT_EQ(desktop_.Taken(), message);
 }
 
 TEST_F(SetupTest, TheLastPlayerChosenTwiceIsReported) {

@@ -34,12 +34,9 @@ class ChampionshipPlayTest : public ScreenTest {
 
 TEST_F(ChampionshipPlayTest, OffersAndPlaysTheFixturesOfALeague) {
   Write("Leagues/Short.leg", "Short\n2\nA\nB\n1\nNP\nB\nA\n");
-  Write("Leagues/Toss.leg", "Toss\n2\nA\nB (By Toss)\n1\nNP\nA\nB (By Toss)\n");
   Write("Leagues/Top.leg", "Top\n2\nA\nB\n3\nNP\nA\nB\nx\nB\nA\nNP\nA\nB\n");
   ChampionshipPlay play = Open(League);
   EXPECT_EQ(play.To.Text(), "1");
-  play.Championships_Click(2);
-  EXPECT_EQ(Play(play, 1, 1), Texts{"Match 1: A v B (By Toss)"});  // A league has no tosses.
   play.Championships_Click(1);
   EXPECT_EQ(play.To.Text(), "2");
   EXPECT_EQ(play.FixtureList.Entries, (Texts{"Match 1: A v B", "Match 2: B v A", "Match 3: A v B"}));
@@ -80,16 +77,14 @@ TEST_F(ChampionshipPlayTest, WhatIsRecordedInPartIsNotPlayedAgain) {
   Write("Leagues/Top.leg", "Top\n2\nA\nB\n2\nNP\nA\nB\nNP\nB\nA\n");
   ChampionshipPlay play = Open(League);
   WhilePlayed = [this] {
-    Write("~kickwell-7-1.tmp", "");
-    Write("~kickwell-7-2.tmp", "Top\n2\nA\nB\n2\nP\nA\nB\nNP\nB\nA\n");
-    Write("unfinished.journal",
-          "Kickwell journal 1\n~kickwell-7-1.tmp\nLeagues/Top.rec\n"
-          "~kickwell-7-2.tmp\nLeagues/Top.leg\nEnd\n");
-    Write("Leagues/Top.rec/in the way", "");
+    Remove("Leagues/Top.leg");
+    Write("Leagues/Top.leg/in the way", "");
+    Write("~kickwell-7-1.tmp", "Top\n2\nA\nB\n2\nP\nA\nB\nNP\nB\nA\n");
+    Write("unfinished.journal", "Kickwell journal 1\n~kickwell-7-1.tmp\nLeagues/Top.leg\nEnd\n");
   };
   EXPECT_EQ(Play(play, 1, 2), Texts{"Match 1: A v B"});
-  EXPECT_EQ(desktop_.Taken(), Texts{"!: The file /kickwell/Leagues/Top.rec can't be saved: Is a directory."});
-  Remove("Leagues/Top.rec");
+  EXPECT_EQ(desktop_.Taken(), Texts{"!: The file /kickwell/Leagues/Top.leg can't be saved: Is a directory."});
+  Remove("Leagues/Top.leg");
   EXPECT_EQ(Play(play, 1, 2), Texts{"Match 2: B v A"});
   EXPECT_EQ(desktop_.Taken(), Texts{"i: Match 1 has been played already"});
 }

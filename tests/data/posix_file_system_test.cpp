@@ -39,7 +39,7 @@ class PosixFileSystemTest : public testing::Test {
   DiskFolder folder_;
 };
 
-TEST_F(PosixFileSystemTest, TellsWhatThereIsAndReadsOnlyWhatCanBeAFileOfTheProgram) {
+TEST_F(PosixFileSystemTest, TellsWhatThereIsAndWhyItCannotBeReadSavedOrDeleted) {
   folder_.Write("file", "text");
   fs::create_directory(folder_ / "folder");
   fs::create_symlink("nowhere", folder_ / "broken link");
@@ -56,6 +56,14 @@ TEST_F(PosixFileSystemTest, TellsWhatThereIsAndReadsOnlyWhatCanBeAFileOfTheProgr
   EXPECT_EQ(Read("file/within"), std::errc::no_such_file_or_directory);
   EXPECT_EQ(Read("folder"), std::errc::is_a_directory);
   EXPECT_EQ(Read("broken link"), std::errc::no_link);
+  const auto begins = [this](const char* file) { return "The file " + (folder_ / file).string(); };
+  EXPECT_EQ(Save("folder", "").Failure, begins("folder") + " can't be saved: Is a directory.");
+  EXPECT_EQ(Save("file/within", "").Failure, begins("file/within") + " can't be saved: Not a directory.");
+  EXPECT_EQ(Save("broken link", "").Failure,
+            begins("broken link") + " can't be saved: It is a link to a file that is not there.");
+  EXPECT_EQ(DeleteFile(folder_.Files, folder_ / "folder").Failure,
+            begins("folder") + " can't be deleted: Is a directory.");
+  EXPECT_TRUE(DeleteFile(folder_.Files, folder_ / "missing").Ok());
   fs::resize_file(folder_ / "file", (1 << 28) + 1);
   EXPECT_EQ(Read("file"), std::errc::file_too_large);
   ASSERT_EQ(::mkfifo((folder_ / "pipe").c_str(), 0600), 0);
@@ -82,20 +90,6 @@ TEST_F(PosixFileSystemTest, FlushesAFileBeforeItsRenamingAndTheFolderAfterIt) {
   EXPECT_FALSE(folder_.Files.Replace(folder_ / "temporary", folder_ / "file"));
   folder_.Files.FlushFoldersOf({folder_ / "file"});
   EXPECT_EQ(flushes, 2);
-}
-
-TEST_F(PosixFileSystemTest, SaysWhyAFileCannotBeSavedOrDeleted) {
-  folder_.Write("file", "old");
-  fs::create_directory(folder_ / "folder");
-  fs::create_symlink("missing", folder_ / "link");
-  const auto begins = [this](const char* file) { return "The file " + (folder_ / file).string(); };
-  EXPECT_EQ(Save("folder", "").Failure, begins("folder") + " can't be saved: Is a directory.");
-  EXPECT_EQ(Save("file/within", "").Failure, begins("file/within") + " can't be saved: Not a directory.");
-  EXPECT_EQ(Save("link", "").Failure,
-            begins("link") + " can't be saved: It is a link to a file that is not there.");
-  EXPECT_EQ(DeleteFile(folder_.Files, folder_ / "folder").Failure,
-            begins("folder") + " can't be deleted: Is a directory.");
-  EXPECT_TRUE(DeleteFile(folder_.Files, folder_ / "missing").Ok());
 }
 
 TEST_F(PosixFileSystemTest, AFullDiskLeavesTheOldFileAndNothingElse) {

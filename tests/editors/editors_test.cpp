@@ -57,7 +57,7 @@ TEST_F(EditorsTest, WhatIsTypedIsCheckedInOrder) {
   EXPECT_EQ(AddStadium(stadiums, "Mill", "5"), Texts{"i: Mill already exists"});
 }
 
-TEST_F(EditorsTest, NothingChangesUnlessTheUserSaysYes) {
+TEST_F(EditorsTest, NothingChangesUnlessTheUserSaysYesAndTheLastStadiumStays) {
   AddTeams({"C"});
   TeamEditor teams = OpenTeams();
   StadEditor stadiums(folder_.Folder, desktop_);
@@ -75,6 +75,13 @@ TEST_F(EditorsTest, NothingChangesUnlessTheUserSaysYes) {
                                      "? (No): Are you sure you want to delete Twelfth?",
                                      "? (No): Are you sure you want to remove Park?"}));
   EXPECT_EQ(folder_.Files.All(), before);
+  desktop_.Yes = true;
+  Write("settings.cfg", "");
+  stadiums.Command1_Click();
+  stadiums.Command1_Click();
+  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("1\nA\nMill\nLeat\n9\n"));
+  EXPECT_FALSE(Exists("settings.cfg"));
+  EXPECT_EQ(desktop_.Taken().back(), "!: You can't delete any more stadium.");
 }
 
 TEST_F(EditorsTest, TeamsAreAddedToTheStandingsAndDeletedDownToTwo) {
@@ -111,17 +118,6 @@ TEST_F(EditorsTest, PlayersAreDeletedDownToElevenOrFromFewerToNone) {
   few.Command6_Click();
   EXPECT_EQ(desktop_.Taken().back(), "!: You can't delete any more players.");
   EXPECT_EQ(few.List1.Count(), 0);
-}
-
-TEST_F(EditorsTest, StadiumsAreRemovedDownToOne) {
-  StadEditor editor(folder_.Folder, desktop_);
-  AddStadium(editor, "Bowl", "99999");
-  Write("settings.cfg", "");
-  editor.Command1_Click();
-  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("1\nA\nMill\nLeat\n9\n"));
-  EXPECT_FALSE(Exists("settings.cfg"));
-  editor.Command1_Click();
-  EXPECT_EQ(desktop_.Taken().back(), "!: You can't delete any more stadium.");
 }
 
 TEST_F(EditorsTest, AFileThatCannotBeReadIsReportedOnceAndKept) {

@@ -21,6 +21,8 @@ TEST(Fixtures, AreAKnockOutWhenEveryEntryIsStillIn) {
   EXPECT_FALSE(IsKnockOut({"A", "B"}, {{"A", "Winner 1"}}));  // Waits for itself.
   EXPECT_FALSE(IsKnockOut({"A", "B"}, {{"A", "B"}, {"A", "B"}}));
   EXPECT_FALSE(IsKnockOut({"A", "A"}, {{"A", "A"}}));
+  for (const char* team : {"Winner", "Winner 0", "Winner -1", "Winner 01", "Winner 1 ", "winner 1"})
+    EXPECT_EQ(PlaceholderNumber(team), 0) << team;
 }
 
 class LegEditorTest : public ScreenTest {

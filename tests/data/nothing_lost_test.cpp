@@ -1,5 +1,5 @@
 // Nothing that users keep is lost: whatever changes files is stopped, cut off from power and made to fail at
-// each of its operations.
+// each of its operations; and what the journal does that makes this so.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,6 +9,7 @@
 
 #include "championship/championship_play.h"
 #include "data/championship_store.h"
+#include "data/journal.h"
 #include "data/text_file.h"
 #include "engine/announcement.h"
 #include "engine/file_recording.h"
@@ -45,37 +46,23 @@ constexpr int ForEver = std::numeric_limits<int>::max();
 
 const ChampionshipId League{ChampionshipKind::League, "Cup"}, KnockOut{ChampionshipKind::KnockOut, "Cup"};
 
-/// A match of the season in which Ann and Bo have scored.
-struct PlayedMatch {
-  PlayedMatch(const ProgramFolder& folder, MatchMode mode)
-      : Session(MakeSession(mode, 2, 0)), Recording(folder, Desktop, [](const std::string&) {}) {
-    Session.LastScoringTeam = "Rovers";
-    for (const char* scorer : {"Ann", "Bo"}) {
-      Session.LastScorer = scorer;
-      Recording.StoreScorer(Session);
-    }
+enum class Ending { Recorded, Left };
+
+/// A match of the season in which Ann and Bo score. Fails with what the user is told.
+FileResult Play(const ProgramFolder& folder, MatchMode mode, Ending ending) {
+  MatchSession session = MakeSession(mode, 2, 0);
+  session.LastScoringTeam = "Rovers";
+  FakeDesktop desktop;
+  FileRecording recording(folder, desktop, [](const std::string&) {});
+  for (const char* scorer : {"Ann", "Bo"}) {
+    session.LastScorer = scorer;
+    recording.StoreScorer(session);
   }
-
-  /// Fails with what the user is told.
-  FileResult Told() const { return {Desktop.Messages.empty() ? "" : Desktop.Messages.front()}; }
-
-  MatchSession Session;
-  FakeDesktop Desktop;
-  FileRecording Recording;
-};
-
-FileResult RecordMatch(const ProgramFolder& folder, MatchMode mode) {
-  PlayedMatch match(folder, mode);
   QuietRandom random;
-  Announcement(match.Session, random, match.Recording).ShowResult();
-  EXPECT_LE(match.Desktop.Messages.size(), 1U);
-  return match.Told();
-}
-
-FileResult LeaveMatch(const ProgramFolder& folder, MatchMode mode) {
-  PlayedMatch match(folder, mode);
-  match.Recording.MatchLeft();
-  return match.Told();
+  if (ending == Ending::Recorded) Announcement(session, random, recording).ShowResult();
+  if (ending == Ending::Left) recording.MatchLeft();
+  EXPECT_LE(desktop.Messages.size(), 1U);
+  return {desktop.Messages.empty() ? "" : desktop.Messages.front()};
 }
 
 /// Everything that changes what users keep.
@@ -83,15 +70,15 @@ struct Change {
   const char* Name;
   std::function<FileResult(const ProgramFolder& folder)> Make;
 };
-const Change LeagueMatch{"league match",
-                         [](const auto& folder) { return RecordMatch(folder, MatchMode::League); }};
+const Change LeagueMatch{
+    "league match", [](const auto& folder) { return Play(folder, MatchMode::League, Ending::Recorded); }};
 const Change ReplacedLeague{"replaced league", [](const auto& folder) {
                               return ReplaceChampionship(folder, {League, {"Rovers"}, {}});
                             }};
 const Change Changes[] = {
     LeagueMatch,
     ReplacedLeague,
-    {"cup match", [](const auto& folder) { return RecordMatch(folder, MatchMode::KnockOut); }},
+    {"cup match", [](const auto& folder) { return Play(folder, MatchMode::KnockOut, Ending::Recorded); }},
     {"team", [](const auto& folder) { return CreateTeam(folder, "Rovers", "50"); }},
     {"deleted cup", [](const auto& folder) { return DeleteChampionship(folder, KnockOut); }},
 };
@@ -217,7 +204,8 @@ TEST(NothingLost, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
 
 TEST(NothingLost, AMatchThatIsLeftLeavesNothing) {
   for (const MatchMode mode : {MatchMode::League, MatchMode::KnockOut}) {  // With goals before, and without.
-    const Change leftMatch{"left match", [mode](const auto& folder) { return LeaveMatch(folder, mode); }};
+    const Change leftMatch{"left match",
+                           [mode](const auto& folder) { return Play(folder, mode, Ending::Left); }};
     EXPECT_EQ(After(leftMatch), Before);
     for (const Files& end : AfterPowerCuts(leftMatch)) EXPECT_EQ(end, Before);
     for (int failAt = 1; StoppedAt(failAt, leftMatch); ++failAt) {
@@ -269,6 +257,82 @@ TEST(NothingLost, NothingBuildsOnAnUnfinishedChange) {
   season.Remove("Leagues/Cup.rec");
   EXPECT_TRUE(WriteChampionship(season.Folder, {KnockOut, {}, {}}).Ok());  // Finishes that change first.
   EXPECT_EQ(season.Bytes("Leagues/Cup.rec"), AsWritten("new\n"));
+}
+
+const std::string Journal(JournalName);
+const std::string Temporary = "~kickwell-7-1.tmp";  ///< Of a process that has ended.
+
+TEST(JournalTest, FinishesWhatItLists) {
+  TestFolder folder;
+  folder.Write("Leagues/Top.rec", "old");
+  folder.Write("Leagues/Top.sco", "old");
+  folder.Write(Temporary, "new");
+  folder.Write(Journal, "Kickwell journal 1\n" + Temporary + "\nLeagues/Top.rec\n" +
+                            "~kickwell-7-2.tmp\nLeagues/Top.leg\n"  // This renaming was made before.
+                            "-\nLeagues/Top.sco\nEnd\n");
+  EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "later"}}).Ok());
+  EXPECT_TRUE(FinishChanges(folder.Folder).Ok());
+  EXPECT_EQ(folder.Bytes("Leagues/Top.rec"), "new");
+  EXPECT_FALSE(folder.Exists("Leagues/Top.sco"));
+  EXPECT_FALSE(folder.Exists(Journal));
+  EXPECT_TRUE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "later"}}).Ok());
+  EXPECT_EQ(folder.Bytes("Leagues/Top.rec"), "later");
+}
+
+TEST(JournalTest, IsIgnoredAndRenamedWhenItIsDamaged) {
+  const std::string begin = "Kickwell journal 1\n", end = "End\n", line = Temporary + "\n";
+  const std::string damaged[] = {
+      begin + line + "Leagues/Top.rec\n",  // Cut short.
+      begin + line + "Leagues/Top.rec\nEnd\nmore\n",
+      line + "Leagues/Top.rec\n" + end,
+      begin + "-\nstadiums.sim\n" + end,                 // No file of a championship.
+      begin + "Teams/Top.rec\nLeagues/Top.rec\n" + end,  // No temporary file.
+  };
+  const char* const files[] = {"Leagues/Top.rec", "Teams/Top.rec", "stadiums.sim"};
+  for (const std::string& text : damaged) {
+    SCOPED_TRACE(text);
+    TestFolder folder;
+    for (const char* file : files) folder.Write(file, "old");
+    folder.Write(Temporary, "new");
+    folder.Write("unfinished.bad", "an earlier one");
+    folder.Write(Journal, text);
+    EXPECT_EQ(
+        FinishChanges(folder.Folder).Failure,
+        "The file /kickwell/unfinished.journal is damaged. It was ignored and renamed to unfinished-2.bad.");
+    EXPECT_EQ(folder.Bytes("unfinished-2.bad"), text);
+    for (const char* file : files) EXPECT_EQ(folder.Bytes(file), "old");
+    EXPECT_TRUE(FinishChanges(folder.Folder).Ok());
+  }
+}
+
+TEST(JournalTest, ChangesOnlyFilesOfChampionshipsAndNoFolder) {
+  TestFolder folder;
+  for (const char* file : {"Teams/A.rec", "Leagues/../A.rec", "Leagues/A", "Leagues/A\nB.rec"})
+    EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "new"}, {file, "new"}}).Ok()) << file;
+  const std::vector<ChangedFile> changes = {{"Leagues/Top.rec", "new"}, {"Leagues/Top.sco", {}}};
+  folder.Write("Leagues/Top.sco/in the way", "");
+  EXPECT_EQ(ChangeFiles(folder.Folder, changes).Failure,
+            "The file /kickwell/Leagues/Top.sco can't be deleted: It is not a file.");
+  folder.Write(Journal + "/in the way", "");
+  EXPECT_FALSE(FinishChanges(folder.Folder).Ok());
+  folder.Remove("Leagues");
+  EXPECT_FALSE(ChangeFiles(folder.Folder, changes).Ok());
+  EXPECT_EQ(folder.Files.All().size(), 1U);
+}
+
+TEST(JournalTest, AStartDeletesTemporaryFilesThatNobodyNeeds) {
+  TestFolder folder;
+  const std::string own = TemporaryName(folder.Files, 1), mine = "my.tmp", alike = "~kickwell-mine.tmp";
+  for (const std::string& file : {Temporary, own, mine, alike}) folder.Write(file, "x");
+  folder.Write("Leagues/Top.rec/in the way", "");
+  folder.Write(Journal, "Kickwell journal 1\n" + Temporary + "\nLeagues/Top.rec\nEnd\n");
+  EXPECT_FALSE(CleanUp(folder.Folder).Ok());
+  EXPECT_TRUE(folder.Exists(Temporary));  // The journal needs it.
+  folder.Remove("Leagues");
+  folder.Remove(Journal);
+  EXPECT_TRUE(CleanUp(folder.Folder).Ok());
+  EXPECT_FALSE(folder.Exists(Temporary));
+  for (const std::string& file : {own, mine, alike}) EXPECT_TRUE(folder.Exists(file)) << file;
 }
 
 }  // namespace

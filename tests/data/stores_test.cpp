@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "data/championship_store.h"
-#include "data/knock_out.h"
 #include "data/stadium_store.h"
 #include "data/team_store.h"
 #include "support/folders.h"
@@ -96,14 +95,6 @@ TEST_F(StoresTest, NoNameLeadsOutOfTheFolder) {
   for (const std::filesystem::path& path : at_.Files.Touched) {
     const std::string place = (path.lexically_normal() / "").string();
     EXPECT_TRUE(place.starts_with(folder_.Root.string() + "/")) << path;
-  }
-}
-
-TEST(KnockOut, KnowsPlaceholders) {
-  EXPECT_EQ(PlaceholderNumber("Winner 12"), 12);
-  for (const char* text :
-       {"Winner", "Winner ", "Winner 0", "Winner -1", "Winner 01", "Winner 1 ", "winner 1"}) {
-    EXPECT_EQ(PlaceholderNumber(text), 0) << text;
   }
 }
 

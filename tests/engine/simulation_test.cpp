@@ -61,14 +61,8 @@ TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
 }
 
 TEST_F(ClockTest, AMatchEndsWhenItIsDecidedOrWithAGoldenGoalInItsSecond) {
-  struct Ending {
-    bool ExtraTime;
-    int GoalSecond;
-    MatchPeriod Period;
-    Texts Summary;
-  };
   const Texts tied = {"", "Result:", "The match was tied at 0-0"};
-  const Ending endings[] = {
+  const std::tuple<bool, int, MatchPeriod, Texts> endings[] = {
       {false, 0, SecondHalf, tied},
       {true, 0, ExtraTimeSecondHalf, tied},
       {true, 90 * 60, SecondHalf, {"90:00 >> R5 (Rovers)", "", "Result:", "Rovers beats United 1-0"}},
@@ -76,14 +70,17 @@ TEST_F(ClockTest, AMatchEndsWhenItIsDecidedOrWithAGoldenGoalInItsSecond) {
        100 * 60,
        ExtraTimeFirstHalf,
        {"100:00 >> U5 (United)", "GOLDEN GOAL!", "", "Result:", "United beats Rovers 1-0"}},
+      {true,
+       120 * 60,
+       ExtraTimeSecondHalf,
+       {"120:00 >> R5 (Rovers)", "GOLDEN GOAL!", "", "Result:", "Rovers beats United 1-0"}},
   };
-  for (const Ending& ending : endings) {
-    SCOPED_TRACE(ending.Summary.front());
-    Open(ending.ExtraTime, false, ending.GoalSecond);
+  for (const auto& [extraTime, goalSecond, period, summary] : endings) {
+    Open(extraTime, false, goalSecond);
     for (const int minutes : {45, 45, 15, 15, 1}) Play(minutes);
     const MatchSession& s = Session();
-    EXPECT_EQ(s.Period, ending.Period);
-    EXPECT_EQ(s.Summary.Entries, ending.Summary);
+    EXPECT_EQ(s.Period, period);
+    EXPECT_EQ(s.Summary.Entries, summary);
     EXPECT_FALSE(s.Controls.halftimeEnabled || s.Controls.Timer1Enabled);
     EXPECT_EQ(s.Controls.Label3, "");
     EXPECT_EQ(s.BallSide, 0);
@@ -91,7 +88,7 @@ TEST_F(ClockTest, AMatchEndsWhenItIsDecidedOrWithAGoldenGoalInItsSecond) {
   const Texts& told = Session().Commentary.Entries;
   EXPECT_EQ((Texts{told.end() - 3, told.end()}),
             (Texts{"Referee blows the final whistle", "The match ends with a Golden Goal",
-                   "With that, United wins the match"}));
+                   "With that, Rovers wins the match"}));
 }
 
 TEST_F(ClockTest, TicksAreDroppedUnderAQuestion) {

@@ -89,10 +89,6 @@ class MatchDraws : public ScriptedRandom {
   static constexpr int GoalNumber = 3;
 
   void DrawGoalNumber() { Expect(100, GoalNumber); }  ///< All that opens a match without stadiums.
-  void OpenFriendly() {
-    Expect(100, 50);  // The crowd, in percent.
-    DrawGoalNumber();
-  }
   void NoGoals(int seconds = 1) { Expect(4000, 7, 2 * seconds); }
   void InstantKick(bool scored) { Expect({{2, scored ? 1 : 0}, {6, 0}}); }
 };
@@ -103,28 +99,19 @@ class QuietRandom : public Random {
  public:
   int Int(int n) override {
     if (n == 4000) return GoalDraw();
-    if (n == 100) opened_ = true;  // The goal number, the last draw of a match's opening.
+    if (n == 100) goalDraws_ = 0;  // The goal number, the last draw of a match's opening.
     return n > 50 && n <= 100 ? 50 : n == 5091 ? 2000 : n == 4 ? 1 : 0;
   }
 
-  std::string Goals;              ///< Of the match, by second played: "1" or "2" for the side that scores.
-  std::deque<std::string> Later;  ///< Goals of the matches to come.
+  std::string Goals;  ///< Of every match, by second played: "1" or "2" for the side that scores.
 
  private:
   int GoalDraw() {
-    if (std::exchange(opened_, false)) {
-      goalDraws_ = 0;
-      if (!Later.empty()) {
-        Goals = Later.front();
-        Later.pop_front();
-      }
-    }
     const auto second = static_cast<std::size_t>(goalDraws_ / 2);
     const char side = goalDraws_++ % 2 == 0 ? '1' : '2';
     return second < Goals.size() && Goals[second] == side ? 50 : 7;
   }
 
-  bool opened_ = false;
   int goalDraws_ = 0;
 };
 

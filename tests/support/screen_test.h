@@ -31,6 +31,9 @@ class ScreenTestIn : public testing::Test {
     for (const char* name : names) EXPECT_TRUE(SaveTeam(folder_.Folder, MakeTeam(name, name)).Ok());
   }
 
+  /// Writes the stadium of Albion and a neutral one.
+  void AddStadiums() { Write("stadiums.sim", "2\nAlbion\nMill\nLeat\n1000\nNeutral\nBowl\nOss\n500\n"); }
+
   ProgramFolderOfTest folder_;
   FakeDesktop desktop_;
   FakeRecording recording_;

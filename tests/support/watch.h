@@ -4,20 +4,20 @@
 #include <QtWidgets>
 #include <map>
 #include <string>
-#include <utility>
 
-#include "support/fakes.h"
-#include "ui/widgets/kick_mark.h"
 #include "ui/widgets/side_text.h"
 
 namespace kickwell {
 
 /// Watches everything that a window's user sees or is told: texts, entries, what is picked, enabled, visible
-/// and checked, tips, colours, the button that Enter presses, the focus unless a button has it, and which
-/// timers run.
+/// and checked, tips, colours, the button that Enter presses, and the focus unless a button has it.
 class Watch {
  public:
-  explicit Watch(QWidget& window) : window_(window) { Look(); }
+  /// Shows `window` and looks at it for the first time.
+  explicit Watch(QWidget& window) : window_(window) {
+    window_.show();
+    Look();
+  }
 
   /// What is new since the last look, by control, for example "Inn1: 1; kick is disabled",
   /// except for what `passedOver` matches. What changes in hidden controls is told when they are shown.
@@ -55,9 +55,6 @@ class Watch {
         grounds += GroundOf(*widget) + " ";
     }
     Set("stripes", " are", grounds.trimmed());
-    for (const QTimer* const timer : window_.findChildren<QTimer*>())
-      if (!timer->objectName().isEmpty())
-        Set(timer->objectName(), " is", timer->isActive() ? "running" : "stopped");
     for (const QAction* const item : window_.findChildren<QAction*>())
       if (!item->objectName().isEmpty() || item->menu() != nullptr)
         Set(item->text(), " is",
@@ -73,28 +70,19 @@ class Watch {
     Set(name, " is told as", control.accessibleName());
     const QString description = control.accessibleDescription();
     Set(name, " is described as", description == Plain(control.toolTip()) ? "" : description);
-    if (const auto* const label = qobject_cast<const QLabel*>(&control)) {
-      Set(name, ":", label->text());
-      Set(name, " is called", label->property("accessibleCaption").toString());
-      if (label->autoFillBackground())
-        Set(name, " stands on",
-            GroundOf(*label) + " in " + label->palette().color(QPalette::WindowText).name());
-    } else if (const auto* const button = qobject_cast<const QAbstractButton*>(&control)) {
-      Set(name, ":", button->text());
-      const auto* const push = qobject_cast<const QPushButton*>(button);
-      if (push != nullptr && push->isDefault()) Set("Enter", " presses", name);
-    } else if (const auto* const box = qobject_cast<const QLineEdit*>(&control)) {
-      Set(name, ":", box->text() + (box->hasSelectedText() ? " (selected)" : ""));
-    } else if (const auto* const combo = qobject_cast<const QComboBox*>(&control)) {
-      Set(name, ":", combo->currentText());
+    Set(name, " is called", control.property("accessibleCaption").toString());
+    Set(name, ":", control.property("text").toString() + control.property("currentText").toString());
+    if (control.property("default").toBool()) Set("Enter", " presses", name);
+    if (control.inherits("QLabel") && control.autoFillBackground())
+      Set(name, " stands on",
+          GroundOf(control) + " in " + control.palette().color(QPalette::WindowText).name());
+    if (const auto* const combo = qobject_cast<const QComboBox*>(&control))
       Set(name, " offers", EntriesOf(*combo->model()));
-    } else if (const auto* const list = qobject_cast<const QListWidget*>(&control)) {
+    if (const auto* const list = qobject_cast<const QListWidget*>(&control)) {
+      Set(name, " offers", EntriesOf(*list->model()));
       QStringList picked;
       for (const QListWidgetItem* const item : list->selectedItems()) picked.append(item->text());
       Set(name, ":", picked.join(" | "));
-      Set(name, " offers", EntriesOf(*list->model()));
-      const auto* const bar = list->verticalScrollBar();
-      Set(name, " stands", bar->value() == bar->maximum() ? "at its end" : "above its end");
     }
   }
 
@@ -108,19 +96,9 @@ class Watch {
     while (part != &window_ && !IsNamed(*part)) part = part->parentWidget();
     if (!control.isVisibleTo(part)) return "hidden";
     QString state = control.isEnabledTo(part) ? "enabled" : "disabled";
-    const auto* const button = qobject_cast<const QAbstractButton*>(&control);
-    if (button != nullptr && button->isChecked()) state += ", checked";
-    if (qobject_cast<const QLabel*>(&control) != nullptr && control.font().bold()) state += ", bold";
-    if (dynamic_cast<const KickMark*>(&control) != nullptr && HasRing(control)) state += ", ringed";
+    if (control.property("checked").toBool()) state += ", checked";
+    if (control.inherits("QLabel") && control.font().bold()) state += ", bold";
     return state;
-  }
-
-  static bool HasRing(QWidget& mark) {
-    const QImage image = mark.grab().toImage();
-    const QRgb ring = mark.palette().color(QPalette::Highlight).rgb();
-    for (int y = 0; y < image.height() / 2; ++y)
-      if (image.pixel(image.width() / 2, y) == ring) return true;
-    return false;
   }
 
   static QString GroundOf(const QWidget& widget) {

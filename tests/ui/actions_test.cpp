@@ -22,7 +22,7 @@ class ActionsTest : public WindowTest {
  protected:
   ActionsTest() {
     AddTeams({"Albion", "Borough", "City"});
-    Write("stadiums.sim", "2\nAlbion\nMill\nLeat\n1000\nNeutral\nBowl\nOss\n500\n");
+    AddStadiums();
   }
 };
 
@@ -33,7 +33,6 @@ TEST_F(ActionsTest, TheMenuOpensItsScreensAndShowsWhatIsPlayed) {
                   {open("settings"), open("knock-out"), open("league"), open("teams"), open("stadiums"),
                    open("championships"), open("scorers"), open("table"), open("results"), open("chart")});
   OpeningWindow window(opening);
-  window.show();
   Watch watch(window);
   const auto choose = [&window](const Texts& items) {
     for (const std::string& item : items) window.findChild<QAction*>(item.c_str())->trigger();
@@ -59,7 +58,6 @@ TEST_F(ActionsTest, TheSettingsShowEveryChoice) {
   int opened = 0;
   Settings settings(folder_.Folder, desktop_, [&](auto&) { ++opened; });
   SettingsWindow window(settings, nullptr);
-  window.show();
   Watch watch(window);
   User::Pick(window, "Combo1", 2);  // The opposition goes on from Borough to City and from there to Albion.
   EXPECT_EQ(watch.Changed(), "Combo1: City; Combo2: Albion");
@@ -82,18 +80,18 @@ TEST_F(ActionsTest, TheSelectionShowsThePlayersOfEverySlotAndTheFigures) {
   Team united = MakeTeam("United", "U");
   for (std::size_t i = 0; i < SlotCount; ++i) united.Players[i].Skill = std::to_string(90 - 4 * i);
   united.Players.push_back({"Sub", "33", "MFC"});
-  for (const Team& team : {united, Team{"Rovers", "75", {{"Ann", "80", "GK"}}}})
-    ASSERT_TRUE(SaveTeam(folder_.Folder, team).Ok());
+  ASSERT_TRUE(SaveTeam(folder_.Folder, united).Ok());
   Selection selection(
       folder_.Folder, desktop_, [](auto&) {}, MakeSetup());
   SelectionWindow window(selection, nullptr);
-  window.show();
   Watch watch(window);
   EXPECT_TRUE(QTest::qWaitFor([&] { return User::TextOf(window, "Post2(0)") == "GK"; }));
-  EXPECT_EQ(desktop_.Taken(), Texts{"!: Rovers don't have enough players to play."});
-  EXPECT_EQ(watch.Changed("\\(([1-9]|10)\\)|Combo2.* offers"),
-            "Combo2(0): U0; Command1 is disabled; Formation2: 4-4-2; Label15: 52; Label16: 80; Label17: 64; "
-            "Label18: 90; OSkill1: 75%; OSkill2: 75%; Post2(0): GK; Sk2(0): 90; Skill2: 70");
+  EXPECT_EQ(
+      watch.Changed("\\(([1-9]|10)\\)|Combo2.* offers"),
+      "Combo1(0) is described as Rovers, player 1. There is no file \"Rovers\" in \"Teams\".; Combo2(0): U0; "
+      "Formation2: 4-4-2; Label15: 52; Label16: 80; Label17: 64; Label18: 90; Note1 is enabled; Note1: There "
+      "is no file \"Rovers\" in \"Teams\".; Note2 is enabled; OSkill2: 75%; Post2(0): GK; Sk2(0): 90; "
+      "Skill2: 70");
   User::Pick(window, "Combo2(10)", 11);
   EXPECT_EQ(watch.Changed(),
             "Combo2(10): Sub; Formation2: 4-5-1; Label15: 54; Label17: 57; Post2(10): MFC; Sk2(10): 33; "
@@ -109,6 +107,16 @@ TEST_F(ActionsTest, TheSelectionShowsThePlayersOfEverySlotAndTheFigures) {
             "player 3; Label16: 80; Post2(1): DFL; Sk2(1): 86; Twice2(1) is hidden; Twice2(2) is hidden");
   User::Click(window, "Command2");
   EXPECT_EQ(watch.Changed(), "window is closed");
+}
+
+TEST_F(ActionsTest, ATeamThatIsTooSmallKeepsTheSelectionFromGoingOn) {
+  ASSERT_TRUE(SaveTeam(folder_.Folder, {"Rovers", "75", {{"Ann", "80", "GK"}}}).Ok());
+  Selection selection(
+      folder_.Folder, desktop_, [](auto&) {}, MakeSetup());
+  SelectionWindow window(selection, nullptr);
+  window.show();
+  const auto* const goOn = window.findChild<QPushButton*>("Command1");
+  EXPECT_TRUE(QTest::qWaitFor([goOn] { return !goOn->isEnabled(); }));
 }
 
 TEST_F(ActionsTest, ARankingIsTurnedByKeyboardAndItsBarFollows) {
@@ -185,7 +193,6 @@ TEST_F(ActionsTest, TheTeamEditorShowsWhatIsOnDisk) {
   ASSERT_TRUE(SaveTeam(folder_.Folder, {"Dale", "50", {{"Cy", "62", "FDR"}, {"Di", "63", "MFC"}}}).Ok());
   TeamEditor editor(folder_.Folder, desktop_, "N/A");
   TeamEditorWindow window(editor, nullptr);
-  window.show();
   Watch watch(window);
   User::Pick(window, "Combo3", 3);
   for (int times = 0; times < 2; ++times) User::Click(window, "Command2");  // Down, and not beyond.
@@ -225,7 +232,6 @@ TEST_F(ActionsTest, TheTeamEditorShowsWhatIsOnDisk) {
 TEST_F(ActionsTest, TheStadiumEditorShowsWhatIsOnDisk) {
   StadEditor editor(folder_.Folder, desktop_);
   StadEditorWindow window(editor, nullptr);
-  window.show();
   Watch watch(window);
   User::Type(window, "Text1", "Park");
   User::Type(window, "Text2", "Ayr");
@@ -248,7 +254,6 @@ TEST_F(ActionsTest, TheChampionshipEditorShowsBothItsSides) {
   Write("Leagues/Old.leg", "Old\n2\nCity\nAlbion\n1\nP\nCity\nAlbion\n");
   LegEditor editor(folder_.Folder, desktop_, random_);
   LegEditorWindow window(editor, nullptr);
-  window.show();
   Watch watch(window);
   const char* const deletion = "Delete is ";  // Not of interest here.
   for (int team = 0; team < 2; ++team) User::Click(window, "LeagueAddTeam");
@@ -276,6 +281,17 @@ TEST_F(ActionsTest, TheChampionshipEditorShowsBothItsSides) {
             "1: City v Albion; LeagueLoad: Old.leg; LeagueName: Old; LeagueSelected offers Albion | City; "
             "LeagueSelected: Albion; focus on LeagueLoad");
 
+  User::Click(window, "LeagueRemoveTeam");
+  EXPECT_EQ(watch.Changed("^(Away|Home|LeagueAvailable|LeagueSelected)"),
+            "LeagueFixtureNote is enabled; LeagueFixtureNote: 1 fixture has a team that is not in the "
+            "league. Press Auto "
+            "Fixtures to make all fixtures anew.; LeagueFixtures is described as 1 fixture has a team that "
+            "is not in "
+            "the league. Press Auto Fixtures to make all fixtures anew.; LeagueFixtures offers Match 1: City "
+            "v Albion "
+            "/ Match 1: City v Albion, Not in the league; LeagueTeamCount: 1");
+  EXPECT_NE(window.findChild<QListWidget*>("LeagueFixtures")->item(0)->foreground(), window.palette().text());
+
   User::Pick(window, "Kind", 1);
   for (const char* button : {"MoreTeams", "MoreTeams", "FewerTeams"}) User::Click(window, button);
   EXPECT_EQ(watch.Changed(deletion),
@@ -294,8 +310,13 @@ TEST_F(ActionsTest, TheChampionshipEditorShowsBothItsSides) {
   User::Type(window, "KnockOutName", "Cup");
   User::Click(window, "KnockOutSave");
   EXPECT_EQ(desktop_.Taken().back(), "?: Are you sure you want to add Cup?");
+  QTest::keyClick(&window, Qt::Key_Escape);
+  EXPECT_EQ(watch.Changed(),
+            "Exit is described as The league and the knock-out are not saved.; KnockOutName: Cup; Unsaved is "
+            "enabled; Unsaved: The league and the knock-out are not saved.");
+  EXPECT_EQ(window.focusWidget()->objectName(), "Exit");
   User::Click(window, "Exit");
-  EXPECT_FALSE(window.isVisible());
+  EXPECT_EQ(watch.Changed(), "window is closed");
 }
 
 }  // namespace

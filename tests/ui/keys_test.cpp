@@ -58,9 +58,10 @@ TEST_F(KeysTest, APlayersLineAndSideAreTypedAndEnterAddsHim) {
   TeamEditorWindow window(editor, nullptr);
   Show(window);
   window.findChild<QWidget*>("Text2")->setFocus();
-  for (const char* keys : {"Ann\t", "71\t", "mr\r"}) Type(window, keys);
+  // A skill of 0 is refused and typed over; the line takes the side behind it.
+  for (const char* keys : {"Ann\t", "0\r", "71\t", "mr\r", "Bea"}) Type(window, keys);
   EXPECT_EQ(User::TextOf(window, "Label5"), "MFR");
-  EXPECT_EQ(window.focusWidget()->objectName(), "Text2");
+  EXPECT_EQ(editor.Text2, "Bea");
 }
 
 TEST_F(KeysTest, TeamsAreFoundByTypingOneAfterTheOther) {
@@ -110,10 +111,14 @@ TEST_F(KeysTest, TheFixtureListPlaysTheFramedMatchAndSelectsWithoutHoles) {
   EXPECT_EQ(press(Qt::Key_Down, Qt::ShiftModifier), "10 to 12");
   EXPECT_EQ(press(Qt::Key_Up, Qt::ShiftModifier), "10 to 11");
   EXPECT_EQ(press(Qt::Key_Space), "11 to 11");
-  QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, Qt::ControlModifier,
-                    fixtures->visualItemRect(fixtures->item(7)).center());
+  const QPoint eighth = fixtures->visualItemRect(fixtures->item(7)).center();
+  QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, Qt::ControlModifier, eighth);
   EXPECT_EQ(range(), "8 to 11");
   EXPECT_EQ(User::TextOf(window, "RangeText"), "Matches 8 to 11 are to be played.");
+  QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, {}, eighth);
+  EXPECT_EQ(range(), "8 to 8");
+  QTest::mouseDClick(fixtures->viewport(), Qt::LeftButton, {}, eighth);
+  EXPECT_EQ(played, (std::vector{5, 8}));
 }
 
 /// A shoot-out that is over after the fifth pair of kicks, whose taker kicks by Enter alone.

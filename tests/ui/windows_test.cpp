@@ -17,10 +17,10 @@
 #include "ui/widgets/goal_picture.h"
 #include "ui/widgets/line_list.h"
 #include "ui/widgets/pitch_picture.h"
-#include "ui/windows/championship_play_window.h"
+#include "ui/widgets/text_box.h"
+#include "ui/windows/leg_results_window.h"
 #include "ui/windows/match_window.h"
 #include "ui/windows/ranking_window.h"
-#include "ui/windows/selection_window.h"
 #include "user.h"
 
 namespace kickwell {
@@ -36,9 +36,6 @@ TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
   QTimer::singleShot(0, &window, [&] { User::Click(window, "halftime"); });
   QTimer::singleShot(200, &window, [&] {
     EXPECT_EQ(User::TextOf(window, "Label3"), "GOAL!");
-    EXPECT_EQ(User::TextOf(window, "Inn2"), "1");
-    User::Click(window, "Option1(0)");
-    EXPECT_TRUE(window.findChild<QListWidget*>("List1(1)")->isVisible());
     desktop_.SaveName = (folder_ / "page").string();
     User::Click(window, "ComSave");
     User::Click(window, "Command1");
@@ -48,19 +45,8 @@ TEST_F(WindowsTest, TheGoalPauseLeavesTheMatchInTheUsersHands) {
   window.exec();
   EXPECT_LT(time.elapsed(), 20000);  // The pause does not hold it.
   EXPECT_TRUE(Exists("page.htm"));
-  EXPECT_EQ(desktop_.Taken(), (Texts{"* loaded", "* whistle", "* goal", "? (No): Do you really want to exit?"}));
-}
-
-TEST_F(WindowsTest, ATeamWithoutAFileIsToldInItsColumn) {
-  AddTeams({"Rovers"});
-  Selection selection(
-      folder_.Folder, desktop_, [](auto&) {}, MakeSetup());
-  SelectionWindow window(selection, nullptr);
-  window.show();
-  const auto* const note = window.findChild<QLabel*>("Note2");
-  EXPECT_TRUE(QTest::qWaitFor([note] { return note->isVisible(); }));
-  EXPECT_EQ(note->text(), "There is no file \"United\" in \"Teams\".");
-  EXPECT_TRUE(window.findChild<QComboBox*>("Combo2(0)")->accessibleDescription().endsWith(note->text()));
+  EXPECT_EQ(desktop_.Taken(),
+            (Texts{"* loaded", "* whistle", "* goal", "? (No): Do you really want to exit?"}));
 }
 
 /// The first and the last chalk-white pixel in the row of `picture` at this part of its height.
@@ -121,26 +107,60 @@ TEST_F(WindowsTest, AClosedChooserIgnoresTheWheelAndFindsWhatIsTyped) {
   EXPECT_EQ(picks.last().first().toInt(), 2);
 }
 
-TEST_F(WindowsTest, TheFixtureListSetsTheRangeAndPlaysIt) {
-  Write("Leagues/Top.leg", "Top\n2\nA\nB\n4\nP\nA\nB\nNP\nB\nA\nNP\nA\nB\nNP\nB\nA\n");
-  std::vector<int> played;
-  ChampionshipPlay play(
-      ChampionshipKind::League, folder_.Folder, desktop_, [](auto&) {},
-      [&played](const MatchSetup& setup) { played.push_back(setup.MatchNumber); });
-  ChampionshipPlayWindow window(play, ChampionshipKind::League, nullptr);
-  window.show();
-  auto* const fixtures = window.findChild<QListWidget*>("Fixtures");
-  EXPECT_EQ(fixtures->currentRow(), 1);  // The next one to play.
-  const auto range = [&window] { return User::TextOf(window, "From") + " to " + User::TextOf(window, "To"); };
-  EXPECT_EQ(range(), "1 to 2");
-  const auto on = [fixtures](int row) { return fixtures->visualItemRect(fixtures->item(row)).center(); };
-  QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, {}, on(2));
-  EXPECT_EQ(range(), "3 to 3");
-  QTest::keyClick(fixtures, Qt::Key_Down, Qt::ShiftModifier);
-  EXPECT_EQ(range(), "3 to 4");
-  QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, {}, on(1));
-  QTest::mouseDClick(fixtures->viewport(), Qt::LeftButton, {}, on(1));
-  EXPECT_EQ(played, std::vector{2});
+TEST_F(WindowsTest, ABoxTakesAnyTextThatFitsAndLosesNothingForMore) {
+  std::string text;
+  TextBox box("Text4", 2, text);
+  box.setText("75");  // As a tool does, without keys.
+  EXPECT_EQ(text, "75");
+  box.home(false);
+  QTest::keyClicks(&box, "9");
+  EXPECT_EQ(text, "75");
+  EXPECT_EQ(box.accessibleDescription(), "Only 2 characters fit.");
+  QTest::keyClick(&box, Qt::Key_Delete);
+  EXPECT_EQ(box.accessibleDescription(), "");
+}
+
+TEST_F(WindowsTest, AWindowOpensWhereItsUserLeftIt) {
+  QWidget menu;
+  const auto open = [&](const QRect& moveTo) {
+    LegResults results(folder_.Folder, desktop_, {ChampionshipKind::League, "Top"});
+    LegResultsWindow window(results, &menu);
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    const QRect opened = window.geometry();
+    if (!moveTo.isNull()) window.setGeometry(moveTo);
+    window.close();
+    return opened;
+  };
+  const QRect first = open({}), left(50, 60, 500, 400);
+  EXPECT_EQ(open(left), first);
+  EXPECT_EQ(open({}), left);
+}
+
+TEST_F(WindowsTest, ADocumentThatCannotBeOpenedIsToldAndNoOther) {
+  const QByteArray path = qgetenv("PATH");
+  qputenv("PATH", (folder_.Folder.Root.string() + ":").c_str() + path);
+  QtDesktop desktop(folder_.Folder);
+  int told = 0;
+  const auto open = [&](int exitCode) {
+    Remove("opened");
+    Write("xdg-open", "#!/bin/sh\necho \"$1\" >" + (folder_ / "opened").string() + "\nexit " +
+                          std::to_string(exitCode) + "\n");
+    std::filesystem::permissions(folder_ / "xdg-open", std::filesystem::perms::all);
+    desktop.OpenDocument("Help.htm", [&told] { ++told; });
+  };
+  open(0);
+  EXPECT_EQ(told, 1);  // There is no such file.
+  EXPECT_FALSE(Exists("opened"));
+  Write("Help.htm", "x");
+  open(3);
+  EXPECT_TRUE(QTest::qWaitFor([&told] { return told == 2; }));
+  open(0);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return Exists("opened"); }));
+  QTest::qWait(50);
+  EXPECT_EQ(told, 2);
+  EXPECT_EQ(Bytes("opened"), (folder_ / "Help.htm").string() + "\n");
+  qputenv("PATH", path);
 }
 
 TEST_F(WindowsTest, ASecondStartCallsTheFirstProgramAndEnds) {
@@ -163,17 +183,6 @@ TEST_F(WindowsTest, EnterAnswersAQuestionWithWhatLosesNothing) {
   EXPECT_FALSE(desktop.Ask("Delete?", Enter::No));
 }
 
-/// Shows a list that has no room for all of its lines.
-ItemList ShowHundredLines(LineList& list) {
-  list.resize(200, 100);
-  list.show();
-  ItemList lines;
-  for (int i = 0; i < 100; ++i) lines.Add(std::to_string(i));
-  lines.PickLast();
-  list.ShowLines(lines);
-  return lines;
-}
-
 TEST_F(WindowsTest, TheSaveDialogRemembersItsFolderAndProposesWhatAFileCanBeCalled) {
   QtDesktop desktop(folder_.Folder);
   const std::string page = (folder_.Folder.Teams() / "page").string();
@@ -194,33 +203,25 @@ TEST_F(WindowsTest, TheSaveDialogRemembersItsFolderAndProposesWhatAFileCanBeCall
   EXPECT_EQ(desktop.AskSaveName("page"), std::nullopt);
 }
 
-TEST_F(WindowsTest, AListOfLinesShowsTheNewestAndIsWalkedByKeyboardAndMouse) {
+TEST_F(WindowsTest, AListOfLinesShowsTheNewestAndMovesOnlyWhenALineIsNew) {
   LineList list("Lines");
-  ShowHundredLines(list);
-  const auto expectCurrent = [&list](int row) {
-    EXPECT_EQ(list.currentRow(), row);
-    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.currentItem()))) << row;
-  };
-  expectCurrent(99);
-  QTest::keyClick(&list, Qt::Key_Home);
-  expectCurrent(0);
-  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(3)).center());
-  expectCurrent(3);
-}
-
-TEST_F(WindowsTest, AListOfLinesMovesOnlyWhenALineIsNew) {
-  LineList list("Lines");
-  ItemList lines = ShowHundredLines(list);
+  list.resize(200, 100);
+  list.show();
+  ItemList lines;
+  for (int i = 0; i < 100; ++i) lines.Add(std::to_string(i));
+  lines.PickLast();
+  list.ShowLines(lines);
   const auto inView = [&list](int row) {
     return list.viewport()->rect().contains(list.visualItemRect(list.item(row)));
   };
-  list.scrollToTop();  // To read what has been.
+  EXPECT_TRUE(inView(99));
+  EXPECT_EQ(list.currentRow(), 99);
+  QTest::keyClick(&list, Qt::Key_Home);  // To read what has been.
   list.ShowLines(lines);
   EXPECT_TRUE(inView(0));
   lines.Add("Referee starts the extra time");  // Nothing picks it.
   list.ShowLines(lines);
   EXPECT_TRUE(inView(100));
-  EXPECT_EQ(list.currentRow(), 99);
   list.resize(200, 60);
   EXPECT_TRUE(QTest::qWaitFor([&] { return inView(100); }));
 }

@@ -106,15 +106,13 @@ TEST_F(KeysTest, TheFixtureListPlaysTheFramedMatchAndSelectsWithoutHoles) {
   };
   choose(11, 11);
   EXPECT_EQ(press(Qt::Key_Down), "5 to 5");
-  EXPECT_EQ(press(Qt::Key_Down), "6 to 6");
   choose(10, 11);
   EXPECT_EQ(press(Qt::Key_Down, Qt::ShiftModifier), "10 to 12");
-  EXPECT_EQ(press(Qt::Key_Up, Qt::ShiftModifier), "10 to 11");
-  EXPECT_EQ(press(Qt::Key_Space), "11 to 11");
+  EXPECT_EQ(press(Qt::Key_Space), "12 to 12");
   const QPoint eighth = fixtures->visualItemRect(fixtures->item(7)).center();
   QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, Qt::ControlModifier, eighth);
-  EXPECT_EQ(range(), "8 to 11");
-  EXPECT_EQ(User::TextOf(window, "RangeText"), "Matches 8 to 11 are to be played.");
+  EXPECT_EQ(range(), "8 to 12");
+  EXPECT_EQ(User::TextOf(window, "RangeText"), "Matches 8 to 12 are to be played.");
   QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, {}, eighth);
   EXPECT_EQ(range(), "8 to 8");
   QTest::mouseDClick(fixtures->viewport(), Qt::LeftButton, {}, eighth);

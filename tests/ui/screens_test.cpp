@@ -2,7 +2,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
-#include <QFrame>
 #include <QLabel>
 #include <QListWidget>
 #include <QRadioButton>

@@ -1,4 +1,5 @@
-// What holds on every screen: for keyboards and screen readers, and for names that are made to break it.
+// The whole program: what its users do in it, and what holds on every screen, for keyboards and screen
+// readers and for names that are made to break it.
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
@@ -20,25 +21,104 @@
 namespace kickwell {
 namespace {
 
-class ScreensTest : public WindowTest {
+class PlayTest : public WindowTest {
+ protected:
+  void Choose(Qt::Key menu, Qt::Key item) { user_.In("Opening").Choose(menu, item); }
+
+  /// The user takes all steps in a program of their own, and leaves it.
+  void Run(Desktop& desktop) {
+    Choose(Qt::Key_P, Qt::Key_X);
+    App app(folder_.Folder, desktop, random_, {1, 1});
+    app.Start();
+    user_.Finish();
+    for (const QWidget* const window : QApplication::topLevelWidgets()) EXPECT_FALSE(window->isVisible());
+  }
+
+  User user_;
+};
+
+TEST_F(PlayTest, AFriendlyIsOpenedAndLeftByKeyboard) {
+  AddTeams({"Borough", "City"});
+  AddStadiums();
+  Choose(Qt::Key_P, Qt::Key_S);
+  user_.In("Settings").Pick("Combo3", 1).Pick("Combo4", 1).Press(Qt::Key_Return);
+  user_.In("Selection").ExpectText("Combo2(10)", "City10").Press(Qt::Key_C, Qt::AltModifier);
+  user_.In("Main").Press(Qt::Key_Return).ExpectText("Label3", "45:00");
+  user_.ExpectText("ven", "Bowl, Oss").Press(Qt::Key_Escape);
+  user_.In("MessageBox").Press(Qt::Key_Escape);  // No: still there.
+  user_.In("Main").Press(Qt::Key_X, Qt::AltModifier);
+  user_.In("MessageBox").Press(Qt::Key_Y, Qt::AltModifier);
+  QtDesktop desktop(folder_.Folder);
+  Run(desktop);
+}
+
+TEST_F(PlayTest, ALeagueIsPlayedLeftAndFinishedOnAnotherDay) {
+  AddTeams({"Albion", "Borough", "City"});
+  AddStadiums();
+  const std::string fixtures = "NP\nAlbion\nBorough\nNP\nBorough\nCity\nNP\nCity\nAlbion\n";
+  Write("Leagues/Test.leg", "Test\n3\nAlbion\nBorough\nCity\n3\n" + fixtures);
+  random_.Goals = "2";
+  Choose(Qt::Key_P, Qt::Key_L);
+  user_.In("LegSettings").Pick("To", 0).Pick("SimulationType", 1).Click("Command1");
+  user_.In("Selection").Click("Command1");
+  user_.In("Main").ExpectText("fixture", "Test, match 1").Click("halftime").Click("halftime");
+  user_.ExpectText("Label3", "").ExpectText("t1", "Borough").ExpectText("Inn1", "1");
+  user_.ExpectText("ven", "Mill, Leat").Click("Command1");
+  user_.In("LegSettings").Click("Command2");
+  Run(desktop_);
+
+  Choose(Qt::Key_P, Qt::Key_L);
+  random_.Goals = "1";
+  user_.In("LegSettings").Pick("From", 1).Pick("To", 2).Click("Command1");
+  for (const char* homeTeam : {"Borough", "City"}) {  // By Enter alone.
+    user_.In("Selection").ExpectText("Team1", homeTeam).Press(Qt::Key_Return);
+    user_.In("Main").Press(Qt::Key_Return).Press(Qt::Key_Return);  // The result, then "Exit".
+  }
+  user_.In("LegSettings").Click("Command2");
+  Choose(Qt::Key_S, Qt::Key_L);
+  user_.In("Table").ExpectText("Team(1)", "Borough").ExpectText("Points(1)", "6").Click("Command1");
+  Choose(Qt::Key_S, Qt::Key_T);
+  user_.In("TopScorers").ExpectText("Player(1)", "Borough5").ExpectText("Goals(1)", "2").Click("Command3");
+  Run(desktop_);
+}
+
+TEST_F(PlayTest, AStartTellsOfAJournalWithoutSense) {
+  Write("unfinished.journal", "no journal of ours");
+  Run(desktop_);
+  EXPECT_EQ(desktop_.Taken().size(), 1U);
+}
+
+TEST_F(PlayTest, AllScreensComeToTheFrontWhenCalled) {
+  App app(folder_.Folder, desktop_, random_);
+  Choose(Qt::Key_E, Qt::Key_S);
+  user_.In("StadEditor").Do([&app](QWidget& screen) {
+    QWidget* const menu = screen.parentWidget();
+    for (QWidget* const window : {menu, &screen}) window->setWindowState(Qt::WindowMinimized);
+    app.ComeToFront();
+    EXPECT_FALSE(menu->isMinimized() || screen.isMinimized());
+  });
+  user_.Click("Command3");
+  Choose(Qt::Key_P, Qt::Key_X);
+  app.Start();
+  user_.Finish();
+}
+
+class ScreensTest : public PlayTest {
  protected:
   /// Opens the screens one after the other, as their user does, and looks at each. The folder holds two teams
   /// that can play, a league and a knock-out.
   void LookAround(const std::function<void(QWidget& window)>& look) {
     // The teams change ends, so that the same side scoring at the start of both halves levels the score.
     random_.Goals = "1" + std::string(45 * 60 - 1, '.') + "1";
-    App app(folder_.Folder, desktop_, random_, {1, 1});
-    app.Start();
-    User user;
     const auto visit = [&](const char* screen, const char* leave = nullptr) {
-      user.In(screen).Do([&](QWidget& window) {
-        user.Wait(40);  // The squads come when the screen has been drawn.
+      user_.In(screen).Do([&](QWidget& window) {
+        user_.Wait(40);  // The squads come when the screen has been drawn.
         look(window);
       });
-      if (leave != nullptr) user.Click(leave);
+      if (leave != nullptr) user_.Click(leave);
     };
     const auto open = [&](Qt::Key menu, Qt::Key item, const char* screen, const char* leave = nullptr) {
-      user.In("Opening").Choose(menu, item);
+      Choose(menu, item);
       visit(screen, leave);
     };
     const auto championship = [&](Qt::Key kind, const char* settings, const char* table, const char* leave) {
@@ -52,21 +132,21 @@ class ScreensTest : public WindowTest {
     championship(Qt::Key_L, "LegSettings", "Table", "Command1");
     championship(Qt::Key_K, "KnockSettings", "KnockCharts", "Command3");
     open(Qt::Key_P, Qt::Key_S, "Settings");
-    user.Pick("Combo4", 1);
-    for (const char* button : {"Check1", "Check2", "Command1"}) user.Click(button);
+    user_.Pick("Combo4", 1);
+    for (const char* button : {"Check1", "Check2", "Command1"}) user_.Click(button);
     visit("Selection", "Command1");
     visit("Main");
     constexpr int PeriodsWithShootOut = 5;
-    for (int period = 0; period < PeriodsWithShootOut; ++period) user.Click("halftime");
-    user.Click("kick");
+    for (int period = 0; period < PeriodsWithShootOut; ++period) user_.Click("halftime");
+    user_.Click("kick");
     visit("Main", "Command1");
     visit("Opening");
     open(Qt::Key_E, Qt::Key_T, "TeamEditor", "Command4");
     open(Qt::Key_E, Qt::Key_S, "StadEditor", "Command3");
     open(Qt::Key_E, Qt::Key_C, "LegEditor");
-    user.Pick("Kind", 1);
+    user_.Pick("Kind", 1);
     visit("LegEditor", "Exit");
-    user.Finish();
+    Run(desktop_);
   }
 
   /// A stadium, a league and a knock-out of two teams, with results.

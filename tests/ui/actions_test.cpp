@@ -26,22 +26,20 @@ class ActionsTest : public WindowTest {
   }
 };
 
-TEST_F(ActionsTest, TheMenuOpensItsScreensAndShowsWhatIsPlayed) {
+TEST_F(ActionsTest, TheMenuShowsWhatIsPlayed) {
   const auto open = [] {};
   Opening opening(desktop_, {open, open, open, open, open, open, open, open, open, open});
   OpeningWindow window(opening);
   Watch watch(window);
-  const auto choose = [&window](const Texts& items) {
-    for (const std::string& item : items) window.findChild<QAction*>(item.c_str())->trigger();
-  };
-  choose({"LegLoad"});
+  const auto choose = [&window](const char* item) { window.findChild<QAction*>(item)->trigger(); };
+  choose("LegLoad");
   EXPECT_EQ(watch.Changed(), "&Knock Out Table is disabled, hidden; &Statistics is enabled");
-  choose({"KnockLoad"});
+  choose("KnockLoad");
   opening.ChampionshipName = "<Cup>";
   opening.Changed();
   EXPECT_EQ(watch.Changed(), "&Knock Out Table is enabled; &League Table is disabled, hidden; league: <Cup>");
   EXPECT_EQ(User::TextOf(window, "mode"), "KnockOut");
-  choose({"MatchMenu", "ReadMenu", "HistMenu"});
+  for (const char* item : {"MatchMenu", "ReadMenu", "HistMenu"}) choose(item);
   EXPECT_EQ(watch.Changed(), "&Statistics is disabled; league: N/A");
   EXPECT_EQ(desktop_.Taken(), (Texts{"i: Read the file 'Help.htm' in your Kickwell folder for help.",
                                      "i: Read the file 'History.txt' in your Kickwell folder for history."}));
@@ -271,14 +269,10 @@ TEST_F(ActionsTest, TheChampionshipEditorShowsBothItsSides) {
             "LeagueSelected: Albion; focus on LeagueLoad");
 
   User::Click(window, "LeagueRemoveTeam");
-  EXPECT_EQ(watch.Changed("^(Away|Home|LeagueAvailable|LeagueSelected)"),
+  EXPECT_EQ(watch.Changed("^(Away|Home|LeagueAvailable|LeagueSelected)|is described"),
             "LeagueFixtureNote is enabled; LeagueFixtureNote: 1 fixture has a team that is not in the "
-            "league. Press Auto "
-            "Fixtures to make all fixtures anew.; LeagueFixtures is described as 1 fixture has a team that "
-            "is not in "
-            "the league. Press Auto Fixtures to make all fixtures anew.; LeagueFixtures offers Match 1: City "
-            "v Albion "
-            "/ Match 1: City v Albion, Not in the league; LeagueTeamCount: 1");
+            "league. Press Auto Fixtures to make all fixtures anew.; LeagueFixtures offers Match 1: City v "
+            "Albion / Match 1: City v Albion, Not in the league; LeagueTeamCount: 1");
   EXPECT_NE(window.findChild<QListWidget*>("LeagueFixtures")->item(0)->foreground(), window.palette().text());
 
   User::Pick(window, "Kind", 1);

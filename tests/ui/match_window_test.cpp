@@ -124,10 +124,9 @@ TEST_F(MatchWindowTest, TheGoalsMakeRoomForTheInstantShootOutAndTheFactsStandInT
   User::Click(window, "instant");
   EXPECT_EQ(
       watch.Changed("^(Enter|focus|Label[23]|List1)"),
-      "Book1: 2; Corner1: 4; Corner2: 2; Foul1: 3; Foul2: 1; Over is enabled; Pen1 is "
-      "enabled, bold; "
-      "Pen1: (3); Pen2 is enabled, bold; Picture2 is described as Rovers 0, United 0, That's it, Rovers wins "
-      "the match in a PSO; PosMet(0): 40%; PosMet(1): 60%; Shots2: 3; instant is disabled");
+      "Book1: 2; Corner1: 4; Corner2: 2; Foul1: 3; Foul2: 1; Over is enabled; Pen1 is enabled, bold; Pen1: "
+      "(3); Pen2 is enabled, bold; Picture2 is described as Rovers 0, United 0, That's it, Rovers wins the "
+      "match in a PSO; PosMet(0): 40%; PosMet(1): 60%; Shots2: 3; instant is disabled");
   EXPECT_EQ(before - left(), Twips(&window, 360));
 }
 

@@ -22,6 +22,9 @@ namespace {
 
 using Files = std::map<std::filesystem::path, std::string>;
 
+const std::string Journal(JournalName);
+const std::string Temporary = "~kickwell-7-1.tmp";  ///< Of a process that has ended.
+
 /// A program folder with two clubs, a league and a knock-out in the middle of play.
 struct Season : TestFolder {
   Season() {
@@ -33,8 +36,6 @@ struct Season : TestFolder {
     Write("Tournies/Cup.trn", AsWritten("1\nCup\n2\nRovers\nUnited\nNP\nRovers\nUnited\nWinner 1\n"));
     Write("Tournies/Cup.lrs", AsWritten("1\n2\n3\n4\n5\n"));
   }
-
-  bool HasJournal() const { return Exists(std::string(JournalName)); }
 };
 
 bool HasTemporary(const Season& season) {
@@ -150,7 +151,7 @@ TEST(NothingLost, AStartThatStopsOrFailsCanBeRepeated) {
     const Files after = After(change);
     int journals = 0;
     for (int operation = 1; const auto stopped = StoppedAt(operation, change); ++operation) {
-      const bool recorded = stopped->HasJournal();
+      const bool recorded = stopped->Exists(Journal);
       if (!recorded && !stopped->Exists(std::string(SetAsideName))) continue;
       journals += recorded ? 1 : 0;
       Start(*stopped);
@@ -190,7 +191,7 @@ TEST(NothingLost, AFailingDiskIsToldAndTheChangeCanBeMadeAgain) {
         season.Files.FailAt = failAt;
         season.Files.FailCount = failures;
         const FileResult result = change.Make(season.Folder);
-        const bool unfinished = season.HasJournal();
+        const bool unfinished = season.Exists(Journal);
         EXPECT_TRUE(failures > 1 || unfinished || result.Ok() || !HasTemporary(season));
         Start(season);
         EXPECT_TRUE(season.Files.All() == after || (season.Files.All() == Before && !unfinished));
@@ -241,9 +242,9 @@ TEST(NothingLost, AnEndedChangeIsNotMadeAgain) {
 
 TEST(NothingLost, NothingBuildsOnAnUnfinishedChange) {
   Season season;
-  season.Write("~kickwell-7-1.tmp", AsWritten("new\n"));
+  season.Write(Temporary, AsWritten("new\n"));
   season.Write("Leagues/Cup.rec/in the way", "");
-  season.Write(std::string(JournalName), "Kickwell journal 1\n~kickwell-7-1.tmp\nLeagues/Cup.rec\nEnd\n");
+  season.Write(Journal, "Kickwell journal 1\n" + Temporary + "\nLeagues/Cup.rec\nEnd\n");
   const Files before = season.Files.All();
   FakeDesktop desktop;
   const ChampionshipPlay play(ChampionshipKind::League, season.Folder, desktop, [](const std::string&) {},
@@ -257,26 +258,6 @@ TEST(NothingLost, NothingBuildsOnAnUnfinishedChange) {
   season.Remove("Leagues/Cup.rec");
   EXPECT_TRUE(WriteChampionship(season.Folder, {KnockOut, {}, {}}).Ok());  // Finishes that change first.
   EXPECT_EQ(season.Bytes("Leagues/Cup.rec"), AsWritten("new\n"));
-}
-
-const std::string Journal(JournalName);
-const std::string Temporary = "~kickwell-7-1.tmp";  ///< Of a process that has ended.
-
-TEST(JournalTest, FinishesWhatItLists) {
-  TestFolder folder;
-  folder.Write("Leagues/Top.rec", "old");
-  folder.Write("Leagues/Top.sco", "old");
-  folder.Write(Temporary, "new");
-  folder.Write(Journal, "Kickwell journal 1\n" + Temporary + "\nLeagues/Top.rec\n" +
-                            "~kickwell-7-2.tmp\nLeagues/Top.leg\n"  // This renaming was made before.
-                            "-\nLeagues/Top.sco\nEnd\n");
-  EXPECT_FALSE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "later"}}).Ok());
-  EXPECT_TRUE(FinishChanges(folder.Folder).Ok());
-  EXPECT_EQ(folder.Bytes("Leagues/Top.rec"), "new");
-  EXPECT_FALSE(folder.Exists("Leagues/Top.sco"));
-  EXPECT_FALSE(folder.Exists(Journal));
-  EXPECT_TRUE(ChangeFiles(folder.Folder, {{"Leagues/Top.rec", "later"}}).Ok());
-  EXPECT_EQ(folder.Bytes("Leagues/Top.rec"), "later");
 }
 
 TEST(JournalTest, IsIgnoredAndRenamedWhenItIsDamaged) {

@@ -56,7 +56,7 @@ TEST_F(EditorsTest, WhatIsTypedIsCheckedInOrder) {
   EXPECT_EQ(AddStadium(stadiums, "Mill", "5"), Texts{"i: Mill already exists"});
 }
 
-TEST_F(EditorsTest, NothingChangesUnlessTheUserSaysYesAndTheLastStadiumStays) {
+TEST_F(EditorsTest, NothingChangesUnlessTheUserSaysYes) {
   AddTeams({"C"});
   TeamEditor teams = OpenTeams();
   StadEditor stadiums(folder_.Folder, desktop_);
@@ -74,39 +74,31 @@ TEST_F(EditorsTest, NothingChangesUnlessTheUserSaysYesAndTheLastStadiumStays) {
                                      "? (No): Are you sure you want to delete Twelfth?",
                                      "? (No): Are you sure you want to remove Park?"}));
   EXPECT_EQ(folder_.Files.All(), before);
-  desktop_.Yes = true;
-  Write("settings.cfg", "");
-  stadiums.Command1_Click();
-  stadiums.Command1_Click();
-  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("1\nA\nMill\nLeat\n9\n"));
-  EXPECT_FALSE(Exists("settings.cfg"));
-  EXPECT_EQ(desktop_.Taken().back(), "!: You can't delete any more stadium.");
 }
 
-TEST_F(EditorsTest, TeamsAreAddedToTheStandingsAndDeletedDownToTwo) {
+TEST_F(EditorsTest, DeletingStopsAtTwoTeamsElevenPlayersAndOneStadium) {
   const std::string row = "A\n1\n1\n0\n0\n2\n1\n3\n";
   Write("Leagues/Top.rec", row);
-  Write("settings.cfg", "");
-  TeamEditor editor = OpenTeams();
-  AddTeam(editor, "C", "05");
+  TeamEditor teams = OpenTeams();
+  StadEditor stadiums(folder_.Folder, desktop_);
+  AddPlayer(teams, "Twelfth", "5");
+  AddTeam(teams, "C", "05");
   EXPECT_EQ(Bytes("Leagues/Top.rec"), AsWritten(row + "C\n0\n0\n0\n0\n0\n0\n0\n"));
-  editor.Command5_Click();
-  EXPECT_EQ(ListTeams(folder_.Folder), (Texts{"A", "B"}));
+  AddStadium(stadiums, "Park", "5");
+  const auto deleteTwice = [this](auto& editor, auto deletion) {
+    Write("settings.cfg", "");
+    for (int times = 0; times < 2; ++times) (editor.*deletion)();
+    return desktop_.Taken().back();
+  };
+  EXPECT_EQ(deleteTwice(teams, &TeamEditor::Command5_Click), "!: You can't delete any more team.");
   EXPECT_FALSE(Exists("settings.cfg"));
-  editor.Command5_Click();
-  EXPECT_EQ(desktop_.Taken().back(), "!: You can't delete any more team.");
-}
-
-TEST_F(EditorsTest, PlayersAreDeletedDownToEleven) {
-  TeamEditor editor = OpenTeams();
-  AddPlayer(editor, "Ann", "5");
-  editor.List1_Click(1);
-  editor.Command6_Click();
-  EXPECT_EQ(editor.List1.Text(), "A0");
+  EXPECT_EQ(deleteTwice(stadiums, &StadEditor::Command1_Click), "!: You can't delete any more stadium.");
+  EXPECT_FALSE(Exists("settings.cfg"));
+  teams.List1_Click(1);
+  EXPECT_EQ(deleteTwice(teams, &TeamEditor::Command6_Click), "!: You can't delete any more players.");
+  EXPECT_EQ(ListTeams(folder_.Folder), (Texts{"A", "B"}));
+  EXPECT_EQ(Bytes("stadiums.sim"), AsWritten("1\nA\nMill\nLeat\n9\n"));
   EXPECT_EQ(OpenTeams().List1.PlaceOf("A1"), ItemList::None);
-  editor.Command6_Click();
-  EXPECT_EQ(desktop_.Taken().back(), "!: You can't delete any more players.");
-  EXPECT_EQ(editor.List1.Count(), 11);
 }
 
 TEST_F(EditorsTest, AFileThatCannotBeReadIsReportedOnceAndKept) {

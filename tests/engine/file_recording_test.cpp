@@ -31,12 +31,9 @@ class FileRecordingTest : public ScreenTest {
                       [this](const std::string& file) { selectedAgain_.push_back(file); }};
 };
 
-TEST_F(FileRecordingTest, NothingOfAFriendlyIsRecorded) {
+TEST_F(FileRecordingTest, GoalsOfChampionshipsAddUpByThePlayersName) {
   Score(MatchMode::Friendly, "Ann", "Rovers");
   EXPECT_TRUE(folder_.Files.All().empty());
-}
-
-TEST_F(FileRecordingTest, GoalsAddUpByThePlayersName) {
   Score(MatchMode::League, "Ann", "Rovers");
   Score(MatchMode::League, "Bo", "United");
   Score(MatchMode::League, "Ann", "United");  // A namesake: one tally, the first team stays.

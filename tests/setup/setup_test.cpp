@@ -80,11 +80,11 @@ TEST_F(SetupTest, TheLastPlayerChosenTwiceIsReported) {
 }
 
 /// A line-up whose first players have these positions, while the others play in no line.
-LineUp LineUpOf(const Texts& positions) {
+LineUp LineUpOf(Texts positions) {
+  positions.resize(SlotCount, "SWEEPER");
   LineUp side;
   for (int slot = 0; slot < SlotCount; ++slot) {
-    const bool given = slot < Count(positions);
-    side.Squad.push_back({std::to_string(slot), "61", given ? At(positions, slot) : "SWEEPER"});
+    side.Squad.push_back({std::to_string(slot), "61", At(positions, slot)});
     side.Choose(slot, slot);
   }
   return side;

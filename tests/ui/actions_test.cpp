@@ -129,6 +129,7 @@ TEST_F(ActionsTest, ARankingIsTurnedByKeyboardAndItsBarFollows) {
   expectBarOn(1);
   QTest::keyClick(&window, Qt::Key_Down);
   expectBarOn(2);
+  EXPECT_EQ(window.findChild<QLabel*>("Team(1)")->foregroundRole(), QPalette::WindowText);
   QTest::mouseMove(row(9));
   expectBarOn(9);
   Watch watch(window);

@@ -57,6 +57,7 @@ TEST_F(KeysTest, APlayersLineAndSideAreTypedAndEnterAddsHim) {
   TeamEditor editor(folder_.Folder, desktop_, "N/A");
   TeamEditorWindow window(editor, nullptr);
   Show(window);
+  EXPECT_EQ(window.findChild<QWidget*>("Text4")->accessibleName(), "Add Players, Skill (1 - 99)");
   window.findChild<QWidget*>("Text2")->setFocus();
   // A skill of 0 is refused and typed over; the line takes the side behind it.
   for (const char* keys : {"Ann\t", "0\r", "71\t", "mr\r", "Bea"}) Type(window, keys);
@@ -65,13 +66,18 @@ TEST_F(KeysTest, APlayersLineAndSideAreTypedAndEnterAddsHim) {
 }
 
 TEST_F(KeysTest, TeamsAreFoundByTypingOneAfterTheOther) {
-  AddTeams({"Albion", "Kestrel", "Tully"});
+  AddTeams({"Albion", "Dale", "Kestrel", "Tully"});
   LegEditor editor(folder_.Folder, desktop_, random_);
   LegEditorWindow window(editor, nullptr);
   Show(window);
   window.findChild<QWidget*>("LeagueAvailable")->setFocus();
   for (const char* keys : {"kes\r", "tul\r"}) Type(window, keys);
   EXPECT_EQ(User::LinesOf(window, "LeagueSelected"), (QStringList{"Kestrel", "Tully"}));
+  const auto* const teams = window.findChild<QListWidget*>("LeagueAvailable");
+  const QPoint first = teams->visualItemRect(teams->item(0)).center();
+  QTest::mouseClick(teams->viewport(), Qt::LeftButton, {}, first);
+  QTest::mouseDClick(teams->viewport(), Qt::LeftButton, {}, first);
+  EXPECT_EQ(User::LinesOf(window, "LeagueAvailable"), QStringList{"Dale"});
 }
 
 TEST_F(KeysTest, TheFixtureListPlaysTheFramedMatchAndSelectsWithoutHoles) {
@@ -119,7 +125,6 @@ TEST_F(KeysTest, TheFixtureListPlaysTheFramedMatchAndSelectsWithoutHoles) {
   EXPECT_EQ(played, (std::vector{5, 8}));
 }
 
-/// A shoot-out that is over after the fifth pair of kicks, whose taker kicks by Enter alone.
 TEST_F(KeysTest, EnterPlaysAMatchToItsEndAndLeavesItOnlyWhenTheResultWasSeen) {
   MatchSetup setup = MakeFullSetup();
   setup.ExtraTime = setup.PenaltyShootOut = true;
@@ -135,7 +140,14 @@ TEST_F(KeysTest, EnterPlaysAMatchToItsEndAndLeavesItOnlyWhenTheResultWasSeen) {
     User::Press(window, Qt::Key_Space);
   }
   User::Press(window, Qt::Key_Return);
+  const auto goal = [&window] { return window.findChild<QWidget*>("Picture1")->grab().toImage(); };
+  const QImage onTheSpot = goal();
+  User::Press(window, Qt::Key_Return);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return goal() != onTheSpot; }));  // The ball has left the spot.
   while (!match.Session().IsOver()) User::Press(window, Qt::Key_Return);
+  window.findChild<QWidget*>("ComSave")->setFocus();
+  EXPECT_TRUE(window.findChild<QPushButton*>("ComSave")->isDefault());
+  window.findChild<QWidget*>("List1(1)")->setFocus();
   for (int more = 0; more < 3; ++more) User::Press(window, Qt::Key_Return);
   EXPECT_FALSE(match.Closed());
   EXPECT_TRUE(QTest::qWaitFor([&] { return window.findChild<QPushButton*>("Command1")->isDefault(); }));

@@ -3,6 +3,8 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTimer>
 #include <QWheelEvent>
 #include <QtTest/QSignalSpy>
@@ -18,9 +20,11 @@
 #include "ui/widgets/line_list.h"
 #include "ui/widgets/pitch_picture.h"
 #include "ui/widgets/text_box.h"
+#include "ui/windows/knock_charts_window.h"
 #include "ui/windows/leg_results_window.h"
 #include "ui/windows/match_window.h"
 #include "ui/windows/ranking_window.h"
+#include "ui/windows/team_editor_window.h"
 #include "user.h"
 
 namespace kickwell {
@@ -122,6 +126,7 @@ TEST_F(WindowsTest, ABoxTakesAnyTextThatFitsAndLosesNothingForMore) {
 
 TEST_F(WindowsTest, AWindowOpensWhereItsUserLeftIt) {
   QWidget menu;
+  menu.show();
   const auto open = [&](const QRect& moveTo) {
     LegResults results(folder_.Folder, desktop_, {ChampionshipKind::League, "Top"});
     LegResultsWindow window(results, &menu);
@@ -129,12 +134,47 @@ TEST_F(WindowsTest, AWindowOpensWhereItsUserLeftIt) {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     const QRect opened = window.geometry();
     if (!moveTo.isNull()) window.setGeometry(moveTo);
+    menu.activateWindow();  // Leaving the window for a moment changes nothing.
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&menu));
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     window.close();
     return opened;
   };
   const QRect first = open({}), left(50, 60, 500, 400);
   EXPECT_EQ(open(left), first);
   EXPECT_EQ(open({}), left);
+  KnockCharts charts(folder_.Folder, desktop_, "Cup");
+  KnockChartsWindow other(charts, &menu);
+  EXPECT_NE(other.geometry().size(), left.size());  // Each kind of window has a place of its own.
+}
+
+TEST_F(WindowsTest, APageStaysWhereItsUserReadsAndTheChartsTypeGrowsBack) {
+  AddTeams({"A", "B"});
+  TeamEditor teams(folder_.Folder, desktop_, "N/A");
+  TeamEditorWindow editor(teams, nullptr);
+  editor.setMinimumSize(1, 1);
+  editor.show();
+  editor.resize(300, 200);
+  editor.findChild<QWidget*>("Combo3")->setFocus();
+  auto* const bar = editor.findChild<QScrollArea*>()->verticalScrollBar();
+  bar->setValue(bar->maximum());
+  User::Click(editor, "Command1");
+  EXPECT_EQ(bar->value(), bar->maximum());
+
+  const std::string team(30, 'W');
+  Write("Tournies/Cup.trn", "1\nCup\n2\n" + team + "\nB\nNP\n" + team + "\nB\nWinner 1\n");
+  KnockCharts charts(folder_.Folder, desktop_, "Cup");
+  KnockChartsWindow chart(charts, nullptr);
+  chart.show();
+  const auto typeAt = [&chart](int width) {
+    chart.resize(width, 400);
+    QCoreApplication::processEvents();
+    return chart.findChild<QLabel*>("team(0)")->font().pointSizeF();
+  };
+  const qreal usual = typeAt(1500);
+  EXPECT_LT(typeAt(500), usual);
+  EXPECT_EQ(typeAt(1500), usual);
 }
 
 TEST_F(WindowsTest, ADocumentThatCannotBeOpenedIsToldAndNoOther) {

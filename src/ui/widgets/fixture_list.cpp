@@ -34,7 +34,7 @@ void FixtureList::SelectRange(int first, int last) {
 
 void FixtureList::Frame(int row) {
   constexpr int Before = 2;
-  extends_ = false;
+  extends_ = chosen_ = false;
   if (row == ItemList::None) return scrollToBottom();
   selectionModel()->setCurrentIndex(model()->index(row, 0), QItemSelectionModel::NoUpdate);
   scrollToItem(item(std::max(row - Before, 0)), PositionAtTop);
@@ -68,7 +68,7 @@ void FixtureList::keyPressEvent(QKeyEvent* event) {
   const bool framed = currentIndex().isValid();
   const bool apart = framed && !selectionModel()->isSelected(currentIndex());
   if (IsEnterPress(*event)) {
-    if (apart) SelectFramed();
+    if (apart || (framed && !chosen_)) SelectFramed();
     return event->ignore();
   }
   switch (event->key()) {
@@ -83,6 +83,11 @@ void FixtureList::keyPressEvent(QKeyEvent* event) {
       if (event->modifiers().testFlag(Qt::ShiftModifier)) ExtendFromRange();
       SteadyList::keyPressEvent(event);
   }
+}
+
+void FixtureList::selectionChanged(const QItemSelection& now, const QItemSelection& before) {
+  chosen_ = true;
+  SteadyList::selectionChanged(now, before);
 }
 
 void FixtureList::mousePressEvent(QMouseEvent* event) {

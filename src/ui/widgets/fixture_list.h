@@ -9,7 +9,8 @@ namespace kickwell {
 
 /// A list whose selection is always one range of rows, without holes: whatever the user selects, all rows
 /// from the first to the last of it are selected. The row with the frame need not be among them. The first
-/// arrow key or a blank selects it; Enter selects it, too, and goes on to the window.
+/// arrow key or a blank selects it. Enter selects it, too, unless it lies in a range of the user's, and goes
+/// on to the window.
 class FixtureList final : public SteadyList {
  public:
   explicit FixtureList(const QString& objectName);
@@ -27,6 +28,7 @@ class FixtureList final : public SteadyList {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void selectionChanged(const QItemSelection& now, const QItemSelection& before) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
 
@@ -34,6 +36,7 @@ class FixtureList final : public SteadyList {
   void SelectFramed();
   void ExtendFromRange();
 
+  bool chosen_ = false;   ///< The selection has changed since Frame.
   bool extends_ = false;  ///< Qt extends the selection from an end of the range.
   bool starts_ = false;   ///< A selection starts, whatever keys are held.
 };

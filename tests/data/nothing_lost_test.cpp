@@ -6,7 +6,6 @@
 #include <functional>
 #include <memory>
 
-#include "championship/championship_play.h"
 #include "data/championship_store.h"
 #include "data/journal.h"
 #include "data/text_file.h"
@@ -241,10 +240,7 @@ TEST(NothingLost, NothingBuildsOnAnUnfinishedChange) {
   season.Write("Leagues/Cup.rec/in the way", "");
   season.Write(Journal, "Kickwell journal 1\n" + Temporary + "\nLeagues/Cup.rec\nEnd\n");
   const Files before = season.Files.All();
-  FakeDesktop desktop;
-  const ChampionshipPlay play(ChampionshipKind::League, season.Folder, desktop, [](const std::string&) {},
-                              {});
-  EXPECT_EQ(play.FixtureList.Count(), 0);
+  EXPECT_FALSE(ReadChampionship(season.Folder, League).Value);
   for (const Change& change : {LeagueMatch, ReplacedLeague}) {
     EXPECT_FALSE(change.Make(season.Folder).Ok()) << change.Name;
   }

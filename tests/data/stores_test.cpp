@@ -1,7 +1,6 @@
 // What files may be called, how their text is encoded, and what the stores take from damaged ones.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 
 #include "data/championship_store.h"
@@ -29,7 +28,6 @@ TEST(FileNames, RefusesWhatSomeSystemCannotName) {
   EXPECT_TRUE(IsFileName(std::string(255, 'a')));
   EXPECT_FALSE(IsFileName(std::string(256, 'a')));
   EXPECT_FALSE(IsFileName(std::string_view("a\0b", 3)));
-  EXPECT_EQ(FileNameRefusal("a:b"), "a:b can't be used as a file name.");
 }
 
 TEST(FileNames, ListsFilesByTheirLettersWhateverTheirCaseAndAccents) {
@@ -40,7 +38,6 @@ TEST(FileNames, ListsFilesByTheirLettersWhateverTheirCaseAndAccents) {
   TestFolder folder;
   for (const std::string& name : sorted) folder.Write(name, "");
   EXPECT_EQ(ListFiles(folder.Files, folder.Folder.Root), sorted);
-  EXPECT_TRUE(std::ranges::is_sorted(sorted, ListedBefore));
   EXPECT_EQ(OrderKey("ȺȾɃƁƊƓƗƝƟƮƲŸŽẞΣЖԞՖ"), OrderKey("ⱥⱦƀɓɗɠɨɲɵʈʋÿžßςжԟֆ"));
   EXPECT_EQ(ListFiles(folder.Files, folder.Folder.Root, ".leg"), std::vector<std::string>{"a.leg"});
 }
@@ -145,7 +142,6 @@ TEST_F(StoresTest, ADamagedChampionshipGivesItsCompleteTeamsAndFixtures) {
   const std::tuple<const char*, std::size_t, std::size_t> leagues[] = {
       {"L\n1000000000\nA\nB\n2", 3, 0},
       {"L\n2\nA\nB\n1000000000\nNP\nA\nB\nNP\nA", 2, 1},
-      {"L\n2\nA\nB\nmany\nNP\nA\nB", 2, 0},
       {"L\n4\n2\n1\nNP\nA\n1\nP\nB\nA", 4, 1},  // Team lines may look like anything.
   };
   for (const auto& [text, teams, fixtures] : leagues) {

@@ -122,7 +122,7 @@ User& User::Pick(const QString& combo, int entry) {
 }
 
 User& User::Type(const QString& box, const QString& text) {
-  return Do([box, text](QWidget& window) { Type(window, box, text); });
+  return Do([box, text](QWidget& window) { Type(window, box, text.toUtf8().constData()); });
 }
 
 User& User::Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
@@ -171,11 +171,11 @@ void User::Select(QWidget& window, const QString& list, int row) {
   QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place.center());
 }
 
-void User::Type(QWidget& window, const QString& box, const QString& text) {
+void User::Type(QWidget& window, const QString& box, const char* text) {
   auto& edit = Find<QLineEdit>(window, box);
   edit.setFocus();
   edit.selectAll();
-  QTest::keyClicks(&edit, text);
+  QTest::keyClicks(&edit, QString::fromUtf8(text));
 }
 
 void User::Choose(QWidget& window, Qt::Key menu, Qt::Key item) {

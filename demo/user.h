@@ -47,7 +47,7 @@ class User {
   static void Click(QWidget& window, const QString& button);
   static void Pick(QWidget& window, const QString& combo, int entry);
   static void Select(QWidget& window, const QString& list, int row);
-  static void Type(QWidget& window, const QString& box, const QString& text);
+  static void Type(QWidget& window, const QString& box, const char* text);
   static void Press(QWidget& window, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   static void Choose(QWidget& window, Qt::Key menu, Qt::Key item);
   static QString TextOf(QWidget& window, const QString& control);

@@ -29,7 +29,7 @@ std::string EditorSide::FixtureNote() const {
   if (others == 0) return {};
   return (others == 1 ? "1 fixture has" : std::to_string(others) + " fixtures have") +
          " a team that is not in the " + (IsLeague() ? "league" : "knock-out") +
-         ". Press Auto Fixtures to make all fixtures anew.";
+         ". Press Auto Fixtures to make all fixtures anew, or add the team again.";
 }
 
 LegEditor::LegEditor(ProgramFolder folder, Desktop& desktop, Random& random)

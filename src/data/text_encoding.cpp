@@ -157,7 +157,7 @@ std::string Decode(std::string_view bytes) {
     if (c == '\n' && !text.ends_with('\r')) text += '\r';
     text += c;
   }
-  if (!text.empty() && !text.ends_with('\n')) text += "\r\n";
+  if (!text.empty() && !text.ends_with('\n')) text += text.ends_with('\r') ? "\n" : "\r\n";
   return text;
 }
 

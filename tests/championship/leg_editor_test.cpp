@@ -145,7 +145,7 @@ TEST_F(LegEditorTest, AKnockOutIsSavedAndLoadedWithItsNumberOfTeams) {
 }
 
 TEST_F(LegEditorTest, FixturesOfATeamThatWasRemovedAreToldApart) {
-  const std::string advice = ". Press Auto Fixtures to make all fixtures anew.";
+  const std::string advice = ". Press Auto Fixtures to make all fixtures anew, or add the team again.";
   for (EditorSide* const side : {&league_, &knockOut_}) {
     Select(*side, 2);
     editor_.AutoFixtures_Click(*side);

@@ -272,7 +272,8 @@ TEST_F(ActionsTest, TheChampionshipEditorShowsBothItsSides) {
   User::Click(window, "LeagueRemoveTeam");
   EXPECT_EQ(watch.Changed("^(Away|Home|LeagueAvailable|LeagueSelected)|is described"),
             "LeagueFixtureNote is enabled; LeagueFixtureNote: 1 fixture has a team that is not in the "
-            "league. Press Auto Fixtures to make all fixtures anew.; LeagueFixtures offers Match 1: City v "
+            "league. Press Auto Fixtures to make all fixtures anew, or add the team again.; LeagueFixtures "
+            "offers Match 1: City v "
             "Albion / Match 1: City v Albion, Not in the league; LeagueTeamCount: 1");
   EXPECT_NE(window.findChild<QListWidget*>("LeagueFixtures")->item(0)->foreground(), window.palette().text());
 

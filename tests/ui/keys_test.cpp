@@ -63,6 +63,10 @@ TEST_F(KeysTest, APlayersLineAndSideAreTypedAndEnterAddsHim) {
   for (const char* keys : {"Ann\t", "0\r", "71\t", "mr\r", "Bea"}) Type(window, keys);
   EXPECT_EQ(User::TextOf(window, "Label5"), "MFR");
   EXPECT_EQ(editor.Text2, "Bea");
+  desktop_.Taken();
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QApplication::sendEvent(window.focusWidget(), &held);
+  EXPECT_EQ(desktop_.Taken(), Texts{});  // A key that is held down presses once.
 }
 
 TEST_F(KeysTest, TeamsAreFoundByTypingOneAfterTheOther) {
@@ -123,6 +127,14 @@ TEST_F(KeysTest, TheFixtureListPlaysTheFramedMatchAndSelectsWithoutHoles) {
   EXPECT_EQ(User::TextOf(window, "RangeText"), "Matches 8 to 12 are to be played.");
   QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, {}, eighth);
   EXPECT_EQ(range(), "8 to 8");
+  choose(1, 2);
+  fixtures->resize(300, 60);
+  fixtures->scrollToBottom();  // The range is out of sight.
+  const QPoint twelfth = fixtures->visualItemRect(fixtures->item(11)).center();
+  QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, Qt::ShiftModifier, twelfth);
+  EXPECT_EQ(range(), "1 to 12");
+  fixtures->resize(300, 400);
+  QTest::mouseClick(fixtures->viewport(), Qt::LeftButton, {}, eighth);
   QTest::mouseDClick(fixtures->viewport(), Qt::LeftButton, {}, eighth);
   EXPECT_EQ(played.back(), 8);
   Write("Leagues/Top.leg", "Top\n2\nA\nB\n3\nP\nA\nB\nNP\nA\nB\nNP\nA\nB\n");

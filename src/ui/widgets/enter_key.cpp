@@ -12,6 +12,7 @@ class EnterFilter final : public QObject {
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     if (!IsEnterPress(*event) || !watched->isWidgetType()) return false;
+    if (static_cast<QKeyEvent*>(event)->isAutoRepeat()) return true;  // Also in boxes over the window.
     const bool takesEnter = watched->inherits("QComboBox") || watched->inherits("QAbstractButton");
     if (!takesEnter || static_cast<QWidget*>(watched)->window() != window_) return false;
     event->ignore();  // Qt passes it on to the control's parents.

@@ -10,7 +10,8 @@ namespace kickwell {
 bool IsEnterPress(const QEvent& event);
 
 /// Takes Enter past the controls of `window`, to the section or the window around them. On some desktops the
-/// theme would let Enter open a drop-down list, tick a box or press a button by itself.
+/// theme would let Enter open a drop-down list, tick a box or press a button by itself. As long as the window
+/// exists, a key that is held down presses once: it must not run through boxes and screens.
 void TakeEnterPastControls(QWidget* window);
 
 }  // namespace kickwell

@@ -28,8 +28,13 @@ void FixtureList::SelectRange(int first, int last) {
   const QSignalBlocker quiet(this);
   clearSelection();
   if (first < 0 || last < first || last >= this->count()) return;
-  selectionModel()->select({model()->index(first, 0), model()->index(last, 0)}, QItemSelectionModel::Select);
+  Select(first, last);
   for (const int row : {last, first}) scrollToItem(item(row));
+}
+
+void FixtureList::Select(int first, int last) {
+  selectionModel()->select({model()->index(first, 0), model()->index(last, 0)},
+                           QItemSelectionModel::ClearAndSelect);
 }
 
 void FixtureList::Frame(int row) {
@@ -45,18 +50,20 @@ void FixtureList::SelectFramed() {
   selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
 }
 
-/// Makes the range that is selected the one that Shift extends, at its end.
+/// Makes the range that is selected the one that Shift extends, at its end. Nothing scrolls: a click must
+/// reach the row under the mouse.
 void FixtureList::ExtendFromRange() {
   if (std::exchange(extends_, true)) return;
   const auto [first, last] = Range();
   if (first == ItemList::None) return;
   const QSignalBlocker quiet(this);
+  setAutoScroll(false);
   starts_ = true;
   setCurrentIndex(model()->index(first, 0));  // Qt extends from here.
   starts_ = false;
-  SelectRange(first, last);
+  Select(first, last);
   selectionModel()->setCurrentIndex(model()->index(last, 0), QItemSelectionModel::NoUpdate);
-  extends_ = true;
+  setAutoScroll(true);
 }
 
 QItemSelectionModel::SelectionFlags FixtureList::selectionCommand(const QModelIndex& index,
@@ -68,9 +75,11 @@ void FixtureList::keyPressEvent(QKeyEvent* event) {
   const bool framed = currentIndex().isValid();
   const bool apart = framed && !selectionModel()->isSelected(currentIndex());
   if (IsEnterPress(*event)) {
-    if (apart || (framed && !chosen_)) SelectFramed();
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
+    if (plain && (apart || (framed && !chosen_))) SelectFramed();
     return event->ignore();
   }
+  chosen_ = true;
   switch (event->key()) {
     case Qt::Key_Space:
       if (framed) SelectFramed();
@@ -85,12 +94,8 @@ void FixtureList::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-void FixtureList::selectionChanged(const QItemSelection& now, const QItemSelection& before) {
-  chosen_ = true;
-  SteadyList::selectionChanged(now, before);
-}
-
 void FixtureList::mousePressEvent(QMouseEvent* event) {
+  chosen_ = true;
   if (event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier)) ExtendFromRange();
   SteadyList::mousePressEvent(event);
 }

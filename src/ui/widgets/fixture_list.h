@@ -22,21 +22,24 @@ class FixtureList final : public SteadyList {
   /// selected already.
   void SelectRange(int first, int last);
 
+  /// Takes the range that is selected as the user's own.
+  void MarkChosen() { chosen_ = true; }
+
   /// Puts the frame on `row`, below some of the rows before it, and selects nothing.
   void Frame(int row);
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
-  void selectionChanged(const QItemSelection& now, const QItemSelection& before) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                        const QEvent* event) const override;
 
  private:
+  void Select(int first, int last);
   void SelectFramed();
   void ExtendFromRange();
 
-  bool chosen_ = false;   ///< The selection has changed since Frame.
+  bool chosen_ = false;   ///< The user has chosen a range since Frame.
   bool extends_ = false;  ///< Qt extends the selection from an end of the range.
   bool starts_ = false;   ///< A selection starts, whatever keys are held.
 };

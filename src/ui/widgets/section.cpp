@@ -47,6 +47,7 @@ void Section::AddButton(QPushButton* button) {
 bool Section::event(QEvent* event) {
   if (!IsEnterPress(*event)) return QGroupBox::event(event);
   // A group box without a button leaves Enter to the window; QGroupBox would keep it on some desktops.
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call)
   if (button_ == nullptr) return QWidget::event(event);
   button_->click();
   return true;

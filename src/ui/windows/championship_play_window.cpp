@@ -50,8 +50,14 @@ ChampionshipPlayWindow::ChampionshipPlayWindow(ChampionshipPlay& play, Champions
   SetButtons({.Right = {command1, command2}});
 
   OnPick(championships_, [this](int entry) { play_.Championships_Click(entry); });
-  OnPick(from_, [this](int entry) { play_.From_Click(entry); });
-  OnPick(to_, [this](int entry) { play_.To_Click(entry); });
+  OnPick(from_, [this](int entry) {
+    play_.From_Click(entry);
+    fixtures_->MarkChosen();
+  });
+  OnPick(to_, [this](int entry) {
+    play_.To_Click(entry);
+    fixtures_->MarkChosen();
+  });
   connect(fixtures_, &QListWidget::itemSelectionChanged, this, [this] { Act([this] { PickRange(); }); });
   connect(fixtures_, &QListWidget::itemDoubleClicked, this,
           [this] { Act([this] { play_.Command1_Click(); }); });

@@ -73,6 +73,7 @@ void LegEditorWindow::OnActivate(QListWidget* list, QPushButton* move) {
   for (const Qt::Key enter : {Qt::Key_Return, Qt::Key_Enter}) {
     auto* const key = new QShortcut(enter, list);
     key->setContext(Qt::WidgetShortcut);
+    key->setAutoRepeat(false);
     connect(key, &QShortcut::activated, move, &QPushButton::click);
   }
 }
@@ -267,7 +268,7 @@ void LegEditorWindow::ShowFixtures(const SideWidgets& widgets, const EditorSide&
   const QString note = ToQt(side.FixtureNote());
   widgets.FixtureNote->setText(note);
   widgets.FixtureNote->setVisible(!note.isEmpty());
-  if (!note.isEmpty()) SetDescription(widgets.Fixtures, note);
+  if (widgets.Fixtures->count() > 0) SetDescription(widgets.Fixtures, note);  // An empty list has its hint.
 }
 
 }  // namespace kickwell

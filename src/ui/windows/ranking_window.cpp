@@ -154,6 +154,7 @@ void RankingWindow::Refresh() {
     }
     QWidget* const marker = At(markers_, r - 1);
     marker->setVisible(r <= pages.RowCount());
+    marker->setEnabled(r <= pages.RowCount());
     SetName(marker, announced.join(", "));
     marker->setToolTip(PlainTip(names.join(", ")));
   }

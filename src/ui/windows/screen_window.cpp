@@ -97,7 +97,6 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
 void ScreenWindow::keyPressEvent(QKeyEvent* event) {
   auto* const button = qobject_cast<QPushButton*>(focusWidget());
   const bool enter = IsEnterPress(*event);
-  if (enter && event->isAutoRepeat()) return;  // A key held down must not run through the screens.
   if (enter && button != nullptr) {
     button->click();
   } else {

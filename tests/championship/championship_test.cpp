@@ -201,7 +201,6 @@ TEST_F(ChampionshipPlayTest, OnlyAChampionshipUnderItsOwnNameIsPlayed) {
   Write("Leagues/Empty.leg", "Empty\n0\n0\n");
   ChampionshipPlay play = Open(League);
   EXPECT_EQ(play.Championships.Text(), "Cut.leg");  // The first that can be played.
-  EXPECT_EQ(play.FixtureList.Count(), 1);           // All that the file holds.
   play.Championships_Click(0);
   EXPECT_EQ(play.Championships.Text(), "Cut.leg");
   EXPECT_EQ(current_, "Cut");

@@ -6,13 +6,11 @@
 namespace kickwell {
 namespace {
 
-using Pairings = std::vector<Pairing>;
-
 TEST(Fixtures, OfAKnockOutPairTheHalvesInADrawnOrder) {
   ScriptedRandom random;
   random.Expect({{2, 0}, {2, 1}, {2, 0, 2}});  // The first and the second change places.
   EXPECT_EQ(KnockOutFixture({"A", "B", "C", "D"}, random),
-            (Pairings{{"B", "D"}, {"A", "C"}, {"Winner 1", "Winner 2"}}));
+            (std::vector<Pairing>{{"B", "D"}, {"A", "C"}, {"Winner 1", "Winner 2"}}));
 }
 
 TEST(Fixtures, AreAKnockOutWhenEveryEntryIsStillIn) {

@@ -13,11 +13,6 @@ namespace {
 
 class MatchTest : public ScreenTest {
  protected:
-  /// The session of a match that opens with the draws laid ready.
-  MatchSession Open(const MatchSetup& setup) {
-    return Match(folder_.Folder, desktop_, draws_, recording_, setup).Session();
-  }
-
   /// The session of a match that was played at once.
   MatchSession Play(MatchMode mode, Random& random) {
     Match match(folder_.Folder, desktop_, random, recording_, MakeSetup(mode));
@@ -40,14 +35,16 @@ TEST_F(MatchTest, ALeagueMatchIsPlayedAtTheFirstStadiumOfTheHomeTeamOrAtTheLastO
   Write("stadiums.sim", "3\n" + bowl + mill + "Rovers\nOld Mill\nLeat\n300\n");
   draws_.Expect({{3, 2}, Rainy, TooSmallCrowd, Crowd});  // One is drawn for the stadium before it.
   draws_.DrawGoalNumber();
-  const MatchSession home = Open(MakeSetup(MatchMode::League));
+  const MatchSession home =
+      Match(folder_.Folder, desktop_, draws_, recording_, MakeSetup(MatchMode::League)).Session();
   EXPECT_EQ(home.Venue, "The Mill, Leat");
   EXPECT_EQ(home.Attendance, 56);  // 0.57 x 100 lies just below 57.
   EXPECT_FALSE(home.ExtraTime || home.PenaltyShootOut);
   Write("stadiums.sim", "2\n" + bowl + "United\nPark\nLey\n300\n");
   draws_.Expect({{2, 0}, {2, 1}, Rainy, Crowd});
   draws_.DrawGoalNumber();
-  EXPECT_EQ(Open(MakeSetup(MatchMode::KnockOut)).Venue, "Park, Ley");
+  const Match away(folder_.Folder, desktop_, draws_, recording_, MakeSetup(MatchMode::KnockOut));
+  EXPECT_EQ(away.Session().Venue, "Park, Ley");
 }
 
 TEST_F(MatchTest, AnInstantMatchIsPlayedToItsLastSecondOrToAGoldenGoal) {

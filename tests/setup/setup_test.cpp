@@ -36,6 +36,11 @@ TEST_F(SetupTest, AMatchNeedsTwoTeamsAndAVenue) {
   AddTeams({"B"});
   OpenSettings().Command1_Click();
   EXPECT_EQ(desktop_.Taken(), Texts(3, "i: Please make all the settings properly"));
+  ASSERT_TRUE(SaveStadiums(folder_.Folder, {{"A", "Mill", "Leat", "100"}}).Ok());
+  Settings complete = OpenSettings();
+  complete.Combo5_Click(3);
+  complete.Command1_Click();
+  EXPECT_EQ(opened_.at(0).Weather.Text, "Warm & Humid");
 }
 
 TEST_F(SetupTest, TheFirstElevenAreHandedOverInSlotOrder) {

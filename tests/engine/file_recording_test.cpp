@@ -61,7 +61,7 @@ TEST_F(FileRecordingTest, ALeagueMatchUpdatesStandingsResultsAndItsFixture) {
 }
 
 TEST_F(FileRecordingTest, AKnockOutWinnerGoesWhereHisMatchIsWaitedFor) {
-  const std::string teams = "3\nCup\n4\nRovers\nUnited\nAlbion\nCity\n";
+  const std::string teams = "4\nCup\n4\nRovers\nUnited\nAlbion\nCity\n";
   Write("Tournies/Cup.trn",
         teams + "NP\nRovers (By Toss)\nUnited\nWinner 1\n" +  // Through by toss, without a team so called.
             "NP\nAlbion\nWinner 4\nWinner 2\nNP\nWinner 1\nCity\nWinner 3\nNP\nWinner 11\nCity\nWinner 4\n");

@@ -7,6 +7,7 @@
 #include <QLinearGradient>
 #include <QPainter>
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 #include "base/at.h"
@@ -90,7 +91,10 @@ MatchWindow::MatchWindow(Match& match, MatchTimings timings, QWidget* parent)
   Page()->addLayout(place);
   Page()->addLayout(field, 3);
   Page()->addLayout(BuildLists(), 2);
-  AddButtons();
+  SetButtons({.Left = {halftime_, instant_, kick_, nextshot_}, .Right = {comSave_, command1_}});
+  // Without a text box to take Enter from, the button with the focus may show that Enter presses it.
+  for (QPushButton* const button : {halftime_, instant_, kick_, nextshot_, comSave_})
+    button->setAutoDefault(true);
 
   timer1_.setObjectName("Timer1");
   timer1_.setTimerType(Qt::PreciseTimer);
@@ -246,13 +250,6 @@ QLayout* MatchWindow::BuildLists() {
   return layout;
 }
 
-void MatchWindow::AddButtons() {
-  SetButtons({.Left = {halftime_, instant_, kick_, nextshot_}, .Right = {comSave_, command1_}});
-  // Without a text box to take Enter from, the button with the focus may show that Enter presses it.
-  for (QPushButton* const button : {halftime_, instant_, kick_, nextshot_, comSave_})
-    button->setAutoDefault(true);
-}
-
 void MatchWindow::PauseFunction() {
   QEventLoop pause;
   QTimer::singleShot(timings_.GoalPause, Qt::PreciseTimer, &pause, &QEventLoop::quit);
@@ -306,26 +303,25 @@ void MatchWindow::TellState(const MatchSession& session) {
 }
 
 void MatchWindow::ShowSide(const SideWidgets& widgets, const Side& side, bool hasBall) const {
-  const bool pens = match_.Session().Controls.PensVisible;
   const QString team = Shown(side.Team);
-  SetFigureCaption(widgets.Goals, team + ", goals");
+  const std::tuple<QLabel*, const char*, int> figures[] = {{widgets.Goals, ", goals", side.Goals},
+                                                           {widgets.Shots, ", shots", side.Shots},
+                                                           {widgets.Corners, ", corners", side.Corners},
+                                                           {widgets.Bookings, ", bookings", side.Bookings},
+                                                           {widgets.Fouls, ", fouls", side.Fouls}};
+  for (const auto& [label, caption, figure] : figures) {
+    SetFigureCaption(label, team + caption);
+    label->setText(QString::number(figure));
+  }
   SetFigureCaption(widgets.Penalties, team + ", penalties");
-  SetFigureCaption(widgets.Shots, team + ", shots");
-  SetFigureCaption(widgets.Corners, team + ", corners");
-  SetFigureCaption(widgets.Bookings, team + ", bookings");
-  SetFigureCaption(widgets.Fouls, team + ", fouls");
   SetFigureCaption(widgets.Possession, team + (hasBall ? ", has the ball, possession" : ", possession"));
   SetName(widgets.Facts, team + ", facts");
   widgets.Team->setText(team);
   for (QFrame* const stripe : widgets.Stripes) ShowTeam(stripe, match_.Session(), side);
-  widgets.Goals->setText(QString::number(side.Goals));
   widgets.Penalties->setText(QStringLiteral("(%1)").arg(side.Penalties));
+  const bool pens = match_.Session().Controls.PensVisible;
   widgets.Penalties->setVisible(pens);
   widgets.Score->layout()->setContentsMargins(pens ? 0 : Twips(this, PenaltyRoom), 0, 0, 0);
-  widgets.Shots->setText(QString::number(side.Shots));
-  widgets.Corners->setText(QString::number(side.Corners));
-  widgets.Bookings->setText(QString::number(side.Bookings));
-  widgets.Fouls->setText(QString::number(side.Fouls));
   widgets.Possession->setText(QStringLiteral("%1%").arg(side.PossessionPercent));
   SetColours(widgets.Possession, hasBall ? LampColour(Lamp::Green) : palette().color(QPalette::Button),
              hasBall ? QColor(Qt::black) : palette().color(QPalette::ButtonText));
@@ -393,8 +389,7 @@ void MatchWindow::ShowButtons(const MatchControls& controls) {
   if (match_.Session().IsOver()) ShowEnd();
 }
 
-/// The exit button takes Enter over only when the result could be seen: whoever kicks by Enter presses it
-/// once more than there are kicks. The result of an instant match was asked for.
+/// Enter leaves only when the result could be seen. That of an instant match was asked for.
 void MatchWindow::ShowEnd() {
   if (std::exchange(wasOver_, true)) return;
   if (match_.Session().Setup.SimulationType == SimulationKind::InstantResult)

@@ -49,7 +49,6 @@ class MatchWindow final : public ScreenWindow, public MatchScreen {
   QWidget* BuildFacts(SideWidgets& side, int number);
   QWidget* BuildShootOut();
   QLayout* BuildLists();
-  void AddButtons();
   void ShowSide(const SideWidgets& widgets, const Side& side, bool hasBall) const;
   void ShowVenue(const MatchSession& session);
   void ShowClock(const MatchControls& controls);

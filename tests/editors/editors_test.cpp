@@ -60,7 +60,9 @@ TEST_F(EditorsTest, NothingChangesUnlessTheUserSaysYes) {
   AddTeams({"C"});
   TeamEditor teams = OpenTeams();
   StadEditor stadiums(folder_.Folder, desktop_);
+  teams.Combo1.Picked = teams.Combo1.PlaceOf("GK");
   AddPlayer(teams, "Twelfth", "5");
+  EXPECT_EQ(teams.Label5(), "GK");  // Who has no side.
   AddStadium(stadiums, "Park", "5");
   const auto before = folder_.Files.All();
   desktop_.Yes = false;

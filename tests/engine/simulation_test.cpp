@@ -37,7 +37,6 @@ class ClockTest : public ScreenTest {
 
 TEST_F(ClockTest, ALevelMatchGoesThroughAllPeriods) {
   Open(true, true);
-  match_->Timer1_Timer(screen_);  // Not started: no play.
   for (const int minutes : {45, 45, 15, 15}) {
     EXPECT_FALSE(Session().Controls.Timer1Enabled);
     EXPECT_EQ(Session().BallX, CentreSpotX);

@@ -13,15 +13,16 @@
 namespace kickwell {
 namespace {
 
-const ChampionshipId Top = {ChampionshipKind::League, "Top"};
-const ChampionshipId Cup = {ChampionshipKind::KnockOut, "Cup"};
+constexpr ChampionshipKind League = ChampionshipKind::League, KnockOut = ChampionshipKind::KnockOut;
+const ChampionshipId Top = {League, "Top"};
+const ChampionshipId Cup = {KnockOut, "Cup"};
 
 class StatisticsTest : public ScreenTest {
  protected:
   Ranking Table() { return StandingsTable(folder_.Folder, desktop_, "Top"); }
 
   KnockCharts Chart() { return {folder_.Folder, desktop_, "Cup"}; }
-  ChampionshipPlay Play(ChampionshipKind kind = ChampionshipKind::League) {
+  ChampionshipPlay Play(ChampionshipKind kind = League) {
     return {kind, folder_.Folder, desktop_, [](auto&) {}, {}};
   }
 };
@@ -92,7 +93,7 @@ TEST_F(StatisticsTest, TheChartShowsTheFixturesThatTheFileHolds) {
 TEST_F(StatisticsTest, AFileThatCannotBeReadIsReportedOnceAndLeavesTheScreenAsItIs) {
   Write("Leagues/Top.leg", "Top\n2\nA\nB\n");
   for (const char* file : {"Tournies/A.trn", "Tournies/B.trn"}) Write(file, "0\nA\n0\n");
-  ChampionshipPlay play = Play(ChampionshipKind::KnockOut);
+  ChampionshipPlay play = Play(KnockOut);
   LegEditor editor(folder_.Folder, desktop_, random_);
   editor.Load_Click(editor.KnockOut, 0);
   const std::pair<const char*, std::function<void()>> screens[] = {
@@ -114,8 +115,6 @@ TEST_F(StatisticsTest, AFileThatCannotBeReadIsReportedOnceAndLeavesTheScreenAsIt
   EXPECT_EQ(play.Championships.Text(), "A.trn");
   EXPECT_EQ(editor.KnockOut.Load.Text(), "A.trn");
 }
-
-constexpr ChampionshipKind League = ChampionshipKind::League, KnockOut = ChampionshipKind::KnockOut;
 
 class ChampionshipPlayTest : public ScreenTest {
  protected:

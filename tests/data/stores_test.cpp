@@ -1,8 +1,6 @@
 // What files may be called, how their text is encoded, and what the stores take from damaged ones.
 #include <gtest/gtest.h>
 
-#include <string>
-
 #include "data/championship_store.h"
 #include "data/file_names.h"
 #include "data/line_reader.h"

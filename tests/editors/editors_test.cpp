@@ -46,7 +46,6 @@ TEST_F(EditorsTest, WhatIsTypedIsCheckedInOrder) {
   EXPECT_EQ(AddTeam(teams, "A", "0"), Texts{"!: Please enter a skill value from 1 to 99."});
   EXPECT_EQ(AddTeam(teams, "A", "50"), Texts{"i: A already exists"});
   EXPECT_EQ(AddTeam(teams, "A:", "50"), Texts{"!: A: can't be used as a file name."});
-  EXPECT_EQ(teams.Text1, "A:");  // Stays for correction.
   EXPECT_EQ(AddPlayer(teams, "", "x"), Texts{"!: Please enter all the Player Details properly."});
   EXPECT_EQ(AddPlayer(teams, "A0", "5"), Texts{"i: A0 already exists"});
   StadEditor stadiums(folder_.Folder, desktop_);

@@ -96,6 +96,9 @@ TEST_F(FileRecordingTest, NothingIsRecordedOverAFileThatCannotBeReadAndTheUserIs
   EXPECT_EQ(desktop_.Taken(),
             Texts{"!: Match 1 of the league Cup was not recorded and is still to be played. The file "
                   "/kickwell/Leagues/Cup.rec can't be read: Permission denied."});
+  folder_.Files.Unreadable.clear();
+  Play(MatchMode::League, 2, 0);
+  EXPECT_FALSE(Exists("Leagues/Cup.sco"));  // The next match has none of its goals.
 }
 
 }  // namespace

@@ -175,6 +175,7 @@ TEST_F(ShootOutTest, AKickShowsWhatItIs) {
   shootOut_.kick_Click();
   EXPECT_EQ(controls.Shape2, (SpotPoint{1200, 0}));
   EXPECT_EQ(controls.penalty[1].Colour, Lamp::Green);
+  EXPECT_EQ(controls.Label3, "GOAL!");
   EXPECT_EQ(desktop_.Taken(), (Texts{"* boo", "* goal"}));
   EXPECT_EQ(s.Summary.Entries, Texts{"U3 (United)"});
   EXPECT_EQ(s.Commentary.Entries,
